@@ -1,0 +1,25 @@
+// Small rules for text that every reader of attributes shares. White space is that of the C locale.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace Backend::Text {
+
+// Without white space at both ends.
+std::string_view trim(std::string_view text);
+
+// The decimal integer at the start of the text, after white space and with an optional sign; what follows it is not
+// looked at. Nothing if there is no digit or the number needs more than 32 bits.
+std::optional<std::int32_t> readInteger(std::string_view text);
+
+// The same with a value for text that holds no such number.
+std::int32_t readInteger(std::string_view text, std::int32_t defaultValue);
+
+// The low byte of a number, as the fields of one byte keep it.
+constexpr signed char lowByte(std::int32_t number) {
+    return static_cast<signed char>(static_cast<unsigned char>(number & 0xff));
+}
+
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace Platform {
+
+// [any] Suspends the calling thread for at least this many milliseconds.
+void sleepMilliseconds(unsigned milliseconds);
+
+}
