@@ -17,7 +17,7 @@ inline constexpr std::uintmax_t MAX_SIZE = 64u << 20;
 std::optional<std::string> read(const std::string& path, std::uintmax_t maxSize = MAX_SIZE);
 
 // [any] Replaces or makes the file in one step: written beside the target, flushed, moved over it. After a false the
-// target is what it was before.
+// target is what it was before. False for folders, devices and read-only files.
 bool replace(const std::string& path, std::string_view content);
 
 // [any] Adds to the end of the file, which is made if missing.
@@ -39,7 +39,7 @@ std::vector<std::string> list(const std::string& folder, const std::string& exte
 // [any] The size in bytes; nothing if it is no plain file.
 std::optional<std::uintmax_t> size(const std::string& path);
 
-// [any] folder, the separator, name.
+// [any] folder, the separator unless the folder ends with one or is empty, name.
 std::string join(const std::string& folder, const std::string& name);
 
 }

@@ -2,6 +2,7 @@
 
 #include "Platform/WindowTypes.h"
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 
@@ -26,7 +27,8 @@ public:
     MessageThread& operator=(const MessageThread&) = delete;
 
     // [any] Runs body on a new thread that debuggers see under this name (at most 15 bytes are shown). The id is valid
-    // before the body begins. A thread that runs already is left alone. A thread that was joined may start again.
+    // before the body begins. A thread that runs already is left alone. A thread that was joined may start again, with
+    // an empty queue.
     void start(const char* name, std::function<void()> body);
 
     // [any] 0 before the first start; kept after the end.
