@@ -18,8 +18,8 @@ std::optional<std::int32_t> readInteger(std::string_view text);
 std::int32_t readInteger(std::string_view text, std::int32_t defaultValue);
 
 // The low byte of a number, as the fields of one byte keep it.
-constexpr signed char lowByte(std::int32_t number) {
-    return static_cast<signed char>(static_cast<unsigned char>(number & 0xff));
+constexpr char lowByte(std::int32_t number) {
+    return static_cast<char>(static_cast<unsigned char>(number & 0xff));
 }
 
 }

@@ -1,3 +1,49 @@
-int main() {
-    return 2;
+// The desk without a window.
+#include "Host/cli/ExitStatus.h"
+#include "Host/cli/ScriptCommand.h"
+#include "Platform/StandardStreams.h"
+
+#include <array>
+#include <cstdio>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+struct Command {
+    std::string_view name;
+    int (*run)(const std::vector<std::string>& arguments);
+    const char* help;
+};
+
+constexpr std::array COMMANDS = {
+    Command{"script", Host::Cli::runScript, "drives a desk from a text file and prints what it plays"},
+};
+
+void printHelp(std::FILE* stream) {
+    std::fputs("usage: mirel COMMAND [ARGUMENTS]\n\n", stream);
+    for (const Command& command : COMMANDS)
+        std::fprintf(stream, "  %-8.*s %s\n", static_cast<int>(command.name.size()), command.name.data(), command.help);
+}
+
+}
+
+int main(int argc, char** argv) {
+    Platform::useBinaryStandardStreams();
+    const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
+    if (arguments.empty()) {
+        printHelp(stderr);
+        return Host::Cli::FAILED;
+    }
+    const std::string& name = arguments.front();
+    if (name == "--help" || name == "help") {
+        printHelp(stdout);
+        return Host::Cli::DONE;
+    }
+    for (const Command& command : COMMANDS)
+        if (name == command.name)
+            return command.run({arguments.begin() + 1, arguments.end()});
+    std::fprintf(stderr, "mirel: unknown command \"%s\"; mirel --help lists all\n", name.c_str());
+    return Host::Cli::FAILED;
 }

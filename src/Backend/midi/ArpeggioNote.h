@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Backend/midi/MirelMidiMessage.h"
+
+namespace Backend::ArpeggioManagement {
+
+// A note that an arpeggio holds, with the routing of the event that brought it.
+class ArpeggioNote : public MidiEngine::MirelMidiMessage {
+public:
+    enum State : std::int32_t {
+        Held = 0,      // Not played yet (a chord's notes keep this state while they are held).
+        Released = 1,  // Its key is up.
+        Played = 2,    // Played at least once.
+    };
+
+    explicit ArpeggioNote(const MidiEngine::MirelMidiMessage& message) : MirelMidiMessage(message) {}
+
+    State state = Held;
+    std::int32_t lastPpq = -1;  // When the note was last touched.
+    bool playing = false;       // A Note On was sent and its Note Off was not.
+    bool finished = false;      // Ready to be removed.
+};
+
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Backend/core/XmlItem.h"
+
+#include <compare>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string_view>
+
+// A position in the grid of controls. Unset coordinates are -1.
+class Cell : public XmlItem {
+public:
+    Cell() = default;
+    Cell(std::int32_t row, std::int32_t column) : m_row(row), m_column(column) {}
+
+    // From "row,col". What can't be read stays -1.
+    explicit Cell(std::string_view text);
+
+    std::int32_t getRow() const { return m_row; }
+    std::int32_t getColumn() const { return m_column; }
+
+    // Both coordinates in one number: it decides equality, order and hash.
+    std::int32_t getKey() const {
+        return static_cast<std::int32_t>((static_cast<std::uint32_t>(m_row) << 16) |
+                                         static_cast<std::uint32_t>(m_column));
+    }
+
+    bool operator==(const Cell& other) const { return getKey() == other.getKey(); }
+    std::strong_ordering operator<=>(const Cell& other) const { return getKey() <=> other.getKey(); }
+
+    std::string toXmlString() const override;
+
+private:
+    std::int32_t m_row = -1;
+    std::int32_t m_column = -1;
+};
+
+template <>
+struct std::hash<Cell> {
+    std::size_t operator()(const Cell& cell) const noexcept { return std::hash<std::int32_t>()(cell.getKey()); }
+};

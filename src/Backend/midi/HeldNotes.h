@@ -1,0 +1,43 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace Backend::MidiEngine {
+
+// The notes that are held in a layer, oldest first. The same note may be held more than once.
+class HeldNotes {
+public:
+    struct HeldNote {
+        char note;
+        char velocity;
+    };
+
+    // When more are held the oldest is forgotten, so that keys that never go up can't fill the memory.
+    static constexpr std::size_t MAX_NOTES = 65536;
+
+    HeldNotes();
+
+    bool isEmpty() const { return m_notes.empty(); }
+
+    // The newest note. Only if there is one.
+    HeldNote last() const { return m_notes.back(); }
+
+    void add(char note, char velocity);
+
+    // Removes the newest entry of this note. True if nothing was held or if that entry was the newest of all; false if
+    // the note was not held or newer notes are.
+    bool remove(char note);
+
+    void clear();
+
+private:
+    std::uint32_t& count(char note) { return m_counts[static_cast<unsigned char>(note)]; }
+
+    std::vector<HeldNote> m_notes;
+    std::array<std::uint32_t, 256> m_counts{};  // How often each note is held.
+};
+
+}

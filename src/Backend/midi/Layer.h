@@ -1,0 +1,66 @@
+#pragma once
+
+#include "Backend/functions/NoteToggle.h"
+#include "Backend/functions/RelativeFixedValue.h"
+#include "Backend/midi/Arpeggio.h"
+#include "Backend/midi/Fraction.h"
+#include "Backend/midi/Note.h"
+#include "Backend/midi/SequenceSetting.h"
+
+#include <memory>
+#include <ostream>
+#include <string>
+
+class XmlElement;
+
+namespace Backend::SequenceManagement {
+class SequencePresetManager;
+}
+
+namespace Backend::Layers {
+
+// One rule that turns an incoming event into an outgoing one. Copies are deep.
+struct Layer {
+    static constexpr const char* TAG = "Layer";
+
+    Layer() = default;
+    ~Layer() = default;
+    Layer(const Layer& other);
+    Layer& operator=(const Layer& other);
+    Layer(Layer&&) = default;
+    Layer& operator=(Layer&&) = default;
+
+    // From its element. An attribute that is missing or can't be read takes the default below.
+    Layer(const XmlElement& element, const SequenceManagement::SequencePresetManager& presets);
+
+    // The element on lines of its own, indent tabs deep.
+    void writeXml(std::ostream& stream, int indent) const;
+
+    // One line of text for lists, in which outputName stands for the layer's output.
+    std::string describe(const std::string& outputName) const;
+
+    bool hasVelocityRange() const { return minVelocity != 0 || maxVelocity != 127; }
+
+    std::int32_t id = -1;
+    bool selected = false;  // On the screen; not saved.
+    bool mute = false;
+    bool mono = false;
+    bool solo = false;  // Not saved.
+    bool useNoteStack = true;
+    Note minNote = Note(std::uint8_t{0});
+    Note maxNote = Note(std::uint8_t{127});
+    char minVelocity = 0;
+    char maxVelocity = 127;
+    char zone = -1;    // -1: any.
+    char output = -1;  // -1: the default output.
+    char channel = 0;  // Negative: the default channel.
+    RelativeFixedValue transpose;
+    Note key;  // Of diatonic transposition; no note: chromatic.
+    RelativeFixedValue velocity;
+    Fraction compress;
+    NoteToggle toggle;
+    std::unique_ptr<ArpeggioManagement::Arpeggio> arpeggio;
+    SequenceManagement::SequenceSetting sequenceSetting;
+};
+
+}

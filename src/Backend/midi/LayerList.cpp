@@ -1,0 +1,48 @@
+#include "Backend/midi/LayerList.h"
+
+#include "Backend/core/VectorIterator.h"
+#include "Backend/core/XmlElement.h"
+#include "Backend/core/XmlWriter.h"
+
+namespace Backend::Layers {
+
+const char* const LayerList::DEFAULT_XML =
+    "\t<Layers merge=\"false\">"
+    "\t\t<Layer mute=\"false\" mono=\"false\" toggle=\"off\" useNoteStack=\"true\" minNote=\"C-1\" maxNote=\"G9\" "
+    "minVelocity=\"0\" maxVelocity=\"127\" zone=\"-1\" output=\"-1\" channel=\"0\" transpose=\"\" key=\"\" "
+    "velocity=\"\" compress=\"1_1\">"
+    "\t\t</Layer>"
+    "\t</Layers>";
+
+Layer* LayerList::find(const LayerId& id) {
+    if (id.value < 0 || static_cast<std::size_t>(id.value) >= m_layers.size())
+        return nullptr;
+    return &m_layers[static_cast<std::size_t>(id.value)];
+}
+
+Component::IteratorIF<Layer>* LayerList::createIterator() {
+    return new Component::VectorIterator<Layer>(m_layers);
+}
+
+void LayerList::add(Layer layer) {
+    layer.id = static_cast<std::int32_t>(m_layers.size());
+    m_layers.push_back(std::move(layer));
+}
+
+void LayerList::readXml(const XmlElement& element, const SequenceManagement::SequencePresetManager& presets) {
+    if (!element.getBoolAttribute("merge", false))
+        clear();
+    for (auto child = element.begin(); child != element.end(); child.next())
+        if (child.getName() == Layer::TAG)
+            add(Layer(child, presets));
+}
+
+void LayerList::writeXml(std::ostream& stream, int indent, bool merge) const {
+    stream << getIndentation(indent) << getStartTagBegin(TAG) << getAttributeText("merge", merge) << getStartTagEnd()
+           << '\n';
+    for (const Layer& layer : m_layers)
+        layer.writeXml(stream, indent + 1);
+    stream << getIndentation(indent) << getEndTag(TAG) << '\n';
+}
+
+}

@@ -1,0 +1,183 @@
+#include "Backend/midi/MidiEngine.h"
+
+#include "Backend/core/MirelIF.h"
+#include "Backend/core/WindowMessages.h"
+#include "Backend/core/Text.h"
+#include "Backend/input/ControlMessageManager.h"
+#include "Backend/midi/LayerList.h"
+#include "Backend/midi/ZoneMap.h"
+#include "Platform/WindowSink.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Backend::MidiEngine {
+
+namespace {
+
+constexpr double PPQ_PER_QUARTER = 480.0;
+constexpr double MILLISECONDS_PER_MINUTE = 60000.0;
+constexpr std::int32_t PPQ_OFFSET = 50000000;
+
+// Room for what waits between two slices, so that posting allocates only in a flood.
+constexpr std::size_t USUAL_PENDING_MESSAGES = 1024;
+
+}
+
+MidiEngine::MidiEngine(MirelIF& mirel, MidiPlayer& midiPlayer)
+    : m_mirel(mirel), m_midiPlayer(midiPlayer), m_messageManager(*this) {
+    m_pendingMessages.reserve(USUAL_PENDING_MESSAGES);
+}
+
+MidiEngine::~MidiEngine() = default;
+
+void MidiEngine::initialize(int defaultOutput, bool midiThru) {
+    setDefaultMidiOutput(defaultOutput);
+    m_midiThru = midiThru;
+    m_messageManager.start();
+}
+
+void MidiEngine::end() {
+    m_messageManager.stop();
+}
+
+std::int32_t MidiEngine::milliseconds2Ppq(double milliseconds, int tempo) {
+    const double ppq = std::floor(tempo / MILLISECONDS_PER_MINUTE * milliseconds * PPQ_PER_QUARTER + 0.5);
+    return static_cast<std::int32_t>(std::trunc(ppq)) + PPQ_OFFSET;
+}
+
+void MidiEngine::setDefaultMidiOutput(int output) {
+    m_defaultMidiOutput = Text::lowByte(output);
+}
+
+void MidiEngine::setLayerList(const Layers::LayerList& layers) {
+    m_arpeggioLayers.clear();
+    m_layers.clear();
+    m_layers.reserve(layers.size());
+    for (const Layers::Layer& layer : layers)
+        m_layers.emplace_back(layer, *this);
+    for (PlayingLayer& layer : m_layers)
+        if (layer.getArpeggio())
+            m_arpeggioLayers.push_back(&layer);
+    m_anyVelocityRange = std::any_of(layers.begin(), layers.end(),
+                                     [](const Layers::Layer& layer) { return layer.hasVelocityRange(); });
+    m_anySoloedLayers = std::any_of(layers.begin(), layers.end(), [](const Layers::Layer& layer) { return layer.solo; });
+}
+
+void MidiEngine::setZoneMap(const Zones::ZoneMap& zones) {
+    for (auto& zone : m_zones)
+        zone.reset();
+    for (const auto& [id, zone] : zones)
+        m_zones[static_cast<unsigned char>(id)] = std::make_unique<PlayingZone>(zone);
+}
+
+void MidiEngine::setZone(const Zones::Zone& zone) {
+    if (const auto& playing = m_zones[static_cast<unsigned char>(zone.id)])
+        playing->setTranspose(zone.transpose);
+}
+
+bool MidiEngine::isMidiPlayerThread() const {
+    return !m_midiPlayerRunning || Platform::currentThreadId() == m_midiPlayer.getThreadId();
+}
+
+void MidiEngine::postPlayMidi(const MirelMidiMessage& message) {
+    const bool isReset = message.isMirelReset() || message.isMirelHardReset();
+    if (m_pendingMessages.size() < MAX_PENDING_MESSAGES || isReset)
+        m_pendingMessages.push_back(message);
+}
+
+void MidiEngine::postUpdateControl(const MirelMidiMessage& message) {
+    m_mirel.getControlMessageManager().postUpdateControl(message);
+}
+
+void MidiEngine::setStartTime(std::int32_t ppq) {
+    if (m_startTime < 0)
+        m_startTime = ppq;
+}
+
+void MidiEngine::updateStartTime() {
+    const bool anyRunning =
+        std::any_of(m_arpeggioLayers.begin(), m_arpeggioLayers.end(),
+                    [](const PlayingLayer* layer) { return layer->getArpeggio()->getRunningSince() >= 0; });
+    if (!anyRunning)
+        m_startTime = -1;
+}
+
+HWND MidiEngine::getGuiWindowHandle() const {
+    return m_mirel.getGuiWindowHandle();
+}
+
+void MidiEngine::playMidi(const MirelMidiMessage& in) {
+    // Channels 0 to 15 and the byte 255, outputs from -1 up.
+    if (static_cast<unsigned char>(in.getChannel() + 1) > 16 || in.getOutput() < MirelMidiMessage::DEFAULT_OUTPUT)
+        return;
+    MirelMidiMessage message(in);
+    if (const auto& zone = m_zones[static_cast<unsigned char>(message.getZone())])
+        message.setD1(zone->mapNote(message));
+
+    if (message.isNoteOn())
+        m_noteVelocities.store(message);
+    else if (message.isNoteOff() && m_anyVelocityRange)
+        message.setD2(m_noteVelocities.find(message));  // So that it meets the layers that its Note On met.
+
+    if (message.isDefaultOutput() && message.isDefaultChannel())
+        playThroughLayers(message);
+    else
+        playPastLayers(message);
+}
+
+void MidiEngine::playPastLayers(MirelMidiMessage& message) {
+    const char originalOutput = message.getOutput();
+    const char originalChannel =
+        message.isDefaultChannel() ? MirelMidiMessage::DEFAULT_CHANNEL : message.getChannel();
+    if (message.isDefaultOutput())
+        message.setOutput(m_defaultMidiOutput);
+    if (message.isDefaultChannel())
+        message.setChannel(0);
+    if (!isOutputEnabled(message.getOutput()))
+        return;
+    if (!message.isNote()) {
+        MirelMidiMessage original(message);
+        original.setOutput(originalOutput);
+        original.setChannel(originalChannel);
+        postUpdateControl(original);
+    }
+    playMidiInternal(message, false);
+}
+
+void MidiEngine::playThroughLayers(const MirelMidiMessage& message) {
+    TargetSet targets;
+    for (PlayingLayer& layer : m_layers) {
+        const bool isSilent = m_anySoloedLayers ? !layer.getLayer().solo : layer.getLayer().mute;
+        if (isSilent)
+            continue;
+        if (message.isNoteOn())
+            layer.noteOn(message);
+        else if (message.isNoteOff())
+            layer.noteOff(message);
+        else
+            layer.otherEvent(message, targets);
+    }
+}
+
+void MidiEngine::playMidiInternal(const MirelMidiMessage& message, bool stackNotes) {
+    bool isHeldBack = false;
+    if (message.isNote()) {
+        if (std::int32_t* count = m_noteCounts.find(message)) {
+            if (message.isNoteOn()) {
+                ++*count;
+            } else if (*count > 0) {
+                --*count;
+                isHeldBack = stackNotes && *count > 0;
+            }
+        }
+    }
+    const bool isFromInput = message.getInput() >= 0;
+    if (!isHeldBack && (m_midiThru || !isFromInput))
+        m_midiPlayer.playMidi(message);
+    if (const HWND window = getGuiWindowHandle())
+        Platform::postToWindow(window, WindowMessages::DISPLAY_MIDI_OUTPUT_EVENT, message.getWparam(),
+                               static_cast<LPARAM>(message.getLparam()));
+}
+
+}

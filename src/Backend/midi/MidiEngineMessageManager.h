@@ -1,0 +1,117 @@
+#pragma once
+
+#include "Backend/midi/MidiPort.h"
+#include "Backend/midi/MirelMidiMessage.h"
+#include "Backend/midi/Zone.h"
+#include "Platform/MessageThread.h"
+
+#include <vector>
+
+namespace Backend::Layers {
+class LayerList;
+}
+
+namespace Backend::Zones {
+class ZoneMap;
+}
+
+namespace Backend::MidiEngine {
+
+class MidiEngine;
+
+// The engine's front door. Requests are posted from any thread and carried out one at a time on the engine's own thread,
+// each under the engine's lock. A post never fails and loses nothing, but blocks its caller while the queue is full or
+// the thread has not started. Requests of one thread are carried out in the order in which it posted them.
+class MidiEngineMessageManager {
+public:
+    explicit MidiEngineMessageManager(MidiEngine& midiEngine);
+
+    // The thread must have been stopped.
+    ~MidiEngineMessageManager();
+
+    MidiEngineMessageManager(const MidiEngineMessageManager&) = delete;
+    MidiEngineMessageManager& operator=(const MidiEngineMessageManager&) = delete;
+
+    // [backend]
+    void start();
+
+    // [backend] Returns when the thread has ended. What was posted after this call is dropped.
+    void stop();
+
+    // [any] Queues an event for the next time slice, or for its own time if it has one.
+    void postPlayMidi(const MirelMidiMessage& message);
+
+    // [any] The ports, in the order of their indices.
+    void postSetMidiInputPorts(const std::vector<MidiInputPort>& ports);
+    void postSetMidiOutputPorts(const std::vector<MidiOutputPort>& ports);
+
+    // [any] Passed on to the host.
+    void postEnableMidiInput(int port, bool enable);
+    void postEnableMidiOutput(int port, bool enable);
+
+    // [any] -1 for none; only the low byte is kept.
+    void postSetDefaultMidiOutput(int output);
+
+    // [any] Replaces all layers. All that sounds ends before, which takes until the next time slice.
+    void postSetLayerList(const Layers::LayerList& layers);
+
+    // [any] Replaces all zones. Keys that are down end on the notes that they were played as only if no zone moved them.
+    void postSetZoneMap(const Zones::ZoneMap& zones);
+
+    // [any] Changes the transposition of one zone; notes that sound are not affected.
+    void postSetZone(const Zones::Zone& zone);
+
+    // [any] Beats per minute, passed on to the host as it is.
+    void postSetTempo(int bpm);
+
+    // [any] An input, or -1 for the internal clock; passed on to the host. Only the low byte is kept.
+    void postSetTempoSource(char input);
+
+    // [any] Whether events from MIDI inputs reach the outputs.
+    void postSetMidiThru(bool midiThru);
+
+    // [any; not under the engine's lock, not the player's thread] Straight to the engine, past the queue.
+    void sendReset();
+    void sendHardReset();
+
+    // [any]
+    bool currentThreadIsManagerThread() const;
+
+    // [any other thread] Returns when all requests posted so far have been carried out.
+    void waitUntilIdle() { m_thread.waitUntilIdle(); }
+
+    // [any] Whether there is nothing to do at this moment.
+    bool isIdle() const { return m_thread.isIdle(); }
+
+    // [engine] Carries one request out. Numbers that are none of its requests are ignored.
+    void handleMessage(const MSG& message);
+
+private:
+    void run();
+    void post(UINT number, WPARAM wParam = 0, LPARAM lParam = 0);
+    void postPlayMidiViaParam(const MirelMidiMessage& message);
+    void postPlayMidiViaAlloc(const MirelMidiMessage& message);
+
+    void handleRequest(const MSG& message);
+    void handlePlayMidiViaParam(const MSG& message);
+    void handlePlayMidiViaAlloc(const MSG& message);
+    void handleSetMidiInputPorts(const MSG& message);
+    void handleSetMidiOutputPorts(const MSG& message);
+    void handleEnableMidiInput(const MSG& message);
+    void handleEnableMidiOutput(const MSG& message);
+    void handleSetDefaultMidiOutput(const MSG& message);
+    void handleSetLayerList(const MSG& message);
+    void handleSetZoneMap(const MSG& message);
+    void handleSetZone(const MSG& message);
+    void handleSetTempo(const MSG& message);
+    void handleSetTempoSource(const MSG& message);
+    void handleSetMidiThru(const MSG& message);
+
+    // Destroys what a message carries without carrying it out.
+    static void discard(const MSG& message);
+
+    MidiEngine& m_midiEngine;
+    Platform::MessageThread m_thread;
+};
+
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Backend/midi/MirelMidiMessage.h"
+#include "Backend/midi/Zone.h"
+
+#include <array>
+
+namespace Backend::MidiEngine {
+
+// A zone in the engine, with the notes it has sent. Used under the engine's lock.
+class PlayingZone {
+public:
+    explicit PlayingZone(const Zones::Zone& zone) : m_zone(zone) { m_sentNotes.fill(Note::NONE); }
+
+    // Takes over the transposition alone: notes that sound keep what they were sent as.
+    void setTranspose(char transpose) { m_zone.transpose = transpose; }
+
+    // The first data byte that the event goes on with. A Note On is transposed; a Note Off gets the note that its last
+    // Note On was sent as, and its own number if there was none; other events are not touched.
+    char mapNote(const MirelMidiMessage& message);
+
+private:
+    Zones::Zone m_zone;
+    std::array<std::uint8_t, 256> m_sentNotes;
+};
+
+}

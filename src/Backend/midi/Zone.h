@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Backend/midi/Note.h"
+#include "Backend/midi/ZoneId.h"
+
+namespace Backend::Zones {
+
+// A numbered group of events that can be transposed on its own.
+struct Zone {
+    static constexpr const char* TAG = "Zone";
+
+    ZoneId id = 0;
+    char transpose = 0;  // Half-steps.
+    Note lowNote;        // The range of the keys in the zone, for display; no note if there are none.
+    Note highNote;
+    bool selected = false;  // On the screen.
+};
+
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "Backend/core/ElementCollection.h"
+#include "Backend/midi/Zone.h"
+
+#include <ostream>
+#include <unordered_map>
+
+class XmlElement;
+
+namespace Backend::Zones {
+
+// The zones of a program by their numbers.
+class ZoneMap : public Component::ElementCollection<ZoneId, Zone> {
+public:
+    static constexpr const char* TAG = "Zones";
+
+    // Null if there is no such zone.
+    Zone* find(const ZoneId& id) override;
+
+    Component::IteratorIF<Zone>* createIterator() override;
+
+    std::size_t size() const { return m_zones.size(); }
+    auto begin() { return m_zones.begin(); }
+    auto end() { return m_zones.end(); }
+    auto begin() const { return m_zones.begin(); }
+    auto end() const { return m_zones.end(); }
+
+    // Adds a zone, or replaces the one of its id.
+    void set(const Zone& zone) { m_zones.insert_or_assign(zone.id, zone); }
+
+    // Reads transpositions. A zone that the element does not name gets 0, one that is new gets no note range, and the
+    // lowest zone is selected afterwards.
+    void readXml(const XmlElement& element);
+
+    // The element on lines of its own, indent tabs deep, with the zones in the order of their numbers.
+    void writeXml(std::ostream& stream, int indent, bool merge) const;
+
+    // Selects the zone with the lowest number and no other.
+    void selectLowest();
+
+private:
+    static constexpr std::size_t BUCKETS = 8;
+
+    std::unordered_map<ZoneId, Zone> m_zones{BUCKETS};
+};
+
+}

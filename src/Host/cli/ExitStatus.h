@@ -1,0 +1,10 @@
+#pragma once
+
+namespace Host::Cli {
+
+enum ExitStatus : int {
+    DONE = 0,
+    FAILED = 2,  // What was asked for could not be done; one line on standard error says why.
+};
+
+}

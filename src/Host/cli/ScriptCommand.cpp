@@ -1,0 +1,89 @@
+#include "Host/cli/ScriptCommand.h"
+
+#include "Host/cli/ExitStatus.h"
+#include "Host/cli/ScriptCommands.h"
+#include "Host/cli/ScriptError.h"
+#include "Platform/Files.h"
+
+#include <cstdio>
+#include <optional>
+
+namespace Host::Cli {
+
+namespace {
+
+constexpr const char* USAGE = "usage: mirel script [--show] [--updates] [--data DIR] [FILE]\n";
+constexpr const char* STANDARD_INPUT = "-";
+
+struct ScriptOptions {
+    ScriptPlayer::Options tell;
+    std::string dataFolder;
+    std::string file = STANDARD_INPUT;
+};
+
+std::optional<ScriptOptions> parseOptions(const std::vector<std::string>& arguments) {
+    ScriptOptions options;
+    bool hasFile = false;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string& argument = arguments[i];
+        if (argument == "--show") {
+            options.tell.show = true;
+        } else if (argument == "--updates") {
+            options.tell.updates = true;
+        } else if (argument == "--data" && i + 1 < arguments.size()) {
+            options.dataFolder = arguments[++i];
+        } else if (!hasFile && (argument == STANDARD_INPUT || !argument.starts_with('-'))) {
+            options.file = argument;
+            hasFile = true;
+        } else {
+            return std::nullopt;
+        }
+    }
+    return options;
+}
+
+std::string readStandardInput() {
+    std::string text;
+    char buffer[65536];
+    for (std::size_t count; (count = std::fread(buffer, 1, sizeof(buffer), stdin)) > 0;)
+        text.append(buffer, count);
+    return text;
+}
+
+void print(const std::string& text) {
+    std::fwrite(text.data(), 1, text.size(), stdout);
+}
+
+}
+
+int runScript(const std::vector<std::string>& arguments) {
+    const auto options = parseOptions(arguments);
+    if (!options) {
+        std::fputs(USAGE, stderr);
+        return FAILED;
+    }
+    const auto text = options->file == STANDARD_INPUT ? readStandardInput() : Platform::Files::read(options->file);
+    if (!text) {
+        std::fprintf(stderr, "%s: can't be read\n", options->file.c_str());
+        return FAILED;
+    }
+
+    const std::string sequences =
+        options->dataFolder.empty() ? std::string() : Platform::Files::join(options->dataFolder, "Sequences");
+    ScriptDesk desk(options->tell, sequences);
+    ScriptReader reader(*text);
+    try {
+        while (const auto line = reader.nextCommand()) {
+            runScriptCommand(*line, reader, desk);
+            print(desk.takeOutput());
+        }
+    } catch (const ScriptError& error) {
+        std::fflush(stdout);
+        std::fprintf(stderr, "%s:%d: %s\n", options->file.c_str(), error.getLine(), error.what());
+        return FAILED;
+    }
+    std::fflush(stdout);
+    return DONE;
+}
+
+}

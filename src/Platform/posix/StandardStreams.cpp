@@ -1,0 +1,8 @@
+#include "Platform/StandardStreams.h"
+
+namespace Platform {
+
+// They always do.
+void useBinaryStandardStreams() {}
+
+}

@@ -1,0 +1,146 @@
+#include "Backend/midi/MirelMidiMessage.h"
+
+#include <gtest/gtest.h>
+
+namespace Backend::MidiEngine {
+namespace {
+
+TEST(MirelMidiMessageTest, DefaultsMeanNoneAndAtOnce) {
+    const MirelMidiMessage message;
+    EXPECT_EQ(message.getZone(), -1);
+    EXPECT_EQ(message.getOutput(), -1);
+    EXPECT_EQ(message.getInput(), -1);
+    EXPECT_TRUE(message.isDefaultChannel());
+    EXPECT_TRUE(message.isDefaultOutput());
+    EXPECT_EQ(message.getChannel(), 0);
+    EXPECT_EQ(message.getStatus(), 0u);
+    EXPECT_EQ(message.getFromControl(), Cell(-1, -1));
+    EXPECT_FALSE(message.isMirelReset());
+    EXPECT_FALSE(message.isMirelHardReset());
+    EXPECT_EQ(message.getPpq(), -1);
+    for (const char constant : {MirelMidiMessage::DEFAULT_CHANNEL, MirelMidiMessage::DEFAULT_INPUT,
+                                MirelMidiMessage::DEFAULT_OUTPUT, MirelMidiMessage::DEFAULT_ZONE})
+        EXPECT_EQ(constant, -1);
+}
+
+TEST(MirelMidiMessageTest, FullConstructorTakesEverything) {
+    const MirelMidiMessage message(MidiMessage::NoteOn, 60, 100, 3, 4, 5, 6, 700);
+    EXPECT_EQ(message.getMidiMessage(), MidiMessage(MidiMessage::NoteOn, 60, 100, 3));
+    EXPECT_EQ(message.getOutput(), 4);
+    EXPECT_EQ(message.getZone(), 5);
+    EXPECT_EQ(message.getInput(), 6);
+    EXPECT_EQ(message.getPpq(), 700);
+    EXPECT_FALSE(message.isDefaultChannel());
+    EXPECT_EQ(message.getFromControl(), Cell(-1, -1));
+}
+
+TEST(MirelMidiMessageTest, NegativeChannelIsTheDefaultChannelStoredAsZero) {
+    const MirelMidiMessage message(MidiMessage::NoteOn, 60, 100, -1, -1, -1, -1, -1);
+    EXPECT_TRUE(message.isDefaultChannel());
+    EXPECT_EQ(message.getChannel(), 0);
+    EXPECT_EQ(MirelMidiMessage(MidiMessage::NoteOn, 60, 100, 99, -1, -1, -1, -1).getChannel(), 15);
+}
+
+TEST(MirelMidiMessageTest, SetChannelKeepsAnyChannelAndFollowsItsSign) {
+    MirelMidiMessage message;
+    message.setChannel(99);
+    EXPECT_EQ(message.getChannel(), 99);
+    EXPECT_FALSE(message.isDefaultChannel());
+    message.setChannel(-5);
+    EXPECT_EQ(message.getChannel(), 0);
+    EXPECT_TRUE(message.isDefaultChannel());
+    message.setChannel(0);
+    EXPECT_FALSE(message.isDefaultChannel());
+}
+
+TEST(MirelMidiMessageTest, SetStatusStoresItsArgumentUnchanged) {
+    MirelMidiMessage message;
+    message.setStatus(static_cast<MidiMessage::MessageType>(0x93));
+    EXPECT_EQ(message.getStatus(), 0x93u);
+}
+
+TEST(MirelMidiMessageTest, ControlConstructorReplacesTheChannelUnlessItIsNegative) {
+    const MidiMessage event(MidiMessage::ControllerChange, 7, 100, 3);
+    const MirelMidiMessage own(event, 1, 99, 2, Cell(4, 5));
+    EXPECT_EQ(own.getChannel(), 99);
+    EXPECT_FALSE(own.isDefaultChannel());
+    EXPECT_EQ(own.getOutput(), 1);
+    EXPECT_EQ(own.getZone(), 2);
+    EXPECT_EQ(own.getInput(), -1);
+    EXPECT_EQ(own.getPpq(), -1);
+    EXPECT_EQ(own.getFromControl(), Cell(4, 5));
+    const MirelMidiMessage defaulted(event, 1, -1, 2, Cell());
+    EXPECT_EQ(defaulted.getChannel(), 0);
+    EXPECT_TRUE(defaulted.isDefaultChannel());
+}
+
+TEST(MirelMidiMessageTest, WordsOfADefaultMessageRestoreIt) {
+    const MirelMidiMessage message;
+    EXPECT_EQ(message.getLparam(), 0xFFFF01FF);
+    const MirelMidiMessage restored(message.getWparam(), message.getLparam());
+    EXPECT_EQ(restored.getZone(), -1);
+    EXPECT_EQ(restored.getOutput(), -1);
+    EXPECT_EQ(restored.getInput(), -1);
+    EXPECT_TRUE(restored.isDefaultChannel());
+}
+
+TEST(MirelMidiMessageTest, WordsCarryTheRoutingAndNeitherTimeNorControl) {
+    MirelMidiMessage message(MidiMessage::NoteOn, 60, 100, 3, 4, 5, 6, 700);
+    message.setFromControl(Cell(1, 2));
+    EXPECT_EQ(message.getLparam(), 0x05060004);
+    const MirelMidiMessage restored(message.getWparam(), message.getLparam());
+    EXPECT_EQ(restored.getMidiMessage(), message.getMidiMessage());
+    EXPECT_EQ(restored.getOutput(), 4);
+    EXPECT_EQ(restored.getZone(), 5);
+    EXPECT_EQ(restored.getInput(), 6);
+    EXPECT_FALSE(restored.isDefaultChannel());
+    EXPECT_EQ(restored.getPpq(), -1);
+    EXPECT_EQ(restored.getFromControl(), Cell(-1, -1));
+}
+
+TEST(MirelMidiMessageTest, AnyNonZeroChannelFlagMeansDefault) {
+    EXPECT_TRUE(MirelMidiMessage(0x90, 0x0200).isDefaultChannel());
+    EXPECT_FALSE(MirelMidiMessage(0x90, 0xFF0000FF).isDefaultChannel());
+}
+
+TEST(MirelMidiMessageTest, OneWordGivesTheEventAndDefaults) {
+    const MirelMidiMessage message(std::uint64_t{0x03643C93});
+    EXPECT_EQ(message.getStatus(), 0x90u);
+    EXPECT_EQ(message.getChannel(), 3);
+    EXPECT_TRUE(message.isDefaultChannel());
+    EXPECT_EQ(message.getMidiOutShortMsg(), 0x00643C93u);
+}
+
+TEST(MirelMidiMessageTest, FactoriesMakeWhatSilences) {
+    const auto sound = MirelMidiMessage::createAllSoundOffCC(2, 5);
+    EXPECT_EQ(sound.getMidiMessage(), MidiMessage(MidiMessage::ControllerChange, 120, 0, 5));
+    EXPECT_EQ(sound.getOutput(), 2);
+    EXPECT_EQ(sound.getZone(), -1);
+    EXPECT_EQ(sound.getInput(), -1);
+    EXPECT_FALSE(sound.isDefaultChannel());
+    EXPECT_EQ(MirelMidiMessage::createAllControllersOffCC(2, 99).getMidiMessage(),
+              MidiMessage(MidiMessage::ControllerChange, 121, 0, 15));
+    const auto defaulted = MirelMidiMessage::createAllSoundOffCC(2, -1);
+    EXPECT_TRUE(defaulted.isDefaultChannel());
+    EXPECT_EQ(defaulted.getChannel(), 0);
+    const auto reset = MirelMidiMessage::createSystemReset(3);
+    EXPECT_EQ(reset.getStatus(), 255u);
+    EXPECT_EQ(reset.getOutput(), 3);
+    EXPECT_FALSE(reset.isDefaultChannel());
+}
+
+TEST(MirelMidiMessageTest, ResetRequestsAreMarked) {
+    EXPECT_TRUE(MirelMidiMessage::createMirelReset().isMirelReset());
+    EXPECT_FALSE(MirelMidiMessage::createMirelReset().isMirelHardReset());
+    EXPECT_TRUE(MirelMidiMessage::createMirelHardReset().isMirelHardReset());
+}
+
+TEST(MirelMidiMessageTest, TimedFromZeroOn) {
+    MirelMidiMessage message;
+    EXPECT_FALSE(message.isTimedEvent());
+    message.setPpq(0);
+    EXPECT_TRUE(message.isTimedEvent());
+}
+
+}
+}
