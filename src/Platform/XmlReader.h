@@ -23,13 +23,15 @@ struct XmlNode {
 inline constexpr int XML_MAX_DEPTH = 200;
 
 // What else a sane file never reaches, so that a bad one can't take all memory or time: attributes of one element,
-// and elements, attributes, comments and CDATA of the document.
+// elements, attributes, comments and CDATA of the document, and bytes of one tag, comment, CDATA or text.
 inline constexpr std::size_t XML_MAX_ATTRIBUTES = 1000;
 inline constexpr std::size_t XML_MAX_NODES = 2000000;
+inline constexpr std::size_t XML_MAX_RUN = 8u << 20;
 
 // [any] Reads a whole document: UTF-8, UTF-16, or as its declaration says ISO-8859-1, windows-1252 or US-ASCII. Null if
 // it is not well-formed, not in its encoding, holds a DOCTYPE, is larger than Files::MAX_SIZE or beyond the limits
-// above. External entities are never read.
+// above. External entities are never read. Parsers differ in namespaces, so there are none: declarations of namespaces
+// are left out of the tree, and a name with a prefix other than "xml" is refused.
 std::unique_ptr<XmlNode> readXml(std::string_view document);
 
 // A thread that reads XML all the time keeps the system's parser ready between these two. Not required for readXml.

@@ -282,10 +282,13 @@ public:
 
     bool run() {
         for (;;) {
+            const std::size_t textStart = m_position;
             m_position = m_text.find('<', m_position);
             if (m_position == std::string_view::npos)
                 return true;
-            if (++m_nodes > XML_MAX_NODES || !passMarkup())
+            const std::size_t markupStart = m_position;
+            if (++m_nodes > XML_MAX_NODES || !passMarkup() || markupStart - textStart > XML_MAX_RUN ||
+                m_position - markupStart > XML_MAX_RUN)
                 return false;
         }
     }
@@ -324,8 +327,15 @@ private:
         return !sameLetters(content.substr(0, content.find_first_of(WHITE_SPACE)), "xml");
     }
 
+    // Element names have no prefix; attribute names may have those that XML itself defines.
+    bool mayHavePrefix(std::size_t nameStart, std::size_t colon) const {
+        const std::string_view prefix = m_text.substr(nameStart, colon - nameStart);
+        return nameStart != m_position + 1 && (prefix == "xml" || prefix == "xmlns");
+    }
+
     bool passStartTag() {
         std::size_t attributes = 0;
+        std::size_t nameStart = m_position + 1;
         char quote = '\0';
         for (std::size_t i = m_position + 1; i < m_text.size(); ++i) {
             const char character = m_text[i];
@@ -334,6 +344,11 @@ private:
             if (quote != '\0') {
                 if (character == quote)
                     quote = '\0';
+            } else if (isWhiteSpace(character)) {
+                nameStart = i + 1;
+            } else if (character == ':') {
+                if (!mayHavePrefix(nameStart, i))
+                    return false;
             } else if (character == '"' || character == '\'') {
                 quote = character;
                 ++m_nodes;

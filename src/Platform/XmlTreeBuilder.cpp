@@ -16,7 +16,8 @@ void XmlTreeBuilder::startElement(std::string_view name) {
 }
 
 void XmlTreeBuilder::addAttribute(std::string_view name, std::string_view value) {
-    m_path.back()->attributes.emplace_back(name, value);
+    if (name != "xmlns" && !name.starts_with("xmlns:"))
+        m_path.back()->attributes.emplace_back(name, value);
 }
 
 void XmlTreeBuilder::endElement() {
@@ -26,12 +27,19 @@ void XmlTreeBuilder::endElement() {
 
 void XmlTreeBuilder::addText(std::string_view text) {
     m_text += text;
+    m_afterCData = m_afterCData && text.empty();
 }
 
 void XmlTreeBuilder::addCData(std::string_view text) {
+    if (m_path.empty() || text.empty())
+        return;
+    if (m_afterCData) {
+        m_path.back()->children.back().text += text;
+        return;
+    }
     endTextRun();
-    if (!m_path.empty() && !text.empty())
-        m_path.back()->children.emplace_back().text = text;
+    m_path.back()->children.emplace_back().text = text;
+    m_afterCData = true;
 }
 
 void XmlTreeBuilder::addOther() {
@@ -48,6 +56,7 @@ void XmlTreeBuilder::endTextRun() {
     if (!m_path.empty() && m_text.find_first_not_of(" \t\r\n") != std::string::npos)
         m_path.back()->children.emplace_back().text = std::move(m_text);
     m_text.clear();
+    m_afterCData = false;
 }
 
 }

@@ -13,12 +13,16 @@ namespace Platform {
 class XmlTreeBuilder {
 public:
     void startElement(std::string_view name);
+
+    // Declarations of namespaces are left out.
     void addAttribute(std::string_view name, std::string_view value);
+
     void endElement();
 
     // Text between two markups may come in several pieces.
     void addText(std::string_view text);
 
+    // Neighbouring sections become one.
     void addCData(std::string_view text);
 
     // A comment or a processing instruction.
@@ -33,6 +37,7 @@ private:
     std::unique_ptr<XmlNode> m_root;
     std::vector<XmlNode*> m_path;  // From the root to the open element. Only the last one's children change.
     std::string m_text;            // Of the run that is not ended yet.
+    bool m_afterCData = false;     // The open element's last child is a section that the next one continues.
 };
 
 }

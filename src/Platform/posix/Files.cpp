@@ -113,9 +113,10 @@ bool replace(const std::string& path, std::string_view content) {
     const auto named = systemPath(path);
     if (!named)
         return false;
-    std::error_code error;
     // A link stays a link; the file behind it is replaced.
-    const fs::path target = fs::is_symlink(*named, error) ? fs::weakly_canonical(*named, error) : *named;
+    std::error_code notThere;
+    std::error_code error;
+    const fs::path target = fs::is_symlink(*named, notThere) ? fs::weakly_canonical(*named, error) : *named;
     struct stat old = {};
     const bool exists = ::stat(target.c_str(), &old) == 0;
     if (error || (exists && (!S_ISREG(old.st_mode) || ::access(target.c_str(), W_OK) != 0)))

@@ -111,8 +111,8 @@ std::unique_ptr<XmlNode> parseXml(const std::string& text) {
     Progress state;
     *context->sax = handler();
     context->userData = &state;
-    // Large texts are fine: the size of the whole is limited already.
-    xmlCtxtUseOptions(context.get(), XML_PARSE_NONET | XML_PARSE_HUGE);
+    // Entities are the predefined ones alone, as there is no DOCTYPE; without the substitution "&amp;" would stay one.
+    xmlCtxtUseOptions(context.get(), XML_PARSE_NONET | XML_PARSE_NOENT | XML_PARSE_HUGE);
     const bool parsed = xmlParseDocument(context.get()) == 0 && context->wellFormed == 1;
     context->userData = nullptr;
     return parsed && !state.outOfMemory ? state.builder.takeRoot() : nullptr;

@@ -1,0 +1,13 @@
+#include "Platform/DebugSink.h"
+
+#include <gtest/gtest.h>
+
+namespace Platform {
+namespace {
+
+TEST(WindowsDebugSinkTest, DebugFileStandsAtTheTopOfTheDrive) {
+    EXPECT_EQ(debugFilePath(), "c:\\dbg.txt");
+}
+
+}
+}
