@@ -9,6 +9,17 @@ namespace Backend::ArpeggioManagement {
 
 using SequenceManagement::SequenceSetting;
 
+namespace {
+
+constexpr std::size_t USUAL_NOTES = 64;
+
+}
+
+void Arpeggio::setMidiEngine(MidiEngine::MidiEngine* engine) {
+    m_midiEngine = engine;
+    m_notes.reserve(USUAL_NOTES);
+}
+
 void Arpeggio::writeXml(std::ostream& stream, int indent) const {
     stream << getIndentation(indent) << getStartTagBegin(getTypeName()) << getAttributeText("beat", m_beat)
            << getAttributeText("length", m_length) << getEmptyTagEnd() << '\n';

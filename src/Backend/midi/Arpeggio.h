@@ -58,7 +58,8 @@ public:
     // When it began to play; -1 if it doesn't.
     std::int32_t getRunningSince() const { return m_runningSince; }
 
-    void setMidiEngine(MidiEngine::MidiEngine* engine) { m_midiEngine = engine; }
+    // [engine] Also makes room for as many notes as hands hold, so that taking them allocates nothing.
+    void setMidiEngine(MidiEngine::MidiEngine* engine);
 
     // Whether it holds no notes, so that time passes without effect.
     bool isIdle() const { return m_notes.empty(); }

@@ -31,13 +31,18 @@ void PlayingLayer::noteOn(const MirelMidiMessage& message) {
         startToggledNote(message);
 }
 
+void PlayingLayer::hold(const MirelMidiMessage& message) {
+    if (m_layer.mono)
+        m_heldNotes.add(message.getD1(), message.getD2());
+}
+
 void PlayingLayer::startPlainNote(const MirelMidiMessage& message) {
     std::optional<MirelMidiMessage> deferredOff;
     if (hasPreviousMonoNote()) {
         const auto previous = m_heldNotes.last();
         deferredOff = endPreviousMonoNote(message, previous.note, previous.velocity);
     }
-    m_heldNotes.add(message.getD1(), message.getD2());
+    hold(message);
     playNote(message);
     if (deferredOff)
         playNote(*deferredOff);
@@ -63,7 +68,7 @@ void PlayingLayer::startToggledNote(const MirelMidiMessage& message) {
         sendNoteOff(message);
     }
     setToggled(note, true);
-    m_heldNotes.add(note, message.getD2());
+    hold(message);
     playNote(message);
     if (deferredOff)
         playNote(*deferredOff);
@@ -91,11 +96,11 @@ void PlayingLayer::noteOff(const MirelMidiMessage& message) {
     // A toggled note does not end when its key goes up.
     if (m_layer.toggle.getState() != NoteToggle::off || !acceptsNote(message))
         return;
-    const bool wasNewest = m_heldNotes.remove(message.getD1());
     if (!m_layer.mono) {
         playNote(message);
         return;
     }
+    const bool wasNewest = m_heldNotes.remove(message.getD1());
     if (!wasNewest)
         return;  // Another note has replaced it already.
 

@@ -49,6 +49,9 @@ private:
                                                         char previousVelocity);
     bool hasPreviousMonoNote() const { return m_layer.mono && !m_heldNotes.isEmpty(); }
 
+    // Remembers a note that starts. Only a mono layer ever asks what is held.
+    void hold(const MirelMidiMessage& message);
+
     void sendNoteOff(const MirelMidiMessage& message);
 
     // Sends a note by the layer's rule, or gives it to the arpeggio.
@@ -66,7 +69,7 @@ private:
     MidiEngine& m_engine;
     Layers::Layer m_layer;
     double m_velocityRatio;
-    HeldNotes m_heldNotes;
+    HeldNotes m_heldNotes;  // Of a mono layer.
     std::bitset<256> m_noteToggles;
 };
 

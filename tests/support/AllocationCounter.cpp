@@ -1,0 +1,45 @@
+#include "tests/support/AllocationCounter.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+thread_local bool t_isCounting = false;
+thread_local std::size_t t_count = 0;
+
+}
+
+// The heap of all test programs, so that it can be counted. The array and sized forms come here as well.
+void* operator new(std::size_t size) {
+    if (t_isCounting)
+        ++t_count;
+    if (void* memory = std::malloc(size == 0 ? 1 : size))
+        return memory;
+    throw std::bad_alloc();
+}
+
+void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t) noexcept {
+    std::free(memory);
+}
+
+namespace Support {
+
+AllocationCounter::AllocationCounter() {
+    t_count = 0;
+    t_isCounting = true;
+}
+
+AllocationCounter::~AllocationCounter() {
+    t_isCounting = false;
+}
+
+std::size_t AllocationCounter::count() const {
+    return t_count;
+}
+
+}

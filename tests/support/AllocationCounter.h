@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstddef>
+
+namespace Support {
+
+// Counts what the calling thread takes from the heap while this object lives. One at a time on a thread.
+class AllocationCounter {
+public:
+    AllocationCounter();
+    ~AllocationCounter();
+    AllocationCounter(const AllocationCounter&) = delete;
+    AllocationCounter& operator=(const AllocationCounter&) = delete;
+
+    std::size_t count() const;
+};
+
+}
