@@ -8,13 +8,13 @@ using Backend::Text::trim;
 Cell::Cell(std::string_view text) {
     text = trim(text);
     const auto comma = text.find(',');
-    m_row = readInteger(text.substr(0, comma), m_row);
+    m_position.row = readInteger(text.substr(0, comma), m_position.row);
     if (comma == std::string_view::npos)
         return;
     const auto rest = trim(text.substr(comma + 1));
-    m_column = readInteger(rest.substr(0, rest.find(',')), m_column);
+    m_position.column = readInteger(rest.substr(0, rest.find(',')), m_position.column);
 }
 
 std::string Cell::toXmlString() const {
-    return std::to_string(m_row) + "," + std::to_string(m_column);
+    return std::to_string(m_position.row) + "," + std::to_string(m_position.column);
 }

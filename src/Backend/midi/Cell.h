@@ -12,18 +12,18 @@
 class Cell : public XmlItem {
 public:
     Cell() = default;
-    Cell(std::int32_t row, std::int32_t column) : m_row(row), m_column(column) {}
+    Cell(std::int32_t row, std::int32_t column) : m_position{row, column} {}
 
     // From "row,col". What can't be read stays -1.
     explicit Cell(std::string_view text);
 
-    std::int32_t getRow() const { return m_row; }
-    std::int32_t getColumn() const { return m_column; }
+    std::int32_t getRow() const { return m_position.row; }
+    std::int32_t getColumn() const { return m_position.column; }
 
     // Both coordinates in one number: it decides equality, order and hash.
     std::int32_t getKey() const {
-        return static_cast<std::int32_t>((static_cast<std::uint32_t>(m_row) << 16) |
-                                         static_cast<std::uint32_t>(m_column));
+        return static_cast<std::int32_t>((static_cast<std::uint32_t>(m_position.row) << 16) |
+                                         static_cast<std::uint32_t>(m_position.column));
     }
 
     bool operator==(const Cell& other) const { return getKey() == other.getKey(); }
@@ -32,8 +32,12 @@ public:
     std::string toXmlString() const override;
 
 private:
-    std::int32_t m_row = -1;
-    std::int32_t m_column = -1;
+    struct Position {
+        std::int32_t row = -1;
+        std::int32_t column = -1;
+    };
+
+    Position m_position;  // In one piece, so that a copy moves it in one go.
 };
 
 template <>

@@ -27,6 +27,8 @@ constexpr std::size_t USUAL_PENDING_MESSAGES = 1024;
 MidiEngine::MidiEngine(MirelIF& mirel, MidiPlayer& midiPlayer)
     : m_mirel(mirel), m_midiPlayer(midiPlayer), m_messageManager(*this) {
     m_pendingMessages.reserve(USUAL_PENDING_MESSAGES);
+    m_takenMessages.reserve(USUAL_PENDING_MESSAGES);
+    m_timedMessages.reserve(USUAL_PENDING_MESSAGES);
 }
 
 MidiEngine::~MidiEngine() = default;
@@ -50,18 +52,31 @@ void MidiEngine::setDefaultMidiOutput(int output) {
     m_defaultMidiOutput = Text::lowByte(output);
 }
 
+void MidiEngine::setMidiOutputPorts(std::vector<MidiOutputPort> ports) {
+    m_midiOutputPorts = std::move(ports);
+    m_enabledOutputs.fill(false);
+    const std::size_t reachable = std::min<std::size_t>(m_midiOutputPorts.size(), NoteCounters::OUTPUTS);
+    for (std::size_t i = 0; i < reachable; ++i)
+        m_enabledOutputs[i] = m_midiOutputPorts[i].enabled;
+}
+
 void MidiEngine::setLayerList(const Layers::LayerList& layers) {
+    m_audibleLayers.clear();
     m_arpeggioLayers.clear();
     m_layers.clear();
     m_layers.reserve(layers.size());
     for (const Layers::Layer& layer : layers)
         m_layers.emplace_back(layer, *this);
-    for (PlayingLayer& layer : m_layers)
+    const bool anySoloed =
+        std::any_of(layers.begin(), layers.end(), [](const Layers::Layer& layer) { return layer.solo; });
+    for (PlayingLayer& layer : m_layers) {
+        if (anySoloed ? layer.getLayer().solo : !layer.getLayer().mute)
+            m_audibleLayers.push_back(&layer);
         if (layer.getArpeggio())
             m_arpeggioLayers.push_back(&layer);
+    }
     m_anyVelocityRange = std::any_of(layers.begin(), layers.end(),
                                      [](const Layers::Layer& layer) { return layer.hasVelocityRange(); });
-    m_anySoloedLayers = std::any_of(layers.begin(), layers.end(), [](const Layers::Layer& layer) { return layer.solo; });
 }
 
 void MidiEngine::setZoneMap(const Zones::ZoneMap& zones) {
@@ -81,9 +96,9 @@ bool MidiEngine::isMidiPlayerThread() const {
 }
 
 void MidiEngine::postPlayMidi(const MirelMidiMessage& message) {
-    const bool isReset = message.isMirelReset() || message.isMirelHardReset();
-    if (m_pendingMessages.size() < MAX_PENDING_MESSAGES || isReset)
-        m_pendingMessages.push_back(message);
+    const bool isFull = m_pendingMessages.size() >= MAX_PENDING_MESSAGES;
+    if (!isFull || message.isMirelReset() || message.isMirelHardReset())
+        m_pendingMessages.emplace_back(message);
 }
 
 void MidiEngine::postUpdateControl(const MirelMidiMessage& message) {
@@ -107,11 +122,11 @@ HWND MidiEngine::getGuiWindowHandle() const {
     return m_mirel.getGuiWindowHandle();
 }
 
-void MidiEngine::playMidi(const MirelMidiMessage& in) {
+void MidiEngine::playMidi(MirelMidiMessage& message) {
     // Channels 0 to 15 and the byte 255, outputs from -1 up.
-    if (static_cast<unsigned char>(in.getChannel() + 1) > 16 || in.getOutput() < MirelMidiMessage::DEFAULT_OUTPUT)
+    if (static_cast<unsigned char>(message.getChannel() + 1) > 16 ||
+        message.getOutput() < MirelMidiMessage::DEFAULT_OUTPUT)
         return;
-    MirelMidiMessage message(in);
     if (const auto& zone = m_zones[static_cast<unsigned char>(message.getZone())])
         message.setD1(zone->mapNote(message));
 
@@ -146,17 +161,16 @@ void MidiEngine::playPastLayers(MirelMidiMessage& message) {
 }
 
 void MidiEngine::playThroughLayers(const MirelMidiMessage& message) {
-    TargetSet targets;
-    for (PlayingLayer& layer : m_layers) {
-        const bool isSilent = m_anySoloedLayers ? !layer.getLayer().solo : layer.getLayer().mute;
-        if (isSilent)
-            continue;
-        if (message.isNoteOn())
-            layer.noteOn(message);
-        else if (message.isNoteOff())
-            layer.noteOff(message);
-        else
-            layer.otherEvent(message, targets);
+    if (message.isNoteOn()) {
+        for (PlayingLayer* layer : m_audibleLayers)
+            layer->noteOn(message);
+    } else if (message.isNoteOff()) {
+        for (PlayingLayer* layer : m_audibleLayers)
+            layer->noteOff(message);
+    } else {
+        TargetSet targets;
+        for (PlayingLayer* layer : m_audibleLayers)
+            layer->otherEvent(message, targets);
     }
 }
 

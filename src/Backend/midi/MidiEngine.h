@@ -79,13 +79,10 @@ public:
 
     // [locked]
     void setMidiInputPorts(std::vector<MidiInputPort> ports) { m_midiInputPorts = std::move(ports); }
-    void setMidiOutputPorts(std::vector<MidiOutputPort> ports) { m_midiOutputPorts = std::move(ports); }
+    void setMidiOutputPorts(std::vector<MidiOutputPort> ports);
 
     // [locked] False for an output that does not exist.
-    bool isOutputEnabled(char output) const {
-        return output >= 0 && static_cast<std::size_t>(output) < m_midiOutputPorts.size() &&
-               m_midiOutputPorts[static_cast<std::size_t>(output)].enabled;
-    }
+    bool isOutputEnabled(char output) const { return m_enabledOutputs[static_cast<unsigned char>(output)]; }
 
     // [locked] Takes over a new set of layers or zones. What the old ones held is forgotten, so a reset goes before.
     void setLayerList(const Layers::LayerList& layers);
@@ -135,16 +132,25 @@ public:
 private:
     enum class ResetKind { Soft, Hard };
 
+    // A message in a queue. Nothing derives from it, so that vectors destroy it without a call.
+    struct PendingMessage final : MirelMidiMessage {
+        explicit PendingMessage(const MirelMidiMessage& message) : MirelMidiMessage(message) {}
+    };
+
     // The steps of a slice.
     void drainPendingMessages(std::int32_t to);
+    void carryOutResets();
     void walk(std::int64_t first, std::int64_t last, std::int32_t earliest);
-    std::int64_t findNextDue(std::int64_t ppq, std::int32_t earliest) const;
-    void playDueMessages(std::int32_t ppq, std::int32_t earliest);
+    void keepUnplayedMessages();
+
+    // Plays what is due at ppq, and returns when the next message is. One below earliest is not looked at.
+    std::int64_t playDueMessages(std::int32_t ppq, std::int32_t earliest);
+    std::int64_t playDueMessages(std::vector<PendingMessage>& messages, std::int32_t ppq, std::int32_t earliest);
     bool isAnyArpeggioHolding() const;
     void playArpeggios(std::int32_t ppq);
 
-    // The way of one event.
-    void playMidi(const MirelMidiMessage& in);
+    // The way of one event, which it changes.
+    void playMidi(MirelMidiMessage& message);
     void playPastLayers(MirelMidiMessage& message);
     void playThroughLayers(const MirelMidiMessage& message);
 
@@ -156,23 +162,26 @@ private:
     MidiPlayer& m_midiPlayer;
     std::vector<MidiInputPort> m_midiInputPorts;
     std::vector<MidiOutputPort> m_midiOutputPorts;
+    std::array<bool, 256> m_enabledOutputs{};  // By the byte of the index.
     char m_defaultMidiOutput = -1;
     MidiEngineMessageManager m_messageManager;
     CriticalSection m_criticalSection;
 
     std::vector<PlayingLayer> m_layers;
-    std::vector<PlayingLayer*> m_arpeggioLayers;  // Those of m_layers that have an arpeggio.
-    bool m_anyVelocityRange = false;              // In m_layers.
-    bool m_anySoloedLayers = false;
+    std::vector<PlayingLayer*> m_audibleLayers;   // Those that have solo, or with no solo those that are not muted.
+    std::vector<PlayingLayer*> m_arpeggioLayers;  // Those that have an arpeggio.
+    bool m_anyVelocityRange = false;              // In any of m_layers, muted ones too.
 
     std::array<std::unique_ptr<PlayingZone>, 256> m_zones;  // By the byte of the id.
 
     NoteCounters m_noteCounts;
     NoteVelocities m_noteVelocities;
 
-    // Oldest first. The first m_timedCount have been seen by a slice and wait for their time.
-    std::vector<MirelMidiMessage> m_pendingMessages;
-    std::size_t m_timedCount = 0;
+    // All oldest first. What is posted is pending until a slice takes it; what a slice could not play yet is timed, and
+    // stands before what is taken later.
+    std::vector<PendingMessage> m_pendingMessages;
+    std::vector<PendingMessage> m_takenMessages;
+    std::vector<PendingMessage> m_timedMessages;
 
     std::int32_t m_startTime = -1;
     bool m_midiThru = false;

@@ -27,79 +27,94 @@ void MidiEngine::playTimeSlice(std::int32_t from, std::int32_t to) {
     } else if (last - first < MAX_TIME_SLICE) {
         walk(first, last, from);
     }
+    keepUnplayedMessages();
 }
 
 void MidiEngine::drainPendingMessages(std::int32_t to) {
-    std::size_t kept = 0;
-    for (std::size_t i = 0; i < m_pendingMessages.size(); ++i) {
-        MirelMidiMessage& message = m_pendingMessages[i];
+    // A time below zero, from a window that ended there, is none.
+    for (PendingMessage& message : m_timedMessages)
+        if (message.getPpq() < 0)
+            message.setPpq(to);
+
+    m_takenMessages.swap(m_pendingMessages);
+    bool anyRequest = false;
+    for (PendingMessage& message : m_takenMessages) {
+        if (message.getPpq() < 0)
+            message.setPpq(to);
+        anyRequest |= message.isMirelReset() || message.isMirelHardReset();
+    }
+    if (anyRequest)
+        carryOutResets();
+
+    // This request is not in the queue, as its sender does not take the lock; it stands behind all that is.
+    if (m_hardResetRequested.load(std::memory_order_acquire) && m_hardResetRequested.exchange(false)) {
+        hardReset();
+        m_hardResetEvent.set();
+    }
+}
+
+void MidiEngine::carryOutResets() {
+    for (const PendingMessage& message : m_takenMessages) {
         if (message.isMirelReset()) {
             reset();
             m_resetEvent.set();
         } else if (message.isMirelHardReset()) {
             hardReset();
             m_hardResetEvent.set();
-        } else {
-            if (message.getPpq() < 0)
-                message.setPpq(to);
-            if (kept != i)
-                m_pendingMessages[kept] = message;
-            ++kept;
         }
     }
-    m_pendingMessages.erase(m_pendingMessages.begin() + static_cast<std::ptrdiff_t>(kept), m_pendingMessages.end());
-    m_timedCount = kept;
+    std::erase_if(m_takenMessages, [](const PendingMessage& message) {
+        return message.isMirelReset() || message.isMirelHardReset();
+    });
+}
 
-    // This request is not in the queue, as its sender does not take the lock; it stands behind all that is.
-    if (m_hardResetRequested.exchange(false)) {
-        hardReset();
-        m_hardResetEvent.set();
+void MidiEngine::keepUnplayedMessages() {
+    if (m_timedMessages.empty()) {
+        m_timedMessages.swap(m_takenMessages);
+        return;
     }
+    m_timedMessages.insert(m_timedMessages.end(), m_takenMessages.begin(), m_takenMessages.end());
+    m_takenMessages.clear();
 }
 
 // Ticks at which neither a message is due nor an arpeggio holds notes are passed over; nothing can happen in them.
 void MidiEngine::walk(std::int64_t first, std::int64_t last, std::int32_t earliest) {
     std::int64_t ppq = std::max<std::int64_t>(first, 0);  // Nothing plays at negative times.
     last = std::min<std::int64_t>(last, std::int64_t{std::numeric_limits<std::int32_t>::max()} + 1);
-    std::int64_t nextDue = findNextDue(ppq, earliest);
+    std::int64_t nextDue = ppq;
     for (; ppq < last; ++ppq) {
-        if (!isAnyArpeggioHolding())
-            ppq = std::max(ppq, nextDue);
-        if (ppq >= last)
-            return;
-        if (nextDue <= ppq) {
-            playDueMessages(static_cast<std::int32_t>(ppq), earliest);
-            nextDue = findNextDue(ppq + 1, earliest);
-        }
-        playArpeggios(static_cast<std::int32_t>(ppq));
+        if (nextDue <= ppq)
+            nextDue = playDueMessages(static_cast<std::int32_t>(ppq), earliest);
+        if (isAnyArpeggioHolding())
+            playArpeggios(static_cast<std::int32_t>(ppq));
+        else
+            ppq = std::max(ppq, std::min(nextDue, last) - 1);
     }
 }
 
-std::int64_t MidiEngine::findNextDue(std::int64_t ppq, std::int32_t earliest) const {
-    std::int64_t due = NEVER;
-    for (std::size_t i = 0; i < m_timedCount; ++i) {
-        const std::int32_t time = m_pendingMessages[i].getPpq();
+std::int64_t MidiEngine::playDueMessages(std::int32_t ppq, std::int32_t earliest) {
+    const std::int64_t nextTimed = playDueMessages(m_timedMessages, ppq, earliest);
+    return std::min(nextTimed, playDueMessages(m_takenMessages, ppq, earliest));
+}
+
+std::int64_t MidiEngine::playDueMessages(std::vector<PendingMessage>& messages, std::int32_t ppq,
+                                         std::int32_t earliest) {
+    std::int64_t nextDue = NEVER;
+    auto kept = messages.begin();
+    for (PendingMessage& message : messages) {
+        const std::int32_t time = message.getPpq();
+        if (time <= ppq && time >= earliest) {
+            playMidi(message);
+            continue;
+        }
         if (time >= earliest)
-            due = std::min(due, std::max<std::int64_t>(time, ppq));
+            nextDue = std::min<std::int64_t>(nextDue, time);
+        if (&*kept != &message)
+            *kept = message;
+        ++kept;
     }
-    return due;
-}
-
-void MidiEngine::playDueMessages(std::int32_t ppq, std::int32_t earliest) {
-    std::size_t kept = 0;
-    for (std::size_t i = 0; i < m_timedCount; ++i) {
-        const std::int32_t time = m_pendingMessages[i].getPpq();
-        if (time > ppq || time < earliest) {
-            if (kept != i)
-                m_pendingMessages[kept] = m_pendingMessages[i];
-            ++kept;
-        } else {
-            playMidi(m_pendingMessages[i]);
-        }
-    }
-    m_pendingMessages.erase(m_pendingMessages.begin() + static_cast<std::ptrdiff_t>(kept),
-                            m_pendingMessages.begin() + static_cast<std::ptrdiff_t>(m_timedCount));
-    m_timedCount = kept;
+    messages.erase(kept, messages.end());
+    return nextDue;
 }
 
 bool MidiEngine::isAnyArpeggioHolding() const {

@@ -45,15 +45,13 @@ public:
 
     // The status loses its channel; the channel of the four-argument form is kept to 0 through 15.
     MidiMessage(MessageType status, char d1, char d2, char channel);
-    MidiMessage(MessageType status, char d1) : m_status(fixStatus(status)), m_d1(d1) {}
-    explicit MidiMessage(MessageType status) : m_status(fixStatus(status)) {}
+    MidiMessage(MessageType status, char d1) : m_bytes{fixStatus(status), d1, 0, 0} {}
+    explicit MidiMessage(MessageType status) : m_bytes{fixStatus(status), 0, 0, 0} {}
 
     // From the word of getWparam. The channel is taken as it is.
     explicit MidiMessage(std::uint64_t wparam)
-        : m_status(fixStatus(static_cast<MessageType>(wparam & 0xff))),
-          m_d1(static_cast<char>(wparam >> 8 & 0xff)),
-          m_d2(static_cast<char>(wparam >> 16 & 0xff)),
-          m_channel(static_cast<char>(wparam >> 24 & 0xff)) {}
+        : m_bytes{fixStatus(static_cast<MessageType>(wparam & 0xff)), static_cast<char>(wparam >> 8 & 0xff),
+                  static_cast<char>(wparam >> 16 & 0xff), static_cast<char>(wparam >> 24 & 0xff)} {}
 
     // From the text of toXmlString. An unknown name gives an empty message, an unreadable parameter 0.
     explicit MidiMessage(const std::string& text);
@@ -69,41 +67,41 @@ public:
         return static_cast<MessageType>(status < 0xF0 ? status & 0xF0 : status);
     }
 
-    MessageType getStatus() const { return m_status; }
-    MessageType getMessageType() const { return m_status; }
-    void setMessageType(MessageType status) { m_status = status; }
-    char getD1() const { return m_d1; }
-    void setD1(char d1) { m_d1 = d1; }
-    char getD2() const { return m_d2; }
-    void setD2(char d2) { m_d2 = d2; }
-    char getChannel() const { return m_channel; }
-    void setChannel(char channel) { m_channel = channel; }
+    MessageType getStatus() const { return m_bytes.status; }
+    MessageType getMessageType() const { return m_bytes.status; }
+    void setMessageType(MessageType status) { m_bytes.status = status; }
+    char getD1() const { return m_bytes.d1; }
+    void setD1(char d1) { m_bytes.d1 = d1; }
+    char getD2() const { return m_bytes.d2; }
+    void setD2(char d2) { m_bytes.d2 = d2; }
+    char getChannel() const { return m_bytes.channel; }
+    void setChannel(char channel) { m_bytes.channel = channel; }
 
     // Status and channel merged into one byte.
     std::uint8_t getStatusWithChannel() const {
-        return static_cast<std::uint8_t>(m_status | static_cast<unsigned char>(m_channel));
+        return static_cast<std::uint8_t>(m_bytes.status | static_cast<unsigned char>(m_bytes.channel));
     }
 
-    void setToNoteOff() { m_status = NoteOff; }
-    void setToNoteOn() { m_status = NoteOn; }
+    void setToNoteOff() { m_bytes.status = NoteOff; }
+    void setToNoteOn() { m_bytes.status = NoteOn; }
 
     // Whether the status is one that has a name.
     bool isValid() const;
-    bool isNote() const { return m_status == NoteOff || m_status == NoteOn; }
-    bool isNoteOn() const { return m_status == NoteOn; }
-    bool isNoteOff() const { return m_status == NoteOff; }
-    bool isControllerChange() const { return m_status == ControllerChange; }
-    bool isProgramChange() const { return m_status == ProgramChange; }
-    bool isChannelPressure() const { return m_status == ChannelPressure; }
-    bool isPitchBend() const { return m_status == PitchBend; }
-    bool isSongPosition() const { return m_status == SongPosition; }
-    bool isSongSelect() const { return m_status == SongSelect; }
-    bool isUnofficialBusSelect() const { return m_status == UnofficialBusSelect; }
-    bool isTimingTick() const { return m_status == TimingTick; }
-    bool isSystemReset() const { return m_status == SystemReset; }
-    bool isBankMsb() const { return isControllerChange() && m_d1 == BANK_MSB; }
-    bool isBankLsb() const { return isControllerChange() && m_d1 == BANK_LSB; }
-    bool isAllSoundOff() const { return isControllerChange() && m_d1 == ALL_SOUND_OFF; }
+    bool isNote() const { return m_bytes.status == NoteOff || m_bytes.status == NoteOn; }
+    bool isNoteOn() const { return m_bytes.status == NoteOn; }
+    bool isNoteOff() const { return m_bytes.status == NoteOff; }
+    bool isControllerChange() const { return m_bytes.status == ControllerChange; }
+    bool isProgramChange() const { return m_bytes.status == ProgramChange; }
+    bool isChannelPressure() const { return m_bytes.status == ChannelPressure; }
+    bool isPitchBend() const { return m_bytes.status == PitchBend; }
+    bool isSongPosition() const { return m_bytes.status == SongPosition; }
+    bool isSongSelect() const { return m_bytes.status == SongSelect; }
+    bool isUnofficialBusSelect() const { return m_bytes.status == UnofficialBusSelect; }
+    bool isTimingTick() const { return m_bytes.status == TimingTick; }
+    bool isSystemReset() const { return m_bytes.status == SystemReset; }
+    bool isBankMsb() const { return isControllerChange() && m_bytes.d1 == BANK_MSB; }
+    bool isBankLsb() const { return isControllerChange() && m_bytes.d1 == BANK_LSB; }
+    bool isAllSoundOff() const { return isControllerChange() && m_bytes.d1 == ALL_SOUND_OFF; }
 
     // Data bytes after the status: 0 to 2; 0 for an unknown status. System Exclusive counts its D1 and D2.
     int getMessageSize() const;
@@ -111,9 +109,9 @@ public:
 
     // channel, d2, d1, status from the high byte to the low one.
     std::uint64_t getWparam() const {
-        return std::uint64_t{static_cast<unsigned char>(m_channel)} << 24 |
-               std::uint64_t{static_cast<unsigned char>(m_d2)} << 16 |
-               std::uint64_t{static_cast<unsigned char>(m_d1)} << 8 | (m_status & 0xff);
+        return std::uint64_t{static_cast<unsigned char>(m_bytes.channel)} << 24 |
+               std::uint64_t{static_cast<unsigned char>(m_bytes.d2)} << 16 |
+               std::uint64_t{static_cast<unsigned char>(m_bytes.d1)} << 8 | (m_bytes.status & 0xff);
     }
 
     // d2, d1 and the status with its channel, as a MIDI output takes it. A channel above 15 is left out, and a Song
@@ -124,7 +122,7 @@ public:
     int writeBytes(std::ofstream& stream) const;
 
     // "Note On", or "Unknown".
-    std::string getEventName() const { return getEventNameStatic(m_status); }
+    std::string getEventName() const { return getEventNameStatic(m_bytes.status); }
     static std::string getEventNameStatic(MessageType status);
 
     // For display: "Note 60 (C4)", "Control Change 1: Modulation wheel", else the event name.
@@ -146,10 +144,15 @@ public:
     bool operator<=(const MidiMessage& other) const;
 
 private:
-    MessageType m_status = Empty;
-    char m_d1 = 0;
-    char m_d2 = 0;
-    char m_channel = 0;
+    // In one piece, so that a copy moves it in one go.
+    struct Bytes {
+        MessageType status = Empty;
+        char d1 = 0;
+        char d2 = 0;
+        char channel = 0;
+    };
+
+    Bytes m_bytes;
 };
 
 }

@@ -10,23 +10,18 @@ constexpr std::int32_t AT_ONCE = -1;
 
 MirelMidiMessage::MirelMidiMessage(MidiMessage::MessageType status, char d1, char d2, char channel, char output,
                                    char zone, char input, std::int32_t ppq)
-    : m_zone(zone),
-      m_output(output),
-      m_input(input),
-      m_defaultChannel(channel < 0),
+    : m_routing{zone, output, input, channel < 0},
       m_midiMessage(status, d1, d2, channel),
-      m_ppq(ppq) {}
+      m_timing{MidiEngineMessageType::Event, ppq} {}
 
 MirelMidiMessage::MirelMidiMessage(std::uint64_t wparam, std::int64_t lparam)
-    : m_zone(static_cast<char>(lparam >> 24 & 0xff)),
-      m_output(static_cast<char>(lparam & 0xff)),
-      m_input(static_cast<char>(lparam >> 16 & 0xff)),
-      m_defaultChannel((lparam & 0xffff) >= 256),
+    : m_routing{static_cast<char>(lparam >> 24 & 0xff), static_cast<char>(lparam & 0xff),
+                static_cast<char>(lparam >> 16 & 0xff), (lparam & 0xffff) >= 256},
       m_midiMessage(wparam) {}
 
 MirelMidiMessage::MirelMidiMessage(const MidiMessage& message, char output, char channel, char zone,
                                    const Cell& fromControl)
-    : m_zone(zone), m_output(output), m_midiMessage(message), m_fromControl(fromControl) {
+    : m_routing{zone, output, DEFAULT_INPUT, true}, m_midiMessage(message), m_fromControl(fromControl) {
     setChannel(channel);
 }
 
@@ -53,9 +48,9 @@ MirelMidiMessage MirelMidiMessage::createMirelHardReset() {
 }
 
 std::int64_t MirelMidiMessage::getLparam() const {
-    return std::int64_t{static_cast<unsigned char>(m_zone)} << 24 |
-           std::int64_t{static_cast<unsigned char>(m_input)} << 16 | std::int64_t{m_defaultChannel ? 1 : 0} << 8 |
-           std::int64_t{static_cast<unsigned char>(m_output)};
+    return std::int64_t{static_cast<unsigned char>(m_routing.zone)} << 24 |
+           std::int64_t{static_cast<unsigned char>(m_routing.input)} << 16 | std::int64_t{m_routing.defaultChannel ? 1 : 0} << 8 |
+           std::int64_t{static_cast<unsigned char>(m_routing.output)};
 }
 
 }

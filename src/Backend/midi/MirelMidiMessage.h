@@ -57,21 +57,21 @@ public:
 
     // 0 or more is stored unchecked and is a channel of the event's own; a negative one means the default channel.
     void setChannel(char channel) {
-        m_defaultChannel = channel < 0;
-        m_midiMessage.setChannel(m_defaultChannel ? 0 : channel);
+        m_routing.defaultChannel = channel < 0;
+        m_midiMessage.setChannel(m_routing.defaultChannel ? 0 : channel);
     }
 
-    char getOutput() const { return m_output; }
-    void setOutput(char output) { m_output = output; }
-    char getZone() const { return m_zone; }
-    void setZone(char zone) { m_zone = zone; }
-    char getInput() const { return m_input; }
+    char getOutput() const { return m_routing.output; }
+    void setOutput(char output) { m_routing.output = output; }
+    char getZone() const { return m_routing.zone; }
+    void setZone(char zone) { m_routing.zone = zone; }
+    char getInput() const { return m_routing.input; }
     const Cell& getFromControl() const { return m_fromControl; }
     void setFromControl(const Cell& cell) { m_fromControl = cell; }
-    std::int32_t getPpq() const { return m_ppq; }
-    void setPpq(std::int32_t ppq) { m_ppq = ppq; }
-    void setDefaultChannel(bool defaultChannel) { m_defaultChannel = defaultChannel; }
-    bool isDefaultChannel() const { return m_defaultChannel; }
+    std::int32_t getPpq() const { return m_timing.ppq; }
+    void setPpq(std::int32_t ppq) { m_timing.ppq = ppq; }
+    void setDefaultChannel(bool defaultChannel) { m_routing.defaultChannel = defaultChannel; }
+    bool isDefaultChannel() const { return m_routing.defaultChannel; }
     bool hasParameters() const { return m_midiMessage.hasParameters(); }
     void setToNoteOff() { m_midiMessage.setToNoteOff(); }
     void setToNoteOn() { m_midiMessage.setToNoteOn(); }
@@ -86,10 +86,10 @@ public:
     bool isSongSelect() const { return m_midiMessage.isSongSelect(); }
     bool isUnofficialBusSelect() const { return m_midiMessage.isUnofficialBusSelect(); }
     bool isTimingTick() const { return m_midiMessage.isTimingTick(); }
-    bool isDefaultOutput() const { return m_output == DEFAULT_OUTPUT; }
-    bool isMirelReset() const { return m_engineMessageType == MidiEngineMessageType::Reset; }
-    bool isMirelHardReset() const { return m_engineMessageType == MidiEngineMessageType::HardReset; }
-    bool isTimedEvent() const { return m_ppq >= 0; }
+    bool isDefaultOutput() const { return m_routing.output == DEFAULT_OUTPUT; }
+    bool isMirelReset() const { return m_timing.type == MidiEngineMessageType::Reset; }
+    bool isMirelHardReset() const { return m_timing.type == MidiEngineMessageType::HardReset; }
+    bool isTimedEvent() const { return m_timing.ppq >= 0; }
 
     // The two words that carry a message without its control, its time and a reset request.
     std::uint64_t getWparam() const { return m_midiMessage.getWparam(); }
@@ -100,16 +100,24 @@ public:
     std::uint32_t getMidiOutShortMsg() const { return m_midiMessage.getMidiOutShortMsg(); }
 
 private:
-    explicit MirelMidiMessage(MidiEngineMessageType type) : m_engineMessageType(type) {}
+    explicit MirelMidiMessage(MidiEngineMessageType type) : m_timing{type, -1} {}
 
-    char m_zone = DEFAULT_ZONE;
-    char m_output = DEFAULT_OUTPUT;
-    char m_input = DEFAULT_INPUT;
-    bool m_defaultChannel = true;
+    // In pieces that a copy moves in one go each.
+    struct Routing {
+        char zone = DEFAULT_ZONE;
+        char output = DEFAULT_OUTPUT;
+        char input = DEFAULT_INPUT;
+        bool defaultChannel = true;
+    };
+    struct Timing {
+        MidiEngineMessageType type = MidiEngineMessageType::Event;
+        std::int32_t ppq = -1;
+    };
+
+    Routing m_routing;
     MidiMessage m_midiMessage;
     Cell m_fromControl;
-    MidiEngineMessageType m_engineMessageType = MidiEngineMessageType::Event;
-    std::int32_t m_ppq = -1;
+    Timing m_timing;
 };
 
 }

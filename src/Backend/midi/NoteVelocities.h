@@ -3,26 +3,45 @@
 #include "Backend/midi/MirelMidiMessage.h"
 
 #include <cstdint>
-#include <memory_resource>
-#include <unordered_map>
+#include <vector>
 
 namespace Backend::MidiEngine {
 
 // The velocity of the last Note On of each note, told apart by input, channel, zone and number. Entries stay until the
-// table is cleared. What clearing frees is kept for the next entries.
+// table is cleared. It stands in the way of every note, and so is a flat table with open addressing.
 class NoteVelocities {
 public:
-    void store(const MirelMidiMessage& noteOn) { m_velocities[keyOf(noteOn)] = noteOn.getD2(); }
+    NoteVelocities() : m_entries(USUAL_CAPACITY) {}
+
+    void store(const MirelMidiMessage& noteOn) {
+        const std::uint32_t key = keyOf(noteOn);
+        Entry& entry = m_entries[placeOf(key)];
+        if (entry.generation != m_generation) {
+            entry = {key, m_generation, noteOn.getD2()};
+            growIfCrowded();
+            return;
+        }
+        entry.velocity = noteOn.getD2();
+    }
 
     // 0 if there was no such Note On.
     char find(const MirelMidiMessage& message) const {
-        const auto entry = m_velocities.find(keyOf(message));
-        return entry == m_velocities.end() ? char{0} : entry->second;
+        const Entry& entry = m_entries[placeOf(keyOf(message))];
+        return entry.generation == m_generation ? entry.velocity : char{0};
     }
 
-    void clear() { m_velocities.clear(); }
+    void clear();
 
 private:
+    // An entry of another generation is free.
+    struct Entry {
+        std::uint32_t key = 0;
+        std::uint32_t generation = 0;
+        char velocity = 0;
+    };
+
+    static constexpr std::size_t USUAL_CAPACITY = 4096;  // A power of two, as all capacities.
+
     // The default channel shares its entries with channel 0, as its events carry this number.
     static std::uint32_t keyOf(const MirelMidiMessage& message) {
         return std::uint32_t{static_cast<unsigned char>(message.getInput())} << 24 |
@@ -31,8 +50,20 @@ private:
                std::uint32_t{static_cast<unsigned char>(message.getD1())};
     }
 
-    std::pmr::unsynchronized_pool_resource m_memory;
-    std::pmr::unordered_map<std::uint32_t, char> m_velocities{&m_memory};
+    // Where the entry of a key is, or would go.
+    std::size_t placeOf(std::uint32_t key) const {
+        const std::size_t mask = m_entries.size() - 1;
+        std::size_t place = (key * std::uint64_t{0x9E3779B97F4A7C15} >> 32) & mask;
+        while (m_entries[place].generation == m_generation && m_entries[place].key != key)
+            place = (place + 1) & mask;
+        return place;
+    }
+
+    void growIfCrowded();
+
+    std::vector<Entry> m_entries;
+    std::uint32_t m_generation = 1;
+    std::size_t m_used = 0;
 };
 
 }

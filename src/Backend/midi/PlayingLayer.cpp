@@ -2,6 +2,7 @@
 
 #include "Backend/core/Text.h"
 #include "Backend/midi/MidiEngine.h"
+#include "Backend/midi/NoteCounters.h"
 #include "Backend/midi/NoteRange.h"
 #include "Backend/midi/Transposition.h"
 
@@ -9,40 +10,57 @@
 
 namespace Backend::MidiEngine {
 
+namespace {
+
+char transposeNote(const Layers::Layer& layer, std::int32_t note) {
+    const std::int32_t transposed =
+        layer.key.isNote()
+            ? transposeDiatonic(note, layer.key.getNumber() % 12, Text::lowByte(layer.transpose.getValue()))
+            : layer.transpose.applyTo(note);
+    return static_cast<char>(foldIntoNoteRange(transposed));
+}
+
+char scaleVelocity(const Layers::Layer& layer, char velocity) {
+    std::int32_t scaled = layer.velocity.getValue();
+    if (layer.velocity.isRelative()) {
+        const double ratio = static_cast<double>(layer.compress.getNumerator()) / layer.compress.getDenominator();
+        scaled = wrappingAdd(scaled, static_cast<std::int32_t>(ratio * velocity));
+    }
+    return static_cast<char>(std::clamp(scaled, 0, 127));
+}
+
+}
+
 PlayingLayer::PlayingLayer(const Layers::Layer& layer, MidiEngine& engine)
     : m_engine(engine),
       m_layer(layer),
-      m_velocityRatio(static_cast<double>(layer.compress.getNumerator()) / layer.compress.getDenominator()) {
+      // A channel that does not exist becomes the first one.
+      m_channel(layer.channel < 0 || layer.channel >= NoteCounters::CHANNELS ? char{0} : layer.channel),
+      m_isDefaultChannel(layer.channel < 0) {
+    for (std::size_t note = 0; note < m_sentNotes.size(); ++note)
+        m_sentNotes[note] = transposeNote(layer, static_cast<std::int32_t>(note));
+    for (std::size_t velocity = 0; velocity < m_sentVelocities.size(); ++velocity)
+        m_sentVelocities[velocity] = scaleVelocity(layer, static_cast<char>(velocity));
     if (m_layer.arpeggio)
         m_layer.arpeggio->setMidiEngine(&engine);
-}
-
-bool PlayingLayer::acceptsNote(const MirelMidiMessage& message) const {
-    return message.getD1() >= m_layer.minNote.getNumber() && message.getD1() <= m_layer.maxNote.getNumber() &&
-           message.getD2() >= m_layer.minVelocity && message.getD2() <= m_layer.maxVelocity && acceptsZone(message);
 }
 
 void PlayingLayer::noteOn(const MirelMidiMessage& message) {
     if (!acceptsNote(message))
         return;
-    if (m_layer.toggle.getState() == NoteToggle::off)
-        startPlainNote(message);
-    else
+    if (m_layer.toggle.getState() != NoteToggle::off)
         startToggledNote(message);
+    else if (m_layer.mono)
+        startMonoNote(message);
+    else
+        playNote(message);
 }
 
-void PlayingLayer::hold(const MirelMidiMessage& message) {
-    if (m_layer.mono)
-        m_heldNotes.add(message.getD1(), message.getD2());
-}
-
-void PlayingLayer::startPlainNote(const MirelMidiMessage& message) {
+void PlayingLayer::startMonoNote(const MirelMidiMessage& message) {
     std::optional<MirelMidiMessage> deferredOff;
-    if (hasPreviousMonoNote()) {
-        const auto previous = m_heldNotes.last();
-        deferredOff = endPreviousMonoNote(message, previous.note, previous.velocity);
-    }
-    hold(message);
+    if (!m_heldNotes.isEmpty())
+        deferredOff = endPreviousMonoNote(message, m_heldNotes.last());
+    m_heldNotes.add(message.getD1(), message.getD2());
     playNote(message);
     if (deferredOff)
         playNote(*deferredOff);
@@ -57,10 +75,10 @@ void PlayingLayer::startToggledNote(const MirelMidiMessage& message) {
         return;
     }
     std::optional<MirelMidiMessage> deferredOff;
-    if (hasPreviousMonoNote()) {
-        const auto previous = m_heldNotes.last();
+    if (!m_heldNotes.isEmpty()) {
+        const HeldNotes::HeldNote previous = m_heldNotes.last();
         setToggled(previous.note, false);
-        deferredOff = endPreviousMonoNote(message, previous.note, previous.velocity);
+        deferredOff = endPreviousMonoNote(message, previous);
         m_heldNotes.remove(previous.note);
     }
     if (isToggled(note)) {
@@ -68,18 +86,19 @@ void PlayingLayer::startToggledNote(const MirelMidiMessage& message) {
         sendNoteOff(message);
     }
     setToggled(note, true);
-    hold(message);
+    if (m_layer.mono)
+        m_heldNotes.add(note, message.getD2());
     playNote(message);
     if (deferredOff)
         playNote(*deferredOff);
 }
 
-std::optional<MirelMidiMessage> PlayingLayer::endPreviousMonoNote(const MirelMidiMessage& message, char previousNote,
-                                                                  char previousVelocity) {
+std::optional<MirelMidiMessage> PlayingLayer::endPreviousMonoNote(const MirelMidiMessage& message,
+                                                                  HeldNotes::HeldNote previous) {
     MirelMidiMessage off(message);
     off.setToNoteOff();
-    off.setD1(previousNote);
-    off.setD2(previousVelocity);
+    off.setD1(previous.note);
+    off.setD2(previous.velocity);
     if (!m_layer.arpeggio)
         return off;
     playNote(off);
@@ -131,8 +150,8 @@ void PlayingLayer::playNote(const MirelMidiMessage& message) {
     MirelMidiMessage copy(message);
     if (!route(copy))
         return;
-    copy.setD1(transposeNote(message.getD1()));
-    copy.setD2(scaleVelocity(message.getD2()));
+    copy.setD1(m_sentNotes[static_cast<unsigned char>(message.getD1())]);
+    copy.setD2(m_sentVelocities[static_cast<unsigned char>(message.getD2())]);
     if (m_layer.arpeggio)
         m_layer.arpeggio->noteEvent(copy, m_layer.sequenceSetting);
     else
@@ -142,27 +161,10 @@ void PlayingLayer::playNote(const MirelMidiMessage& message) {
 bool PlayingLayer::route(MirelMidiMessage& message) const {
     const char output =
         m_layer.output == MirelMidiMessage::DEFAULT_OUTPUT ? m_engine.getDefaultMidiOutputByte() : m_layer.output;
-    if (!m_engine.isOutputEnabled(output))
-        return false;
     message.setOutput(output);
-    // A channel that does not exist becomes the first one.
-    message.setChannel(m_layer.channel >= 16 ? char{0} : m_layer.channel);
-    return true;
-}
-
-char PlayingLayer::transposeNote(char note) const {
-    const std::int32_t transposed =
-        m_layer.key.isNote()
-            ? transposeDiatonic(note, m_layer.key.getNumber() % 12, Text::lowByte(m_layer.transpose.getValue()))
-            : m_layer.transpose.applyTo(note);
-    return static_cast<char>(foldIntoNoteRange(transposed));
-}
-
-char PlayingLayer::scaleVelocity(char velocity) const {
-    std::int32_t scaled = m_layer.velocity.getValue();
-    if (m_layer.velocity.isRelative())
-        scaled = wrappingAdd(scaled, static_cast<std::int32_t>(m_velocityRatio * velocity));
-    return static_cast<char>(std::clamp(scaled, 0, 127));
+    message.setChannel(m_channel);
+    message.setDefaultChannel(m_isDefaultChannel);
+    return m_engine.isOutputEnabled(output);
 }
 
 void PlayingLayer::reset() {

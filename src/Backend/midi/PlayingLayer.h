@@ -4,6 +4,7 @@
 #include "Backend/midi/Layer.h"
 #include "Backend/midi/TargetSet.h"
 
+#include <array>
 #include <bitset>
 #include <optional>
 
@@ -35,22 +36,20 @@ public:
     void reset();
 
 private:
-    bool acceptsNote(const MirelMidiMessage& message) const;
+    bool acceptsNote(const MirelMidiMessage& message) const {
+        return message.getD1() >= m_layer.minNote.getNumber() && message.getD1() <= m_layer.maxNote.getNumber() &&
+               message.getD2() >= m_layer.minVelocity && message.getD2() <= m_layer.maxVelocity && acceptsZone(message);
+    }
     bool acceptsZone(const MirelMidiMessage& message) const {
         return m_layer.zone < 0 || message.getZone() < 0 || m_layer.zone == message.getZone();
     }
 
     void startToggledNote(const MirelMidiMessage& message);
-    void startPlainNote(const MirelMidiMessage& message);
+    void startMonoNote(const MirelMidiMessage& message);
 
     // The Note Off of the note that a mono layer gives up for a new one. Without an arpeggio it is to be sent after the
     // new note, for a legato join; with one it has been sent.
-    std::optional<MirelMidiMessage> endPreviousMonoNote(const MirelMidiMessage& message, char previousNote,
-                                                        char previousVelocity);
-    bool hasPreviousMonoNote() const { return m_layer.mono && !m_heldNotes.isEmpty(); }
-
-    // Remembers a note that starts. Only a mono layer ever asks what is held.
-    void hold(const MirelMidiMessage& message);
+    std::optional<MirelMidiMessage> endPreviousMonoNote(const MirelMidiMessage& message, HeldNotes::HeldNote previous);
 
     void sendNoteOff(const MirelMidiMessage& message);
 
@@ -60,15 +59,15 @@ private:
     // Sets output and channel by the layer's rule. False if the output can't be played on.
     bool route(MirelMidiMessage& message) const;
 
-    char transposeNote(char note) const;
-    char scaleVelocity(char velocity) const;
-
     bool isToggled(char note) const { return m_noteToggles[static_cast<unsigned char>(note)]; }
     void setToggled(char note, bool on) { m_noteToggles[static_cast<unsigned char>(note)] = on; }
 
     MidiEngine& m_engine;
     Layers::Layer m_layer;
-    double m_velocityRatio;
+    char m_channel;  // What the layer sends on; with m_isDefaultChannel the default channel.
+    bool m_isDefaultChannel;
+    std::array<char, 128> m_sentNotes;       // What the rule makes of each note,
+    std::array<char, 256> m_sentVelocities;  // and of each byte of a velocity.
     HeldNotes m_heldNotes;  // Of a mono layer.
     std::bitset<256> m_noteToggles;
 };

@@ -1,0 +1,47 @@
+// What does an event cost on its way from the queue through the layers to the host?
+#include "benchmarks/BenchEngine.h"
+#include "benchmarks/Cases.h"
+
+namespace {
+
+using namespace Benchmarks;
+
+std::vector<Backend::MidiEngine::MirelMidiMessage> makeEvents() {
+    std::vector<Backend::MidiEngine::MirelMidiMessage> events;
+    for (const int note : {60, 61, 62, 63})
+        for (const bool isNoteOn : {true, false})
+            events.push_back(BenchEngine::makeNote(isNoteOn, note, 100));
+    return events;
+}
+
+// Notes on and off in turn, many to a slice, so that the slice itself counts little.
+class EventThroughLayers : public Case {
+public:
+    EventThroughLayers(const char* layer, int count) : m_engine(repeatLayer(layer, count)) { run(2 * EVENTS_A_SLICE); }
+
+    void run(std::int64_t operations) override {
+        while (operations > 0) {
+            for (int i = 0; i < EVENTS_A_SLICE && operations > 0; ++i, --operations)
+                m_engine.engine().postPlayMidi(m_events[static_cast<std::size_t>(i % 8)]);
+            m_engine.playSlice(1);
+        }
+    }
+
+private:
+    static constexpr int EVENTS_A_SLICE = 100;
+
+    BenchEngine m_engine;
+    const std::vector<Backend::MidiEngine::MirelMidiMessage> m_events = makeEvents();
+};
+
+const bool added = [] {
+    for (const int count : {1, 4, 16, 64}) {
+        addCase("match_" + std::to_string(count) + "_layers",
+                [count] { return std::make_unique<EventThroughLayers>("<Layer/>", count); });
+        addCase("miss_" + std::to_string(count) + "_layers",
+                [count] { return std::make_unique<EventThroughLayers>("<Layer minNote='C8'/>", count); });
+    }
+    return true;
+}();
+
+}
