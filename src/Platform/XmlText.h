@@ -7,8 +7,8 @@
 
 namespace Platform {
 
-// [any] The document as UTF-8 without byte order mark and XML declaration, with line ends as newlines. A byte order mark
-// wins over the declared encoding. Nothing if the declaration is malformed, the encoding is unknown, or the bytes are
+// [any] The document as UTF-8 without byte order mark, XML declaration and white space at its end, with line ends as
+// newlines. A byte order mark wins over the declared encoding. Nothing if the declaration is malformed, the encoding is unknown, or the bytes are
 // not in it or hold a character that XML doesn't allow.
 std::optional<std::string> decodeXml(std::string_view document);
 
