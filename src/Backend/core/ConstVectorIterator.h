@@ -11,7 +11,8 @@ template <class Element>
 class ConstVectorIterator : public ConstIteratorIF<Element> {
 public:
     // The vector must outlive the walk. A walk that begins below 0 or past the end has no elements.
-    explicit ConstVectorIterator(const std::vector<Element>& elements, int index = 0) : m_index(index), m_elements(elements) {}
+    explicit ConstVectorIterator(const std::vector<Element>& elements, int index = 0)
+        : m_index(index), m_elements(elements) {}
 
     bool hasNext() override { return m_index >= 0 && static_cast<std::size_t>(m_index) < m_elements.size(); }
 

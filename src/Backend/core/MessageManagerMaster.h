@@ -21,8 +21,8 @@ public:
     // [any] Starts the worker. Its id is known from here on.
     void start();
 
-    // [any but the worker] Ends the worker once it has handled what was posted before, and waits for that without a time
-    // limit. Messages that were posted later are given to their managers to dispose of. Without a worker it does
+    // [any but the worker] Ends the worker once it has handled what was posted before, and waits for that without a
+    // time limit. Messages that were posted later are given to their managers to dispose of. Without a worker it does
     // nothing.
     void stop();
 
@@ -30,10 +30,10 @@ public:
     // milliseconds and tries again, for ever.
     void postMessage(unsigned int message, WPARAM wParam, LPARAM lParam);
 
-    // [any, before start] Appends a manager. The first that wants a message gets it. The manager must outlive the worker.
+    // [any, before start] Appends a manager, which must outlive the worker. The first that wants a message gets it.
     void addMessageManager(MessageManager* manager);
 
-    // [any] The one event on which blocking calls wait. One thread at a time may be in such a call, and never the worker.
+    // [any] The one event on which blocking calls wait. One thread at a time may be in such a call, never the worker.
     Platform::AutoResetEvent& getWaitEvent();
 
     // [any] Whether the calling thread is the worker.

@@ -24,8 +24,8 @@ public:
     void setName(const std::string& name) { m_name = name; }
     const std::string& getName() const { return m_name; }
 
-    // [any] Writes one line. file is the source's path from the top without its extension ("src\Gui\MirelGui"), function
-    // its qualified name, text "IN", "OUT" or anything else, also empty.
+    // [any] Writes one line. file is the source's path from the top without its extension ("src\Gui\MirelGui"),
+    // function its qualified name, text "IN", "OUT" or anything else, also empty.
     void trace(const std::string& file, long line, const std::string& function, const std::string& text) const;
 
     // [any] Writes a line that names the expression if the condition is false. The program goes on in any case.

@@ -12,9 +12,9 @@ namespace Backend {
 
 // An element of a parsed document and at the same time a cursor over the children of its parent:
 //     for (XmlElement child = parent.begin(); child != parent.end(); child.next())
-// Every child is a position, also a comment or a text; those have an empty name and are skipped by it. A cheap value that
-// keeps its document alive. Without an element (no document, no child, not an element) all reads give the empty string
-// or the default.
+// Every child is a position, also a comment or a text; those have an empty name and are skipped by it. A cheap value
+// that keeps its document alive. Without an element (no document, no child, not an element) all reads give the empty
+// string or the default.
 class XmlElement {
 public:
     // No element.
