@@ -39,6 +39,9 @@ std::vector<std::string> list(const std::string& folder, const std::string& exte
 // [any] The size in bytes; nothing if it is no plain file.
 std::optional<std::uintmax_t> size(const std::string& path);
 
+// [any] Text with each newline as the system's text files have it.
+std::string withSystemLineEnds(std::string_view text);
+
 // [any] folder, the separator unless the folder ends with one or is empty, name.
 std::string join(const std::string& folder, const std::string& name);
 

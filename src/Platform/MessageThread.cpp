@@ -113,4 +113,13 @@ void MessageThread::join() {
     m_state->running.store(false);
 }
 
+void MessageThread::stop(UINT message) {
+    if (!isRunning())
+        return;
+    // A queue that is full is not idle, so an idle one that refuses a post is that of a thread at its end.
+    while (!post(message, 0, 0) && !isIdle())
+        sleepMilliseconds(RETRY_MILLISECONDS);
+    join();
+}
+
 }

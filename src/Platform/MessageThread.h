@@ -59,6 +59,10 @@ public:
     // [another thread] Waits without a time limit for the body to return.
     void join();
 
+    // [another thread] Posts the message that ends the body, as postUntilAccepted does unless the body has returned
+    // already, and joins. Does nothing if the thread does not run.
+    void stop(UINT message);
+
 private:
     struct State;
     std::unique_ptr<State> m_state;

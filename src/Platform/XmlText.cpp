@@ -242,13 +242,20 @@ std::optional<Encoding> encodingOfName(const std::string& name) {
     return std::nullopt;
 }
 
+// White space at the end is none of the parser's business; some count it against a limit of their own.
+std::optional<std::string> withoutTrailingSpace(std::optional<std::string> text) {
+    if (text)
+        text->erase(text->find_last_not_of(WHITE_SPACE) + 1);
+    return text;
+}
+
 std::optional<std::string> withoutDeclaration(std::optional<std::string> text) {
     if (!text)
         return std::nullopt;
     const auto declaration = DeclarationReader(*text).read();
     if (!declaration)
         return std::nullopt;
-    return text->substr(declaration->length);
+    return withoutTrailingSpace(text->substr(declaration->length));
 }
 
 }
@@ -270,7 +277,7 @@ std::optional<std::string> decodeXml(std::string_view document) {
     // A declaration that can be read byte by byte contradicts an encoding of two bytes.
     if (!encoding || encoding == Encoding::UTF_16)
         return std::nullopt;
-    return toUtf8(document.substr(declaration->length), *encoding, false);
+    return withoutTrailingSpace(toUtf8(document.substr(declaration->length), *encoding, false));
 }
 
 namespace {

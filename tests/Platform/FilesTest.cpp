@@ -158,6 +158,12 @@ TEST(FilesTest, SizeIsThatOfPlainFilesAlone) {
     EXPECT_EQ(Files::size(folder.file("missing")), std::nullopt);
 }
 
+TEST(FilesTest, OnlyNewlinesBecomeTheSystemsLineEnds) {
+    const bool isWindows = std::filesystem::path::preferred_separator == '\\';
+    EXPECT_EQ(Files::withSystemLineEnds("a\n\nb\tc"), isWindows ? "a\r\n\r\nb\tc" : "a\n\nb\tc");
+    EXPECT_EQ(Files::withSystemLineEnds(""), "");
+}
+
 TEST(FilesTest, JoinPutsOneSeparatorBetween) {
     const std::string separator(1, static_cast<char>(std::filesystem::path::preferred_separator));
     EXPECT_EQ(Files::join("a", "b"), "a" + separator + "b");

@@ -248,6 +248,44 @@ TEST(MessageThreadTest, JoinWithoutStartDoesNothing) {
     EXPECT_TRUE(thread.isIdle());
 }
 
+TEST(MessageThreadTest, StopPostsTheEndMessageAndJoins) {
+    Recorder recorder;
+    recorder.m_thread.stop(END_MESSAGE);
+    recorder.start();
+    recorder.m_thread.post(FIRST_MESSAGE, 1, 2);
+    recorder.m_thread.stop(END_MESSAGE);
+    EXPECT_FALSE(recorder.m_thread.isRunning());
+    const std::vector<Received> expected = {{FIRST_MESSAGE, 1, 2}};
+    EXPECT_EQ(recorder.m_received, expected);
+}
+
+TEST(MessageThreadTest, StopOfAThreadThatHasEndedReturns) {
+    MessageThread thread;
+    thread.start("ended", [] {});
+    EXPECT_TRUE(eventually([&] { return !thread.post(FIRST_MESSAGE, 0, 0); }));
+    thread.stop(END_MESSAGE);
+    EXPECT_FALSE(thread.isRunning());
+}
+
+TEST(MessageThreadTest, StopWaitsForRoomInAFullQueue) {
+    Recorder recorder;
+    MessageThread& thread = recorder.m_thread;
+    AutoResetEvent begin;
+    std::size_t taken = 0;
+    thread.start("full", [&] {
+        begin.wait();
+        MSG message;
+        while (thread.get(message) && message.message != END_MESSAGE)
+            ++taken;
+    });
+    for (std::size_t i = 0; i < MessageThread::CAPACITY; ++i)
+        ASSERT_TRUE(thread.post(FIRST_MESSAGE, 0, 0));
+    std::thread stopper([&] { thread.stop(END_MESSAGE); });
+    begin.set();
+    stopper.join();
+    EXPECT_EQ(taken, MessageThread::CAPACITY);
+}
+
 // Soak.
 
 TEST(MessageThreadTest, ManyPostersLoseNothingAndKeepTheirOrders) {

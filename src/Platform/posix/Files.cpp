@@ -161,4 +161,8 @@ bool move(const std::string& from, const std::string& to) {
     return ::unlink(source->c_str()) == 0;
 }
 
+std::string withSystemLineEnds(std::string_view text) {
+    return std::string(text);
+}
+
 }

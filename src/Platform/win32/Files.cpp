@@ -136,4 +136,14 @@ bool move(const std::string& from, const std::string& to) {
     return MoveFileExW(source->c_str(), target->c_str(), MOVEFILE_COPY_ALLOWED) != FALSE;
 }
 
+std::string withSystemLineEnds(std::string_view text) {
+    std::string result;
+    for (const char character : text) {
+        if (character == '\n')
+            result += '\r';
+        result += character;
+    }
+    return result;
+}
+
 }

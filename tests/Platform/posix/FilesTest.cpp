@@ -3,13 +3,39 @@
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <csignal>
 
 namespace Platform {
 namespace {
 
 using TestSupport::TemporaryFolder;
+
+// Files of this process can't grow beyond a size while this object lives: the disk is full.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t bytes) : m_oldHandler(std::signal(SIGXFSZ, SIG_IGN)) {
+        EXPECT_EQ(::getrlimit(RLIMIT_FSIZE, &m_old), 0);
+        rlimit limit = m_old;
+        limit.rlim_cur = bytes;
+        EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
+    }
+
+    ~FileSizeLimit() {
+        ::setrlimit(RLIMIT_FSIZE, &m_old);
+        std::signal(SIGXFSZ, m_oldHandler);
+    }
+
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    void (*m_oldHandler)(int);
+    rlimit m_old = {};
+};
 
 mode_t modeOf(const std::string& path) {
     struct stat state = {};
@@ -28,6 +54,22 @@ TEST(PosixFilesTest, PipesAndDevicesAreRefusedAtOnce) {
         EXPECT_EQ(Files::size(path), std::nullopt) << path;
         EXPECT_FALSE(Files::move(path, folder.file("other"))) << path;
     }
+}
+
+TEST(PosixFilesTest, FullDiskLeavesTheOldFileAndNothingElse) {
+    const TemporaryFolder folder;
+    const std::string path = folder.file("a.prg");
+    ASSERT_TRUE(Files::replace(path, "old"));
+    {
+        const FileSizeLimit limit(1000);
+        EXPECT_FALSE(Files::replace(path, std::string(100000, 'x')));
+        EXPECT_FALSE(Files::replace(folder.file("new.prg"), std::string(100000, 'x')));
+    }
+    EXPECT_EQ(Files::read(path), "old");
+    std::size_t entries = 0;
+    for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(folder.path()))
+        ++entries;
+    EXPECT_EQ(entries, 1u);
 }
 
 TEST(PosixFilesTest, ReplacedFileKeepsItsMode) {

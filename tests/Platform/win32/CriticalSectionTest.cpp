@@ -27,7 +27,8 @@ class WindowThread {
 public:
     explicit WindowThread(CriticalSection& section)
         : m_thread([this, &section] {
-              const HWND window = CreateWindowExA(0, "STATIC", "", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+              const HWND window =
+                  CreateWindowExA(0, "STATIC", "", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
               SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&countMessages));
               m_window.store(window);
               m_entered = section.waitWithMessageLoop();

@@ -30,6 +30,21 @@ TEST(WindowsFilesTest, ReadOnlyFileIsNotReplaced) {
     SetFileAttributesW(systemPath(path)->c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
+TEST(WindowsFilesTest, FileThatAnotherProgramHoldsStaysAndNothingElseDoes) {
+    const TemporaryFolder folder;
+    const std::string path = folder.file("a.prg");
+    ASSERT_TRUE(Files::replace(path, "old"));
+    const HANDLE held = CreateFileW(systemPath(path)->c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(held, INVALID_HANDLE_VALUE);
+    EXPECT_FALSE(Files::replace(path, "new"));
+    CloseHandle(held);
+    EXPECT_EQ(Files::read(path), "old");
+    std::size_t entries = 0;
+    for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(*systemPath(folder.path())))
+        ++entries;
+    EXPECT_EQ(entries, 1u);
+}
+
 TEST(WindowsFilesTest, PathThatIsNoUtf8IsRefused) {
     EXPECT_EQ(Files::read("\xFF"), std::nullopt);
     EXPECT_FALSE(Files::replace("\xFF", "x"));

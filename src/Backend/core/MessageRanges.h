@@ -1,0 +1,46 @@
+// The numbers of messages that no family's own table holds: which numbers each manager wants, and what ends threads.
+#pragma once
+
+#include "Platform/WindowTypes.h"
+
+#include <array>
+
+namespace Backend {
+
+// Where a message lies. The same number means different things in the two.
+enum class MessageQueueKind { BACKEND, WINDOW };
+
+struct MessageRange {
+    MessageQueueKind queue;
+    UINT first;
+    UINT last;
+
+    constexpr bool contains(UINT message) const { return message >= first && message <= last; }
+};
+
+// The ranges of the managers: XxxMessageManager has XXX_RANGE.
+// clang-format off
+inline constexpr MessageRange MIREL_RANGE              = {MessageQueueKind::BACKEND, 33218, 33273};
+inline constexpr MessageRange COMPUTER_INPUT_RANGE     = {MessageQueueKind::BACKEND, 33468, 33477};
+inline constexpr MessageRange CONTROL_RANGE            = {MessageQueueKind::BACKEND, 33968, 33978};
+inline constexpr MessageRange LAYER_RANGE              = {MessageQueueKind::BACKEND, 34718, 34726};
+inline constexpr MessageRange ZONE_RANGE               = {MessageQueueKind::BACKEND, 34968, 34972};
+inline constexpr MessageRange MIREL_GUI_RANGE          = {MessageQueueKind::WINDOW,  33218, 33269};
+inline constexpr MessageRange COMPUTER_INPUT_GUI_RANGE = {MessageQueueKind::WINDOW,  33468, 33473};
+inline constexpr MessageRange CONTROL_GUI_RANGE        = {MessageQueueKind::WINDOW,  33968, 33974};
+inline constexpr MessageRange LAYER_GUI_RANGE          = {MessageQueueKind::WINDOW,  34718, 34729};
+inline constexpr MessageRange ZONE_GUI_RANGE           = {MessageQueueKind::WINDOW,  34968, 34972};
+// clang-format on
+
+inline constexpr std::array MESSAGE_RANGES = {
+    MIREL_RANGE,     COMPUTER_INPUT_RANGE,     CONTROL_RANGE,     LAYER_RANGE,     ZONE_RANGE,
+    MIREL_GUI_RANGE, COMPUTER_INPUT_GUI_RANGE, CONTROL_GUI_RANGE, LAYER_GUI_RANGE, ZONE_GUI_RANGE,
+};
+
+// Ends the backend worker. No manager sees it.
+inline constexpr UINT QUIT_BACKEND_WORKER = 32969;
+
+// Ends the engine's and the display's message threads.
+inline constexpr UINT QUIT_MESSAGE_THREAD = 32869;
+
+}

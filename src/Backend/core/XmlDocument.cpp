@@ -1,0 +1,29 @@
+#include "Backend/core/XmlDocument.h"
+
+#include "Platform/Files.h"
+#include "Platform/XmlReader.h"
+
+namespace Backend {
+
+namespace {
+
+std::shared_ptr<const Platform::XmlNode> readRoot(const std::string& source, bool isPath) {
+    if (!isPath)
+        return Platform::readXml(source);
+    const auto content = Platform::Files::read(source);
+    return content ? Platform::readXml(*content) : nullptr;
+}
+
+}
+
+XmlDocument::XmlDocument(const std::string& source, bool isPath) : m_root(readRoot(source, isPath)) {}
+
+bool XmlDocument::hasRoot() const {
+    return m_root != nullptr;
+}
+
+XmlElement XmlDocument::getRootElement() const {
+    return XmlElement(m_root);
+}
+
+}

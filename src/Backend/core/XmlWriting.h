@@ -1,0 +1,36 @@
+// Pieces of XML text. Writers put them together; line ends and indentation (one tab a level) are theirs.
+#pragma once
+
+#include <string>
+
+namespace Backend {
+
+class XmlItem;
+
+std::string getXmlHeader();
+
+std::string getStartTagBegin(const std::string& name);
+
+std::string getStartTag(const std::string& name);
+
+std::string getStartTagEnd();
+
+std::string getEmptyTagEnd();
+
+std::string getEndTag(const std::string& name);
+
+// A blank and name="value". Numbers are decimal, that of a character the value of its byte with its sign. Strings are
+// escaped, items are not.
+std::string getAttributeText(const std::string& name, bool value);
+std::string getAttributeText(const std::string& name, char value);
+std::string getAttributeText(const std::string& name, signed char value);
+std::string getAttributeText(const std::string& name, short value);
+std::string getAttributeText(const std::string& name, int value);
+std::string getAttributeText(const std::string& name, const std::string& value);
+std::string getAttributeText(const std::string& name, const char* value);  // Else it would be taken for a bool.
+std::string getAttributeText(const std::string& name, const XmlItem& value);
+
+// The text with "<", ">", "&" and both quotes as entities. All other bytes stay.
+std::string escape(const std::string& text);
+
+}
