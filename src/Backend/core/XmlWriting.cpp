@@ -16,6 +16,10 @@ std::string getXmlHeader() {
     return "<?xml version=\"1.0\" encoding=\"utf-8\"?>";
 }
 
+std::string getIndentation(int depth) {
+    return std::string(static_cast<std::size_t>(depth), '\t');
+}
+
 std::string getStartTagBegin(const std::string& name) {
     return "<" + name;
 }

@@ -9,6 +9,9 @@ class XmlItem;
 
 std::string getXmlHeader();
 
+// The tabs in front of what stands this deep.
+std::string getIndentation(int depth);
+
 std::string getStartTagBegin(const std::string& name);
 
 std::string getStartTag(const std::string& name);

@@ -6,7 +6,7 @@
 #include <string_view>
 
 // How a layer turns key presses into long notes.
-class NoteToggle : public XmlItem {
+class NoteToggle : public Backend::XmlItem {
 public:
     enum State : std::int32_t {
         off = 0,

@@ -6,7 +6,7 @@
 #include <string_view>
 
 // What happens to a flag.
-class OnOffToggle : public XmlItem {
+class OnOffToggle : public Backend::XmlItem {
 public:
     enum State : std::int32_t { on = 0, off = 1, toggle = 2 };
 

@@ -6,7 +6,7 @@
 #include <string_view>
 
 // An amount: an offset that is added to the present value, or a value that replaces it.
-class RelativeFixedValue : public XmlItem {
+class RelativeFixedValue : public Backend::XmlItem {
 public:
     // Relative 0: no change.
     RelativeFixedValue() = default;

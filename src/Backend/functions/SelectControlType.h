@@ -7,7 +7,7 @@
 #include <string_view>
 
 // Which control of the grid.
-class SelectControlType : public XmlItem {
+class SelectControlType : public Backend::XmlItem {
 public:
     enum Mode : std::int32_t {
         up = 0,  // The next control above the selected one; the same for the three other directions.

@@ -6,7 +6,7 @@
 #include <string_view>
 
 // Which item of a list.
-class SelectType : public XmlItem {
+class SelectType : public Backend::XmlItem {
 public:
     enum Mode : std::int32_t {
         up = 0,        // The next item.

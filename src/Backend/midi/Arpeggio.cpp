@@ -1,6 +1,6 @@
 #include "Backend/midi/Arpeggio.h"
 
-#include "Backend/core/XmlWriter.h"
+#include "Backend/core/XmlWriting.h"
 #include "Backend/midi/MidiEngine.h"
 #include "Backend/midi/NoteRange.h"
 #include "Backend/midi/SequencePlayer.h"

@@ -9,7 +9,7 @@
 #include <string_view>
 
 // A position in the grid of controls. Unset coordinates are -1.
-class Cell : public XmlItem {
+class Cell : public Backend::XmlItem {
 public:
     Cell() = default;
     Cell(std::int32_t row, std::int32_t column) : m_position{row, column} {}

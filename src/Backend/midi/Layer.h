@@ -11,7 +11,9 @@
 #include <ostream>
 #include <string>
 
+namespace Backend {
 class XmlElement;
+}
 
 namespace Backend::SequenceManagement {
 class SequencePresetManager;

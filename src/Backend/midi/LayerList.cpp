@@ -2,7 +2,7 @@
 
 #include "Backend/core/VectorIterator.h"
 #include "Backend/core/XmlElement.h"
-#include "Backend/core/XmlWriter.h"
+#include "Backend/core/XmlWriting.h"
 
 namespace Backend::Layers {
 
@@ -20,8 +20,8 @@ Layer* LayerList::find(const LayerId& id) {
     return &m_layers[static_cast<std::size_t>(id.value)];
 }
 
-Component::IteratorIF<Layer>* LayerList::createIterator() {
-    return new Component::VectorIterator<Layer>(m_layers);
+std::unique_ptr<Component::IteratorIF<Layer>> LayerList::createIterator() {
+    return std::make_unique<Component::VectorIterator<Layer>>(m_layers);
 }
 
 void LayerList::add(Layer layer) {

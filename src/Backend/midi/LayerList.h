@@ -4,6 +4,7 @@
 #include "Backend/midi/Layer.h"
 #include "Backend/midi/LayerId.h"
 
+#include <memory>
 #include <ostream>
 #include <vector>
 
@@ -20,7 +21,7 @@ public:
     // Null if the id is no place in the list.
     Layer* find(const LayerId& id) override;
 
-    Component::IteratorIF<Layer>* createIterator() override;
+    std::unique_ptr<Component::IteratorIF<Layer>> createIterator() override;
 
     std::size_t size() const { return m_layers.size(); }
     auto begin() { return m_layers.begin(); }

@@ -1,7 +1,7 @@
 // How a layer is stored.
 #include "Backend/core/Text.h"
 #include "Backend/core/XmlElement.h"
-#include "Backend/core/XmlWriter.h"
+#include "Backend/core/XmlWriting.h"
 #include "Backend/midi/ArpeggioFactory.h"
 #include "Backend/midi/Layer.h"
 

@@ -21,10 +21,7 @@ void MidiEngineMessageManager::start() {
 }
 
 void MidiEngineMessageManager::stop() {
-    if (!m_thread.isRunning())
-        return;
-    post(STOP);
-    m_thread.join();
+    m_thread.stop(STOP);
     for (MSG leftOver; m_thread.tryGet(leftOver);)
         discard(leftOver);
 }
@@ -41,7 +38,7 @@ void MidiEngineMessageManager::post(UINT number, WPARAM wParam, LPARAM lParam) {
 
 void MidiEngineMessageManager::postPlayMidi(const MirelMidiMessage& message) {
     const Cell& control = message.getFromControl();
-    if (chooseMessageForm(control.getRow(), control.getColumn(), message.getPpq()) == MessageForm::Param)
+    if (chooseMessageForm(control.getRow(), control.getColumn(), message.getPpq()) == MessageForm::PARAM)
         postPlayMidiViaParam(message);
     else
         postPlayMidiViaAlloc(message);
@@ -52,15 +49,15 @@ void MidiEngineMessageManager::postPlayMidiViaParam(const MirelMidiMessage& mess
 }
 
 void MidiEngineMessageManager::postPlayMidiViaAlloc(const MirelMidiMessage& message) {
-    post(PLAY_MIDI_VIA_ALLOC, releasePayload(std::make_unique<MirelMidiMessage>(message)));
+    post(PLAY_MIDI_VIA_ALLOC, releasePayload<WPARAM>(std::make_unique<MirelMidiMessage>(message)));
 }
 
 void MidiEngineMessageManager::postSetMidiInputPorts(const std::vector<MidiInputPort>& ports) {
-    post(SET_MIDI_INPUT_PORTS, releasePayload(std::make_unique<std::vector<MidiInputPort>>(ports)));
+    post(SET_MIDI_INPUT_PORTS, releasePayload<WPARAM>(std::make_unique<std::vector<MidiInputPort>>(ports)));
 }
 
 void MidiEngineMessageManager::postSetMidiOutputPorts(const std::vector<MidiOutputPort>& ports) {
-    post(SET_MIDI_OUTPUT_PORTS, releasePayload(std::make_unique<std::vector<MidiOutputPort>>(ports)));
+    post(SET_MIDI_OUTPUT_PORTS, releasePayload<WPARAM>(std::make_unique<std::vector<MidiOutputPort>>(ports)));
 }
 
 void MidiEngineMessageManager::postEnableMidiInput(int port, bool enable) {
@@ -76,15 +73,15 @@ void MidiEngineMessageManager::postSetDefaultMidiOutput(int output) {
 }
 
 void MidiEngineMessageManager::postSetLayerList(const Layers::LayerList& layers) {
-    post(SET_LAYER_LIST, releasePayload(std::make_unique<Layers::LayerList>(layers)));
+    post(SET_LAYER_LIST, releasePayload<WPARAM>(std::make_unique<Layers::LayerList>(layers)));
 }
 
 void MidiEngineMessageManager::postSetZoneMap(const Zones::ZoneMap& zones) {
-    post(SET_ZONE_MAP, releasePayload(std::make_unique<Zones::ZoneMap>(zones)));
+    post(SET_ZONE_MAP, releasePayload<WPARAM>(std::make_unique<Zones::ZoneMap>(zones)));
 }
 
 void MidiEngineMessageManager::postSetZone(const Zones::Zone& zone) {
-    post(SET_ZONE, releasePayload(std::make_unique<Zones::Zone>(zone)));
+    post(SET_ZONE, releasePayload<WPARAM>(std::make_unique<Zones::Zone>(zone)));
 }
 
 void MidiEngineMessageManager::postSetTempo(int bpm) {

@@ -2,7 +2,7 @@
 
 #include "Backend/core/XmlDocument.h"
 #include "Backend/core/XmlElement.h"
-#include "Backend/core/XmlWriter.h"
+#include "Backend/core/XmlWriting.h"
 #include "Platform/Files.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 #include "Backend/core/Text.h"
 #include "Backend/core/XmlElement.h"
-#include "Backend/core/XmlWriter.h"
+#include "Backend/core/XmlWriting.h"
 #include "Backend/midi/SequencePresetManager.h"
 
 namespace Backend::SequenceManagement {

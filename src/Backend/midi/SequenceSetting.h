@@ -5,7 +5,9 @@
 #include <ostream>
 #include <string>
 
+namespace Backend {
 class XmlElement;
+}
 
 namespace Backend::SequenceManagement {
 

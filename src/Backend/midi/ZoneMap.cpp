@@ -3,7 +3,7 @@
 #include "Backend/core/HashMapIterator.h"
 #include "Backend/core/Text.h"
 #include "Backend/core/XmlElement.h"
-#include "Backend/core/XmlWriter.h"
+#include "Backend/core/XmlWriting.h"
 
 #include <map>
 
@@ -14,8 +14,8 @@ Zone* ZoneMap::find(const ZoneId& id) {
     return entry == m_zones.end() ? nullptr : &entry->second;
 }
 
-Component::IteratorIF<Zone>* ZoneMap::createIterator() {
-    return new Component::HashMapIterator<ZoneId, Zone>(m_zones);
+std::unique_ptr<Component::IteratorIF<Zone>> ZoneMap::createIterator() {
+    return std::make_unique<Component::HashMapIterator<ZoneId, Zone>>(m_zones);
 }
 
 void ZoneMap::readXml(const XmlElement& element) {

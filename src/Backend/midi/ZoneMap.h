@@ -3,10 +3,13 @@
 #include "Backend/core/ElementCollection.h"
 #include "Backend/midi/Zone.h"
 
+#include <memory>
 #include <ostream>
 #include <unordered_map>
 
+namespace Backend {
 class XmlElement;
+}
 
 namespace Backend::Zones {
 
@@ -18,7 +21,7 @@ public:
     // Null if there is no such zone.
     Zone* find(const ZoneId& id) override;
 
-    Component::IteratorIF<Zone>* createIterator() override;
+    std::unique_ptr<Component::IteratorIF<Zone>> createIterator() override;
 
     std::size_t size() const { return m_zones.size(); }
     auto begin() { return m_zones.begin(); }

@@ -47,7 +47,7 @@ std::vector<std::int32_t> splitNumbers(std::string_view text, const Context& con
 // The document of the block that follows the line, whose root must have this name.
 XmlDocument readDocument(const Context& context, const char* tag) {
     XmlDocument document(context.reader.readBlock(context.line), false);
-    if (!document.isWellFormed())
+    if (!document.hasRoot())
         context.arguments.fail("the block is not well-formed XML");
     if (document.getRootElement().getName() != tag)
         context.arguments.fail(std::string("the block is not an element ") + tag);
