@@ -1,6 +1,7 @@
 #include "Host/common/MidiFile.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Host {
 
