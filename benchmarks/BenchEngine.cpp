@@ -25,8 +25,14 @@ BenchEngine::~BenchEngine() {
 }
 
 MirelMidiMessage BenchEngine::makeNote(bool isNoteOn, int note, int velocity) {
-    return {isNoteOn ? MidiMessage::NoteOn : MidiMessage::NoteOff, static_cast<char>(note), static_cast<char>(velocity),
-            -1, -1, -1, -1, -1};
+    return {isNoteOn ? MidiMessage::NoteOn : MidiMessage::NoteOff,
+            static_cast<char>(note),
+            static_cast<char>(velocity),
+            -1,
+            -1,
+            -1,
+            -1,
+            -1};
 }
 
 void BenchEngine::post(bool isNoteOn, int note, int velocity) {

@@ -61,7 +61,8 @@ int main(int argc, char** argv) {
     if (arguments.size() == 3 && arguments[0] == "--count")
         return runOnce(arguments[1], std::atoll(argv[3]));
     for (const NamedCase& named : cases())
-        benchmark::RegisterBenchmark(named.name.c_str(), [&named](benchmark::State& state) { measureTime(state, named); });
+        benchmark::RegisterBenchmark(named.name.c_str(),
+                                     [&named](benchmark::State& state) { measureTime(state, named); });
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

@@ -11,7 +11,8 @@ using Backend::MidiEngine::MirelMidiMessage;
 class PostToEngine : public Case {
 public:
     // A timed event takes the way over the heap.
-    explicit PostToEngine(std::int32_t ppq) : m_engine("<Layers/>"), m_event(MidiMessage::NoteOn, 60, 100, -1, -1, -1, -1, ppq) {}
+    explicit PostToEngine(std::int32_t ppq)
+        : m_engine("<Layers/>"), m_event(MidiMessage::NoteOn, 60, 100, -1, -1, -1, -1, ppq) {}
 
     void run(std::int64_t operations) override {
         auto& manager = m_engine.engine().getMessageManager();

@@ -21,18 +21,16 @@ struct EncodingName {
 };
 
 constexpr std::array ENCODING_NAMES = {
-    EncodingName{"utf-8", Encoding::UTF_8},
-    EncodingName{"utf-16", Encoding::UTF_16},
-    EncodingName{"iso-8859-1", Encoding::LATIN_1},
-    EncodingName{"windows-1252", Encoding::WINDOWS_1252},
+    EncodingName{"utf-8", Encoding::UTF_8},        EncodingName{"utf-16", Encoding::UTF_16},
+    EncodingName{"iso-8859-1", Encoding::LATIN_1}, EncodingName{"windows-1252", Encoding::WINDOWS_1252},
     EncodingName{"us-ascii", Encoding::ASCII},
 };
 
 // The characters of windows-1252 from 0x80 to 0x9F; the five that are not assigned stand for themselves.
 constexpr std::array<std::uint16_t, 32> WINDOWS_1252_HIGH = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D,
-    0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A,
-    0x0153, 0x009D, 0x017E, 0x0178,
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
 };
 
 constexpr std::uint32_t BAD = 0xFFFFFFFF;
@@ -84,20 +82,17 @@ public:
 
     std::uint32_t take() {
         switch (m_encoding) {
-        case Encoding::UTF_8:
-            return takeUtf8();
-        case Encoding::UTF_16:
-            return takeUtf16();
-        case Encoding::LATIN_1:
-            return takeByte();
-        case Encoding::WINDOWS_1252: {
-            const std::uint32_t byte = takeByte();
-            return byte >= 0x80 && byte < 0xA0 ? WINDOWS_1252_HIGH[byte - 0x80] : byte;
-        }
-        case Encoding::ASCII: {
-            const std::uint32_t byte = takeByte();
-            return byte < 0x80 ? byte : BAD;
-        }
+            case Encoding::UTF_8: return takeUtf8();
+            case Encoding::UTF_16: return takeUtf16();
+            case Encoding::LATIN_1: return takeByte();
+            case Encoding::WINDOWS_1252: {
+                const std::uint32_t byte = takeByte();
+                return byte >= 0x80 && byte < 0xA0 ? WINDOWS_1252_HIGH[byte - 0x80] : byte;
+            }
+            case Encoding::ASCII: {
+                const std::uint32_t byte = takeByte();
+                return byte < 0x80 ? byte : BAD;
+            }
         }
         return BAD;
     }

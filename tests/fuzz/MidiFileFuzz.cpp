@@ -89,8 +89,7 @@ void roundTrip(MidiFile file) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     MidiFileResult result = Host::readMidiFile({reinterpret_cast<const char*>(data), size});
     if (result.error)
-        require(!result.error->empty() && result.error->find('\n') == std::string::npos &&
-                result.file.tracks.empty());
+        require(!result.error->empty() && result.error->find('\n') == std::string::npos && result.file.tracks.empty());
     else
         roundTrip(std::move(result.file));
     return 0;

@@ -28,8 +28,8 @@ void Trace::trace(const std::string& file, long line, const std::string& functio
         Platform::Files::append(Platform::debugFilePath(), Platform::Files::withSystemLineEnds(whole));
 }
 
-void Trace::traceAssert(const std::string& file, long line, const std::string& function,
-                        const std::string& expression, bool condition) const {
+void Trace::traceAssert(const std::string& file, long line, const std::string& function, const std::string& expression,
+                        bool condition) const {
     if (!condition)
         trace(file, line, function, "TRACE ASSERT FAILED: " + expression);
 }

@@ -77,23 +77,12 @@ std::string escape(const std::string& text) {
     escaped.reserve(text.size());
     for (const char character : text) {
         switch (character) {
-        case '<':
-            escaped += "&lt;";
-            break;
-        case '>':
-            escaped += "&gt;";
-            break;
-        case '&':
-            escaped += "&amp;";
-            break;
-        case '\'':
-            escaped += "&apos;";
-            break;
-        case '"':
-            escaped += "&quot;";
-            break;
-        default:
-            escaped += character;
+            case '<': escaped += "&lt;"; break;
+            case '>': escaped += "&gt;"; break;
+            case '&': escaped += "&amp;"; break;
+            case '\'': escaped += "&apos;"; break;
+            case '"': escaped += "&quot;"; break;
+            default: escaped += character;
         }
     }
     return escaped;

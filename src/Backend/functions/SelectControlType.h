@@ -32,9 +32,7 @@ public:
 
     std::string toXmlString() const override;
 
-    bool operator==(const SelectControlType& other) const {
-        return m_mode == other.m_mode && m_cell == other.m_cell;
-    }
+    bool operator==(const SelectControlType& other) const { return m_mode == other.m_mode && m_cell == other.m_cell; }
 
 private:
     Mode m_mode = up;

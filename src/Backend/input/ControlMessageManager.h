@@ -9,8 +9,8 @@ class ControlMessageManager {
 public:
     virtual ~ControlMessageManager() = default;
 
-    // [player, under the engine's lock; must not wait] An event that is no note passed, with the output and channel that
-    // it came with. Controls that send this event follow it.
+    // [player, under the engine's lock; must not wait] An event that is no note passed, with the output and channel
+    // that it came with. Controls that send this event follow it.
     virtual void postUpdateControl(const MidiEngine::MirelMidiMessage& message) = 0;
 };
 

@@ -15,8 +15,8 @@ class MidiEngine;
 
 namespace Backend::ArpeggioManagement {
 
-// Holds the notes of a layer and plays them on its own schedule. The engine drives it one ppq at a time, under its lock;
-// until it is given an engine nothing plays and nothing is held.
+// Holds the notes of a layer and plays them on its own schedule. The engine drives it one ppq at a time, under its
+// lock; until it is given an engine nothing plays and nothing is held.
 class Arpeggio {
 public:
     static constexpr std::int32_t DEFAULT_PPQ = 480;
@@ -47,7 +47,8 @@ public:
     void writeXml(std::ostream& stream, int indent) const;
 
     // [player] A note of the layer.
-    virtual void noteEvent(const MidiEngine::MirelMidiMessage& message, SequenceManagement::SequenceSetting& sequence) = 0;
+    virtual void noteEvent(const MidiEngine::MirelMidiMessage& message,
+                           SequenceManagement::SequenceSetting& sequence) = 0;
 
     // [player] This ppq has come.
     virtual void timeEvent(std::int32_t ppq, SequenceManagement::SequenceSetting& sequence) = 0;

@@ -29,8 +29,8 @@ bool HeldNotes::remove(char note) {
         return true;
     if (count(note) == 0)
         return false;
-    const auto entry = std::find_if(m_notes.rbegin(), m_notes.rend(),
-                                    [note](const HeldNote& held) { return held.note == note; });
+    const auto entry =
+        std::find_if(m_notes.rbegin(), m_notes.rend(), [note](const HeldNote& held) { return held.note == note; });
     const bool isNewest = entry == m_notes.rbegin();
     m_notes.erase(std::next(entry).base());
     --count(note);

@@ -67,21 +67,21 @@ Layer::Layer(const XmlElement& element, const SequenceManagement::SequencePreset
 }
 
 void Layer::writeXml(std::ostream& stream, int indent) const {
-    stream << getIndentation(indent) << getStartTagBegin(TAG)               //
-           << getAttributeText("mute", mute)                                //
-           << getAttributeText("mono", mono)                                //
-           << getAttributeText("toggle", toggle)                            //
-           << getAttributeText("useNoteStack", useNoteStack)                //
-           << getAttributeText("minNote", minNote)                          //
-           << getAttributeText("maxNote", maxNote)                          //
-           << getAttributeText("minVelocity", minVelocity)                  //
-           << getAttributeText("maxVelocity", maxVelocity)                  //
-           << getAttributeText("zone", zone)                                //
-           << getAttributeText("output", output)                            //
-           << getAttributeText("channel", channel)                          //
-           << getAttributeText("transpose", transpose)                      //
-           << getAttributeText("key", key)                                  //
-           << getAttributeText("velocity", velocity)                        //
+    stream << getIndentation(indent) << getStartTagBegin(TAG)  //
+           << getAttributeText("mute", mute)                   //
+           << getAttributeText("mono", mono)                   //
+           << getAttributeText("toggle", toggle)               //
+           << getAttributeText("useNoteStack", useNoteStack)   //
+           << getAttributeText("minNote", minNote)             //
+           << getAttributeText("maxNote", maxNote)             //
+           << getAttributeText("minVelocity", minVelocity)     //
+           << getAttributeText("maxVelocity", maxVelocity)     //
+           << getAttributeText("zone", zone)                   //
+           << getAttributeText("output", output)               //
+           << getAttributeText("channel", channel)             //
+           << getAttributeText("transpose", transpose)         //
+           << getAttributeText("key", key)                     //
+           << getAttributeText("velocity", velocity)           //
            << getAttributeText("compress", compress) << getStartTagEnd() << '\n';
     if (arpeggio) {
         stream << getIndentation(indent + 1) << getStartTag(ARPEGGIO_TAG) << '\n';

@@ -1,8 +1,8 @@
 #include "Backend/midi/MidiEngine.h"
 
 #include "Backend/core/MirelIF.h"
-#include "Backend/core/WindowMessages.h"
 #include "Backend/core/Text.h"
+#include "Backend/core/WindowMessages.h"
 #include "Backend/input/ControlMessageManager.h"
 #include "Backend/midi/LayerList.h"
 #include "Backend/midi/ZoneMap.h"
@@ -75,8 +75,8 @@ void MidiEngine::setLayerList(const Layers::LayerList& layers) {
         if (layer.getArpeggio())
             m_arpeggioLayers.push_back(&layer);
     }
-    m_anyVelocityRange = std::any_of(layers.begin(), layers.end(),
-                                     [](const Layers::Layer& layer) { return layer.hasVelocityRange(); });
+    m_anyVelocityRange =
+        std::any_of(layers.begin(), layers.end(), [](const Layers::Layer& layer) { return layer.hasVelocityRange(); });
 }
 
 void MidiEngine::setZoneMap(const Zones::ZoneMap& zones) {
@@ -143,8 +143,7 @@ void MidiEngine::playMidi(MirelMidiMessage& message) {
 
 void MidiEngine::playPastLayers(MirelMidiMessage& message) {
     const char originalOutput = message.getOutput();
-    const char originalChannel =
-        message.isDefaultChannel() ? MirelMidiMessage::DEFAULT_CHANNEL : message.getChannel();
+    const char originalChannel = message.isDefaultChannel() ? MirelMidiMessage::DEFAULT_CHANNEL : message.getChannel();
     if (message.isDefaultOutput())
         message.setOutput(m_defaultMidiOutput);
     if (message.isDefaultChannel())

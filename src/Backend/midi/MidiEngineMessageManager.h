@@ -19,9 +19,9 @@ namespace Backend::MidiEngine {
 
 class MidiEngine;
 
-// The engine's front door. Requests are posted from any thread and carried out one at a time on the engine's own thread,
-// each under the engine's lock. A post never fails and loses nothing, but blocks its caller while the queue is full or
-// the thread has not started. Requests of one thread are carried out in the order in which it posted them.
+// The engine's front door. Requests are posted from any thread and carried out one at a time on the engine's own
+// thread, each under the engine's lock. A post never fails and loses nothing, but blocks its caller while the queue is
+// full or the thread has not started. Requests of one thread are carried out in the order in which it posted them.
 class MidiEngineMessageManager {
 public:
     explicit MidiEngineMessageManager(MidiEngine& midiEngine);
@@ -55,7 +55,8 @@ public:
     // [any] Replaces all layers. All that sounds ends before, which takes until the next time slice.
     void postSetLayerList(const Layers::LayerList& layers);
 
-    // [any] Replaces all zones. Keys that are down end on the notes that they were played as only if no zone moved them.
+    // [any] Replaces all zones. Keys that are down end on the notes that they were played as only if no zone moved
+    // them.
     void postSetZoneMap(const Zones::ZoneMap& zones);
 
     // [any] Changes the transposition of one zone; notes that sound are not affected.

@@ -1,4 +1,5 @@
-// Requests to the engine's thread. w and l are the two words; "heap" is a pointer to an object that the handler destroys.
+// Requests to the engine's thread. w and l are the two words; "heap" is a pointer to an object that the handler
+// destroys.
 #pragma once
 
 #include "Platform/WindowTypes.h"

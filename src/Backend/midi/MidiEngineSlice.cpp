@@ -63,9 +63,8 @@ void MidiEngine::carryOutResets() {
             m_hardResetEvent.set();
         }
     }
-    std::erase_if(m_takenMessages, [](const PendingMessage& message) {
-        return message.isMirelReset() || message.isMirelHardReset();
-    });
+    std::erase_if(m_takenMessages,
+                  [](const PendingMessage& message) { return message.isMirelReset() || message.isMirelHardReset(); });
 }
 
 void MidiEngine::keepUnplayedMessages() {

@@ -44,8 +44,8 @@ int MidiMessage::getMessageSize() const {
 std::uint32_t MidiMessage::getMidiOutShortMsg() const {
     const auto channel = static_cast<unsigned char>(m_bytes.channel);
     const std::uint32_t merged = channel < 16 && !isSongPosition() ? channel : 0;
-    return std::uint32_t{static_cast<unsigned char>(m_bytes.d2)} << 16 | std::uint32_t{static_cast<unsigned char>(m_bytes.d1)} << 8 |
-           m_bytes.status | merged;
+    return std::uint32_t{static_cast<unsigned char>(m_bytes.d2)} << 16 |
+           std::uint32_t{static_cast<unsigned char>(m_bytes.d1)} << 8 | m_bytes.status | merged;
 }
 
 int MidiMessage::writeBytes(std::ofstream& stream) const {
@@ -79,16 +79,18 @@ std::string MidiMessage::toXmlString() const {
 }
 
 bool MidiMessage::operator==(const MidiMessage& other) const {
-    return this == &other || (m_bytes.status == other.m_bytes.status && m_bytes.d1 == other.m_bytes.d1 && m_bytes.d2 == other.m_bytes.d2 &&
-                              m_bytes.channel == other.m_bytes.channel);
+    return this == &other || (m_bytes.status == other.m_bytes.status && m_bytes.d1 == other.m_bytes.d1 &&
+                              m_bytes.d2 == other.m_bytes.d2 && m_bytes.channel == other.m_bytes.channel);
 }
 
 bool MidiMessage::operator<(const MidiMessage& other) const {
-    return m_bytes.status < other.m_bytes.status || (m_bytes.status == other.m_bytes.status && m_bytes.d1 < other.m_bytes.d1);
+    return m_bytes.status < other.m_bytes.status ||
+           (m_bytes.status == other.m_bytes.status && m_bytes.d1 < other.m_bytes.d1);
 }
 
 bool MidiMessage::operator>=(const MidiMessage& other) const {
-    return m_bytes.status > other.m_bytes.status || (m_bytes.status == other.m_bytes.status && m_bytes.d1 >= other.m_bytes.d1);
+    return m_bytes.status > other.m_bytes.status ||
+           (m_bytes.status == other.m_bytes.status && m_bytes.d1 >= other.m_bytes.d1);
 }
 
 bool MidiMessage::operator<=(const MidiMessage& other) const {

@@ -26,13 +26,25 @@ MirelMidiMessage::MirelMidiMessage(const MidiMessage& message, char output, char
 }
 
 MirelMidiMessage MirelMidiMessage::createAllSoundOffCC(char output, char channel) {
-    return {MidiMessage::ControllerChange, MidiMessage::ALL_SOUND_OFF, 0,      channel, output,
-            DEFAULT_ZONE,                  DEFAULT_INPUT,              AT_ONCE};
+    return {MidiMessage::ControllerChange,
+            MidiMessage::ALL_SOUND_OFF,
+            0,
+            channel,
+            output,
+            DEFAULT_ZONE,
+            DEFAULT_INPUT,
+            AT_ONCE};
 }
 
 MirelMidiMessage MirelMidiMessage::createAllControllersOffCC(char output, char channel) {
-    return {MidiMessage::ControllerChange, MidiMessage::ALL_CONTROLLERS_OFF, 0,      channel, output,
-            DEFAULT_ZONE,                  DEFAULT_INPUT,                    AT_ONCE};
+    return {MidiMessage::ControllerChange,
+            MidiMessage::ALL_CONTROLLERS_OFF,
+            0,
+            channel,
+            output,
+            DEFAULT_ZONE,
+            DEFAULT_INPUT,
+            AT_ONCE};
 }
 
 MirelMidiMessage MirelMidiMessage::createSystemReset(char output) {
@@ -49,7 +61,8 @@ MirelMidiMessage MirelMidiMessage::createMirelHardReset() {
 
 std::int64_t MirelMidiMessage::getLparam() const {
     return std::int64_t{static_cast<unsigned char>(m_routing.zone)} << 24 |
-           std::int64_t{static_cast<unsigned char>(m_routing.input)} << 16 | std::int64_t{m_routing.defaultChannel ? 1 : 0} << 8 |
+           std::int64_t{static_cast<unsigned char>(m_routing.input)} << 16 |
+           std::int64_t{m_routing.defaultChannel ? 1 : 0} << 8 |
            std::int64_t{static_cast<unsigned char>(m_routing.output)};
 }
 

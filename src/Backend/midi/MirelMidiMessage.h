@@ -21,8 +21,8 @@ public:
     MirelMidiMessage& operator=(const MirelMidiMessage&) = default;
 
     // A negative channel is the default channel, stored as 0; others are kept to 0 through 15. ppq below 0: at once.
-    MirelMidiMessage(MidiMessage::MessageType status, char d1, char d2, char channel, char output, char zone, char input,
-                     std::int32_t ppq);
+    MirelMidiMessage(MidiMessage::MessageType status, char d1, char d2, char channel, char output, char zone,
+                     char input, std::int32_t ppq);
 
     // From the two words of getWparam and getLparam.
     MirelMidiMessage(std::uint64_t wparam, std::int64_t lparam);

@@ -13,10 +13,9 @@ namespace Backend::MidiEngine {
 namespace {
 
 char transposeNote(const Layers::Layer& layer, std::int32_t note) {
-    const std::int32_t transposed =
-        layer.key.isNote()
-            ? transposeDiatonic(note, layer.key.getNumber() % 12, Text::lowByte(layer.transpose.getValue()))
-            : layer.transpose.applyTo(note);
+    const std::int32_t transposed = layer.key.isNote() ? transposeDiatonic(note, layer.key.getNumber() % 12,
+                                                                           Text::lowByte(layer.transpose.getValue()))
+                                                       : layer.transpose.applyTo(note);
     return static_cast<char>(foldIntoNoteRange(transposed));
 }
 

@@ -68,7 +68,7 @@ private:
     bool m_isDefaultChannel;
     std::array<char, 128> m_sentNotes;       // What the rule makes of each note,
     std::array<char, 256> m_sentVelocities;  // and of each byte of a velocity.
-    HeldNotes m_heldNotes;  // Of a mono layer.
+    HeldNotes m_heldNotes;                   // Of a mono layer.
     std::bitset<256> m_noteToggles;
 };
 

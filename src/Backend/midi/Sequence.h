@@ -17,8 +17,9 @@ public:
 
     Sequence() = default;
 
-    // From the text form: nodes divided by ",", items of a node by "|", the offsets of an item by a blank: a note offset,
-    // "V" and a velocity offset, "L" and a length in ppq, or "-" for a rest. What can't be read keeps its default.
+    // From the text form: nodes divided by ",", items of a node by "|", the offsets of an item by a blank: a note
+    // offset, "V" and a velocity offset, "L" and a length in ppq, or "-" for a rest. What can't be read keeps its
+    // default.
     explicit Sequence(std::string_view text);
 
     bool hasNodes() const { return !m_nodes.empty(); }

@@ -53,8 +53,8 @@ Sequence SequencePresetManager::load(const std::string& name) const {
 void SequencePresetManager::addSequencePreset(const std::string& name, const std::string& text) {
     if (!isUsable(name))
         return;
-    const std::string content = getXmlHeader() + "\n" + getStartTag(Sequence::TAG) +
-                                escape(Sequence(text).toString()) + getEndTag(Sequence::TAG) + "\n";
+    const std::string content = getXmlHeader() + "\n" + getStartTag(Sequence::TAG) + escape(Sequence(text).toString()) +
+                                getEndTag(Sequence::TAG) + "\n";
     if (Platform::Files::createFolders(m_folder) && Platform::Files::replace(filePath(name), content))
         insertName(name);
 }

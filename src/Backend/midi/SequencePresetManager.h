@@ -24,8 +24,8 @@ public:
     // The sequence of a preset's file; empty if the file can't be read.
     Sequence load(const std::string& name) const;
 
-    // Writes a preset from the text form of a sequence, over one of the same name. A name that is empty or could lead out
-    // of the folder, and a file that can't be written, change nothing.
+    // Writes a preset from the text form of a sequence, over one of the same name. A name that is empty or could lead
+    // out of the folder, and a file that can't be written, change nothing.
     void addSequencePreset(const std::string& name, const std::string& text);
 
     // Removes a preset of the list with its file.

@@ -14,28 +14,11 @@ struct NamedLength {
 
 // In order of length; the index of the first row is 1.
 constexpr std::array<NamedLength, TimeInterval::LAST_INDEX> LENGTHS = {{
-    {20, "1/64 Triplet"},
-    {40, "1/32 Triplet"},
-    {60, "1/32"},
-    {80, "1/16 Triplet"},
-    {120, "1/16"},
-    {160, "1/8 Triplet"},
-    {180, "1/16 Dotted"},
-    {240, "1/8"},
-    {320, "1/4 Triplet"},
-    {360, "1/8 Dotted"},
-    {480, "1/4"},
-    {640, "1/2 Triplet"},
-    {720, "1/4 Dotted"},
-    {960, "1/2"},
-    {1280, "Whole Triplet"},
-    {1440, "1/2 Dotted"},
-    {1920, "Whole"},
-    {2880, "Whole Dotted"},
-    {3840, "2 Whole"},
-    {7680, "4 Whole"},
-    {15360, "8 Whole"},
-    {30720, "16 Whole"},
+    {20, "1/64 Triplet"}, {40, "1/32 Triplet"}, {60, "1/32"},           {80, "1/16 Triplet"}, {120, "1/16"},
+    {160, "1/8 Triplet"}, {180, "1/16 Dotted"}, {240, "1/8"},           {320, "1/4 Triplet"}, {360, "1/8 Dotted"},
+    {480, "1/4"},         {640, "1/2 Triplet"}, {720, "1/4 Dotted"},    {960, "1/2"},         {1280, "Whole Triplet"},
+    {1440, "1/2 Dotted"}, {1920, "Whole"},      {2880, "Whole Dotted"}, {3840, "2 Whole"},    {7680, "4 Whole"},
+    {15360, "8 Whole"},   {30720, "16 Whole"},
 }};
 
 constexpr std::int32_t QUARTER = 480;

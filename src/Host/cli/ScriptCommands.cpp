@@ -185,8 +185,7 @@ void runSlices(const Context& context) {
     const std::int64_t step = context.arguments.takeNumber("the length of a slice", 1);
     context.arguments.expectEnd();
     for (std::int64_t start = from; start < to; start += step)
-        context.desk.playSlice(static_cast<std::int32_t>(start),
-                               static_cast<std::int32_t>(std::min(start + step, to)));
+        context.desk.playSlice(static_cast<std::int32_t>(start), static_cast<std::int32_t>(std::min(start + step, to)));
 }
 
 void runReset(const Context& context) {
@@ -225,8 +224,8 @@ constexpr std::array<Command, 13> COMMANDS = {{
 void runScriptCommand(const ScriptLine& line, ScriptReader& reader, ScriptDesk& desk) {
     ScriptArguments arguments(line);
     const std::string& name = line.words.front();
-    const auto command =
-        std::find_if(COMMANDS.begin(), COMMANDS.end(), [&name](const Command& candidate) { return name == candidate.name; });
+    const auto command = std::find_if(COMMANDS.begin(), COMMANDS.end(),
+                                      [&name](const Command& candidate) { return name == candidate.name; });
     if (command == COMMANDS.end())
         arguments.fail("unknown command \"" + name + "\"");
     command->run({arguments, line, reader, desk});

@@ -21,9 +21,7 @@ constexpr int PORTS_AT_START = 2;
 }
 
 ScriptDesk::ScriptDesk(ScriptPlayer::Options options, const std::string& sequences)
-    : m_player(options),
-      m_sequencePresets(sequences),
-      m_engine(new MidiEngine::MidiEngine(*this, m_player)) {
+    : m_player(options), m_sequencePresets(sequences), m_engine(new MidiEngine::MidiEngine(*this, m_player)) {
     m_engine->initialize(0, false);
     setInputs(PORTS_AT_START);
     setOutputs(PORTS_AT_START, {});

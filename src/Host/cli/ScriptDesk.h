@@ -14,8 +14,8 @@
 
 namespace Host::Cli {
 
-// The desk that a script drives: a real engine with its thread, no window, no ports and no clock. Each operation returns
-// when all that it set off has been done.
+// The desk that a script drives: a real engine with its thread, no window, no ports and no clock. Each operation
+// returns when all that it set off has been done.
 class ScriptDesk : private Backend::MirelIF {
 public:
     // sequences is the folder of the sequence presets that layers may name.

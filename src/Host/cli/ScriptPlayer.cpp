@@ -43,10 +43,10 @@ void ScriptPlayer::windowMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 
 void ScriptPlayer::tell(const char* what, const MirelMidiMessage& message, int channel) {
     char line[96];
-    const int length = std::snprintf(line, sizeof(line), "@%d %s 0x%02x %d %d ch=%d out=%d",
-                                     static_cast<int>(m_sliceFrom), what, static_cast<unsigned>(message.getStatus()),
-                                     static_cast<unsigned char>(message.getD1()),
-                                     static_cast<unsigned char>(message.getD2()), channel, message.getOutput());
+    const int length =
+        std::snprintf(line, sizeof(line), "@%d %s 0x%02x %d %d ch=%d out=%d", static_cast<int>(m_sliceFrom), what,
+                      static_cast<unsigned>(message.getStatus()), static_cast<unsigned char>(message.getD1()),
+                      static_cast<unsigned char>(message.getD2()), channel, message.getOutput());
     m_output.append(line, static_cast<std::size_t>(length));
 }
 

@@ -11,8 +11,8 @@
 
 namespace Host::Cli {
 
-// What a script sees of its desk: it takes the place of the host, of the controls and of the window, and keeps a line of
-// text for each thing that it is asked to tell.
+// What a script sees of its desk: it takes the place of the host, of the controls and of the window, and keeps a line
+// of text for each thing that it is asked to tell.
 class ScriptPlayer : public Backend::MidiEngine::MidiPlayer,
                      public Backend::Controls::ControlMessageManager,
                      private Platform::WindowSink {

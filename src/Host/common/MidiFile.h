@@ -82,8 +82,8 @@ struct MidiFileCounts {
     std::size_t skippedSystemMessages = 0;       // 0xf1 to 0xf3, 0xf6 and real-time bytes bare in a track.
     std::size_t unknownChunks = 0;
     std::size_t tracksWithoutEnd = 0;
-    std::size_t bytesAfterTrackEnds = 0;         // In tracks, behind their end of track.
-    std::size_t bytesAfterLastTrack = 0;         // Behind the last track the header tells of.
+    std::size_t bytesAfterTrackEnds = 0;  // In tracks, behind their end of track.
+    std::size_t bytesAfterLastTrack = 0;  // Behind the last track the header tells of.
 
     // The number of events of a status of 0x80, 0x90 ... 0xe0. Note-ons with velocity 0 count as note-ons.
     std::size_t channelEventsOf(std::uint8_t status) const;

@@ -42,7 +42,8 @@ std::int64_t frameTicks(const MidiFileDivision& division) {
 
 MidiFileClock::MidiFileClock(const MidiFile& file, int frameTempo)
     : m_division(isUsable(file.division) ? file.division : MidiFileDivision{}),
-      m_frameTempo(std::clamp(frameTempo, 1, MAX_FRAME_TEMPO)), m_segments{{MidiFileTempo{}, 0}} {
+      m_frameTempo(std::clamp(frameTempo, 1, MAX_FRAME_TEMPO)),
+      m_segments{{MidiFileTempo{}, 0}} {
     if (m_division.hasFrames())
         return;
     for (const MidiFileTempo& tempo : file.tempi) {

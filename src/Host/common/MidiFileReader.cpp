@@ -123,8 +123,8 @@ void TrackParser::parseSysex(std::uint8_t status) {
 }
 
 void TrackParser::parseChannelEvent(std::uint8_t status) {
-    MidiFileEvent event{m_tick, static_cast<std::uint8_t>(status & 0xf0), static_cast<std::uint8_t>(status & 0x0f), 0,
-                        0, {}};
+    MidiFileEvent event{
+        m_tick, static_cast<std::uint8_t>(status & 0xf0), static_cast<std::uint8_t>(status & 0x0f), 0, 0, {}};
     event.d1 = dataByte();
     if (event.status != 0xc0 && event.status != 0xd0)
         event.d2 = dataByte();
@@ -199,8 +199,7 @@ std::size_t parseHeader(MidiFileBytes& bytes, MidiFile& file) {
 // of the merged events.
 template <class Change>
 void settle(std::vector<Change>& changes) {
-    std::stable_sort(changes.begin(), changes.end(),
-                     [](const Change& a, const Change& b) { return a.tick < b.tick; });
+    std::stable_sort(changes.begin(), changes.end(), [](const Change& a, const Change& b) { return a.tick < b.tick; });
     const auto sameTick = [](const Change& a, const Change& b) { return a.tick == b.tick; };
     // unique keeps the first of equals; from behind that is the last.
     changes.erase(changes.begin(), std::unique(changes.rbegin(), changes.rend(), sameTick).base());

@@ -122,8 +122,7 @@ bool replace(const std::string& path, std::string_view content) {
     if (error || (exists && (!S_ISREG(old.st_mode) || ::access(target.c_str(), W_OK) != 0)))
         return false;
     const fs::path temporary = temporaryPath(target);
-    if (!writeNew(temporary, content, exists ? &old : nullptr) ||
-        std::rename(temporary.c_str(), target.c_str()) != 0) {
+    if (!writeNew(temporary, content, exists ? &old : nullptr) || std::rename(temporary.c_str(), target.c_str()) != 0) {
         ::unlink(temporary.c_str());
         return false;
     }

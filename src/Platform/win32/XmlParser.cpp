@@ -16,8 +16,7 @@ namespace Platform {
 namespace {
 
 constexpr CLSID DOM_DOCUMENT = {0x2933BF90, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
-constexpr IID DOM_DOCUMENT_INTERFACE = {
-    0x2933BF81, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
+constexpr IID DOM_DOCUMENT_INTERFACE = {0x2933BF81, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
 
 // COM for the length of one read, on threads that have none yet. A thread in another kind of apartment is fine too.
 class ComScope {
@@ -137,18 +136,10 @@ void addNode(XmlTreeBuilder& builder, IXMLDOMNode& node) {
     DOMNodeType type = NODE_INVALID;
     node.get_nodeType(&type);
     switch (type) {
-    case NODE_ELEMENT:
-        addElement(builder, node);
-        break;
-    case NODE_TEXT:
-        builder.addText(nodeValue(node));
-        break;
-    case NODE_CDATA_SECTION:
-        builder.addCData(nodeValue(node));
-        break;
-    default:
-        builder.addOther();
-        break;
+        case NODE_ELEMENT: addElement(builder, node); break;
+        case NODE_TEXT: builder.addText(nodeValue(node)); break;
+        case NODE_CDATA_SECTION: builder.addCData(nodeValue(node)); break;
+        default: builder.addOther(); break;
     }
 }
 

@@ -66,9 +66,9 @@ TEST(RelativeFixedValueTest, SignOrNothingMakesItRelative) {
         const char* written;
     };
     const Row rows[] = {
-        {"", true, 0, ""},       {"  ", true, 0, ""},   {"0", false, 0, "0"},   {"+0", true, 0, ""},
-        {"-0", true, 0, ""},     {"+5", true, 5, "+5"}, {"-3", true, -3, "-3"}, {"5", false, 5, "5"},
-        {" +5 ", true, 5, "+5"}, {"abc", false, 0, "0"}, {"+x", true, 0, ""},   {"12x", false, 12, "12"},
+        {"", true, 0, ""},       {"  ", true, 0, ""},    {"0", false, 0, "0"},   {"+0", true, 0, ""},
+        {"-0", true, 0, ""},     {"+5", true, 5, "+5"},  {"-3", true, -3, "-3"}, {"5", false, 5, "5"},
+        {" +5 ", true, 5, "+5"}, {"abc", false, 0, "0"}, {"+x", true, 0, ""},    {"12x", false, 12, "12"},
     };
     for (const Row& row : rows) {
         const RelativeFixedValue value{std::string_view(row.text)};

@@ -31,9 +31,21 @@ protected:
 
 TEST_F(MidiEngineMessageManagerTest, RequestsHaveTheirNumbers) {
     using namespace EngineMessages;
-    const UINT numbers[] = {STOP, PLAY_MIDI_VIA_PARAM, PLAY_MIDI_VIA_ALLOC, SET_MIDI_INPUT_PORTS, SET_MIDI_OUTPUT_PORTS,
-                            ENABLE_MIDI_INPUT, ENABLE_MIDI_OUTPUT, SET_DEFAULT_MIDI_OUTPUT, SET_LAYER_LIST, RESET_ONLY,
-                            SET_ZONE_MAP, SET_ZONE, SET_TEMPO, SET_TEMPO_SOURCE, SET_MIDI_THRU};
+    const UINT numbers[] = {STOP,
+                            PLAY_MIDI_VIA_PARAM,
+                            PLAY_MIDI_VIA_ALLOC,
+                            SET_MIDI_INPUT_PORTS,
+                            SET_MIDI_OUTPUT_PORTS,
+                            ENABLE_MIDI_INPUT,
+                            ENABLE_MIDI_OUTPUT,
+                            SET_DEFAULT_MIDI_OUTPUT,
+                            SET_LAYER_LIST,
+                            RESET_ONLY,
+                            SET_ZONE_MAP,
+                            SET_ZONE,
+                            SET_TEMPO,
+                            SET_TEMPO_SOURCE,
+                            SET_MIDI_THRU};
     UINT expected = 32869;
     for (const UINT number : numbers)
         EXPECT_EQ(number, expected++);

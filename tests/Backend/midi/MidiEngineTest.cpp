@@ -16,8 +16,8 @@ class MidiEngineTest : public testing::Test, public Support::EngineFixture {};
 TEST_F(MidiEngineTest, MillisecondsBecomePpqFarAboveZero) {
     EXPECT_EQ(MidiEngine::milliseconds2Ppq(0, 120), 50000000);
     EXPECT_EQ(MidiEngine::milliseconds2Ppq(500, 120), 50000480);
-    EXPECT_EQ(MidiEngine::milliseconds2Ppq(1, 120), 50000001);      // 0.96
-    EXPECT_EQ(MidiEngine::milliseconds2Ppq(0.5, 120), 50000000);    // 0.48
+    EXPECT_EQ(MidiEngine::milliseconds2Ppq(1, 120), 50000001);    // 0.96
+    EXPECT_EQ(MidiEngine::milliseconds2Ppq(0.5, 120), 50000000);  // 0.48
     EXPECT_EQ(MidiEngine::milliseconds2Ppq(60000, 20), 50009600);
     EXPECT_EQ(MidiEngine::milliseconds2Ppq(60000, 250), 50120000);
     EXPECT_EQ(MidiEngine::milliseconds2Ppq(-1000, 120), 49999040);
@@ -71,12 +71,13 @@ TEST_F(MidiEngineTest, RequestsToTheHostPassStraightThrough) {
 // Plays slices on a thread of their own while it lives, as a host does.
 class Player {
 public:
-    explicit Player(MidiEngine& engine) : m_thread([this, &engine] {
-        while (!m_isDone) {
-            engine.playTimeSlice(m_ppq, m_ppq + 1);
-            ++m_ppq;
-        }
-    }) {}
+    explicit Player(MidiEngine& engine)
+        : m_thread([this, &engine] {
+              while (!m_isDone) {
+                  engine.playTimeSlice(m_ppq, m_ppq + 1);
+                  ++m_ppq;
+              }
+          }) {}
 
     ~Player() {
         m_isDone = true;
@@ -205,8 +206,9 @@ TEST_F(MidiEngineTest, ShownEventsGoToTheWindowAsTheyGoTo) {
 }
 
 TEST_F(MidiEngineTest, KeysThatNeverGoUpDoNotFillTheMemory) {
-    setLayers("<Layers><Layer/><Layer><Arpeggio><ChordArpeggio/></Arpeggio></Layer>"
-              "<Layer><Arpeggio><UpDownArpeggio/></Arpeggio></Layer></Layers>");
+    setLayers(
+        "<Layers><Layer/><Layer><Arpeggio><ChordArpeggio/></Arpeggio></Layer>"
+        "<Layer><Arpeggio><UpDownArpeggio/></Arpeggio></Layer></Layers>");
     for (int i = 0; i < 20000; ++i)
         manager().postPlayMidi(MirelMidiMessage(MidiMessage::NoteOn, 60, 100, -1, -1, -1, -1, -1));
     manager().waitUntilIdle();
@@ -246,8 +248,8 @@ TEST_F(MidiEngineTest, ASliceInSteadyStateTakesNothingFromTheHeap) {
         for (int round = 0; round < 50; ++round) {
             const auto status = round % 2 == 0 ? MidiMessage::NoteOn : MidiMessage::NoteOff;
             for (int note = 60; note < 68; ++note)
-                engine->postPlayMidi(
-                    MirelMidiMessage(status, static_cast<char>(note), 100, -1, -1, static_cast<char>(round / 2 % 3), -1, -1));
+                engine->postPlayMidi(MirelMidiMessage(status, static_cast<char>(note), 100, -1, -1,
+                                                      static_cast<char>(round / 2 % 3), -1, -1));
             engine->playTimeSlice(ppq, ppq + 15);
             ppq += 15;
         }

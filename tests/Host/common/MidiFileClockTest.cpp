@@ -29,11 +29,12 @@ TEST(MidiFileClockTest, TicksOfAQuarterBecomePpqRoundedHalfUp) {
         std::int64_t tick;
         std::int64_t expected;
     };
-    for (const Case& c : {Case{480, 0, 0}, Case{480, 12345, 12345}, Case{96, 1, 5}, Case{96, 97, 485},
-                          Case{960, 1, 1}, Case{960, 2, 1}, Case{960, 3, 2}, Case{1920, 1, 0}, Case{1920, 2, 1},
-                          Case{1920, 5, 1}, Case{1920, 6, 2}, Case{1024, 1, 0}, Case{1024, 2, 1}, Case{7, 1, 69},
-                          Case{7, 3, 206}, Case{7, 7, 480}, Case{1, 3, 1440}, Case{32767, 32767, 480},
-                          Case{32767, 34, 0}, Case{32767, 35, 1}, Case{961, 1, 0}, Case{959, 1, 1}}) {
+    for (const Case& c :
+         {Case{480, 0, 0},  Case{480, 12345, 12345}, Case{96, 1, 5},          Case{96, 97, 485},  Case{960, 1, 1},
+          Case{960, 2, 1},  Case{960, 3, 2},         Case{1920, 1, 0},        Case{1920, 2, 1},   Case{1920, 5, 1},
+          Case{1920, 6, 2}, Case{1024, 1, 0},        Case{1024, 2, 1},        Case{7, 1, 69},     Case{7, 3, 206},
+          Case{7, 7, 480},  Case{1, 3, 1440},        Case{32767, 32767, 480}, Case{32767, 34, 0}, Case{32767, 35, 1},
+          Case{961, 1, 0},  Case{959, 1, 1}}) {
         EXPECT_EQ(MidiFileClock(quarters(c.division)).ppq(c.tick), c.expected) << c.division << " " << c.tick;
     }
 }

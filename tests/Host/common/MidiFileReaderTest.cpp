@@ -52,8 +52,8 @@ TEST(MidiFileReaderTest, EventsOfATrackAreReadAsTheyStand) {
         {"metas", bytes({0, 0xff, 3, 2, 'a', 'b', 1, 0xff, 0x51, 3, 7, 0xa1, 0x20, 1, 0xff, 0x7e, 0}),
          "0:ff03[6162] 1:ff51[07a120] 2:ff7e[]"},
         {"real-time and system common messages are passed over, their time counts",
-         bytes({1, 0xf1, 5, 1, 0xf2, 5, 6, 1, 0xf3, 5, 1, 0xf6, 1, 0xf8, 1, 0xf9, 1, 0xfa, 1, 0xfb, 1, 0xfc, 1, 0xfd, 1,
-                0xfe, 1, 0xc0, 9}),
+         bytes({1,    0xf1, 5,    1, 0xf2, 5, 6,    1, 0xf3, 5, 1,    0xf6, 1,    0xf8, 1,
+                0xf9, 1,    0xfa, 1, 0xfb, 1, 0xfc, 1, 0xfd, 1, 0xfe, 1,    0xc0, 9}),
          "12:c0.0(09,00)"},
     };
     for (const TrackCase& c : cases) {
@@ -173,9 +173,9 @@ TEST(MidiFileReaderTest, FormatAndDivisionComeFromTheHeader) {
         std::size_t word;
         MidiFileDivision expected;
     };
-    for (const Case& c : {Case{0, 1, {1, 0, 0}}, Case{1, 480, {480, 0, 0}}, Case{1, 0x7fff, {32767, 0, 0}},
-                          Case{1, 0xe804, {0, 24, 4}}, Case{1, 0xe728, {0, 25, 40}}, Case{1, 0xe350, {0, 29, 80}},
-                          Case{0, 0xe2ff, {0, 30, 255}}}) {
+    for (const Case& c :
+         {Case{0, 1, {1, 0, 0}}, Case{1, 480, {480, 0, 0}}, Case{1, 0x7fff, {32767, 0, 0}}, Case{1, 0xe804, {0, 24, 4}},
+          Case{1, 0xe728, {0, 25, 40}}, Case{1, 0xe350, {0, 29, 80}}, Case{0, 0xe2ff, {0, 30, 255}}}) {
         const MidiFileResult result = readMidiFile(header(c.format, 0, c.word));
         ASSERT_FALSE(result.error) << c.word << *result.error;
         EXPECT_EQ(result.file.format, static_cast<int>(c.format));
@@ -246,13 +246,13 @@ TEST(MidiFileReaderTest, EachKindOfEventIsCounted) {
 }
 
 TEST(MidiFileReaderTest, TempiAndTimeSignaturesOfAllTracksAreMerged) {
-    const std::string first = bytes({0,  0xff, 0x51, 3, 7, 0xa1, 0x20,       // tick 0: 500000
-                                     10, 0xff, 0x51, 3, 0, 0, 1,             // tick 10: 1
-                                     10, 0xff, 0x58, 4, 3, 2, 24, 8});       // tick 20: 3/4
-    const std::string second = bytes({5, 0xff, 0x51, 4, 0xff, 0xff, 0xff, 9,  // tick 5: the slowest, a byte too many
-                                      5, 0xff, 0x51, 3, 0, 0, 2,             // tick 10: 2
-                                      0, 0xff, 0x51, 3, 0, 0, 3,             // tick 10: 3
-                                      0, 0xff, 0x58, 4, 6, 3, 36, 8});       // tick 10: 6/8
+    const std::string first = bytes({0,  0xff, 0x51, 3, 7, 0xa1, 0x20,          // tick 0: 500000
+                                     10, 0xff, 0x51, 3, 0, 0,    1,             // tick 10: 1
+                                     10, 0xff, 0x58, 4, 3, 2,    24,   8});     // tick 20: 3/4
+    const std::string second = bytes({5, 0xff, 0x51, 4, 0xff, 0xff, 0xff, 9,    // tick 5: the slowest, a byte too many
+                                      5, 0xff, 0x51, 3, 0,    0,    2,          // tick 10: 2
+                                      0, 0xff, 0x51, 3, 0,    0,    3,          // tick 10: 3
+                                      0, 0xff, 0x58, 4, 6,    3,    36,   8});  // tick 10: 6/8
     const std::string file = header(1, 2, 96) + chunk("MTrk", first + END) + chunk("MTrk", second + END);
     const MidiFileResult result = readMidiFile(file);
     ASSERT_FALSE(result.error) << *result.error;
@@ -261,8 +261,8 @@ TEST(MidiFileReaderTest, TempiAndTimeSignaturesOfAllTracksAreMerged) {
 }
 
 TEST(MidiFileReaderTest, TheFirstNameOfATrackIsItsName) {
-    const MidiFileResult result = readMidiFile(
-        oneTrack(bytes({0, 0xff, 3, 2, 'Z', 0xeb, 0, 0xff, 3, 1, 'b', 0, 0xff, 1, 1, 'c'}) + END));
+    const MidiFileResult result =
+        readMidiFile(oneTrack(bytes({0, 0xff, 3, 2, 'Z', 0xeb, 0, 0xff, 3, 1, 'b', 0, 0xff, 1, 1, 'c'}) + END));
     ASSERT_FALSE(result.error) << *result.error;
     EXPECT_EQ(result.file.tracks.at(0).name, "Z\xeb");
 }
@@ -274,8 +274,8 @@ TEST(MidiFileReaderTest, RunningStatusDoesNotReachTheNextTrack) {
 }
 
 TEST(MidiFileReaderTest, MoreEventsThanAskedForAreRefused) {
-    const std::string file = header(1, 2, 96) + chunk("MTrk", bytes({0, 0xc0, 1, 0, 2}) + END) +
-                             chunk("MTrk", bytes({0, 0xf8}) + END);
+    const std::string file =
+        header(1, 2, 96) + chunk("MTrk", bytes({0, 0xc0, 1, 0, 2}) + END) + chunk("MTrk", bytes({0, 0xf8}) + END);
     EXPECT_FALSE(readMidiFile(file, 5).error);
     EXPECT_EQ(readMidiFile(file, 4).error.value_or("none"), "byte 41, track 2: more than 4 events");
     EXPECT_TRUE(readMidiFile(file, 4).file.tracks.empty());

@@ -41,10 +41,10 @@ TEST(MidiFileWriterTest, EachKindOfEventHasItsBytes) {
     EXPECT_TRUE(writer.add(0, makeTimeSignature(130, 6, 3)));
     EXPECT_EQ(writer.content(Layout::SINGLE_TRACK),
               header(0, 1, 480) +
-                  chunk("MTrk", bytes({1, 0x81, 2,    3,    0, 0x9f, 127,  127, 1, 0xa0, 0, 0, 0, 0xb2, 7, 100,
-                                       0, 0xc3, 5,    0,    0xd4, 5, 0,    0xe5, 1, 64,
-                                       0x81, 0x00, 0xf0, 2, 0x43, 0xf7, 0, 0xf7, 1, 0xf8,
-                                       0, 0xff, 0x51, 3, 0x07, 0xa1, 0x20, 0, 0xff, 0x58, 4, 6, 3, 24, 8}) +
+                  chunk("MTrk", bytes({1,    0x81, 2,    3,    0,    0x9f, 127,  127,  1, 0xa0, 0,    0,    0,
+                                       0xb2, 7,    100,  0,    0xc3, 5,    0,    0xd4, 5, 0,    0xe5, 1,    64,
+                                       0x81, 0x00, 0xf0, 2,    0x43, 0xf7, 0,    0xf7, 1, 0xf8, 0,    0xff, 0x51,
+                                       3,    0x07, 0xa1, 0x20, 0,    0xff, 0x58, 4,    6, 3,    24,   8}) +
                                     END));
 }
 

@@ -1,0 +1,39 @@
+// Any bytes as a list of layers and of zones. What was read is written and read back to the same text.
+#include "Backend/core/XmlDocument.h"
+#include "Backend/midi/LayerList.h"
+#include "Backend/midi/SequencePresetManager.h"
+#include "Backend/midi/ZoneMap.h"
+
+#include <cstdlib>
+#include <sstream>
+
+namespace {
+
+using Backend::XmlDocument;
+
+std::string writeLayers(const std::string& xml) {
+    Backend::Layers::LayerList layers;
+    layers.readXml(XmlDocument(xml, false).getRootElement(), Backend::SequenceManagement::SequencePresetManager(""));
+    std::ostringstream stream;
+    layers.writeXml(stream, 0, false);
+    return stream.str();
+}
+
+std::string writeZones(const std::string& xml) {
+    Backend::Zones::ZoneMap zones;
+    zones.readXml(XmlDocument(xml, false).getRootElement());
+    std::ostringstream stream;
+    zones.writeXml(stream, 0, false);
+    return stream.str();
+}
+
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
+    const std::string xml(reinterpret_cast<const char*>(data), size);
+    const std::string layers = writeLayers(xml);
+    const std::string zones = writeZones(xml);
+    if (writeLayers(layers) != layers || writeZones(zones) != zones)
+        std::abort();
+    return 0;
+}
