@@ -27,7 +27,7 @@ void operator delete(void* memory, std::size_t) noexcept {
     std::free(memory);
 }
 
-namespace Support {
+namespace TestSupport {
 
 AllocationCounter::AllocationCounter() {
     t_count = 0;

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-namespace Support {
+namespace TestSupport {
 
 // Counts what the calling thread takes from the heap while this object lives. One at a time on a thread.
 class AllocationCounter {

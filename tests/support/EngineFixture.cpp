@@ -4,7 +4,7 @@
 #include "Backend/core/XmlElement.h"
 #include "Backend/midi/SequencePresetManager.h"
 
-namespace Support {
+namespace TestSupport {
 
 using namespace Backend;
 using MidiEngine::MidiMessage;

@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-namespace Support {
+namespace TestSupport {
 
 // The layers of the text of a Layers element.
 Backend::Layers::LayerList readLayers(const std::string& xml);

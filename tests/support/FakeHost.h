@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace Support {
+namespace TestSupport {
 
 // A host, a window-less backend and controls in one, which remember what the engine tells them.
 class FakeHost : public Backend::MidiEngine::MidiPlayer,

@@ -41,6 +41,15 @@ struct Layer {
     // One line of text for lists, in which outputName stands for the layer's output.
     std::string describe(const std::string& outputName) const;
 
+    // Whether the layer lets events of a zone pass; -1 is none, for either.
+    bool acceptsZone(char eventZone) const { return zone < 0 || eventZone < 0 || zone == eventZone; }
+
+    // Whether it takes a note of this zone.
+    bool acceptsNote(char note, char noteVelocity, char eventZone) const {
+        return note >= minNote.getNumber() && note <= maxNote.getNumber() && noteVelocity >= minVelocity &&
+               noteVelocity <= maxVelocity && acceptsZone(eventZone);
+    }
+
     bool hasVelocityRange() const { return minVelocity != 0 || maxVelocity != 127; }
 
     std::int32_t id = -1;

@@ -136,7 +136,7 @@ void PlayingLayer::noteOff(const MirelMidiMessage& message) {
 }
 
 void PlayingLayer::otherEvent(const MirelMidiMessage& message, TargetSet& targets) {
-    if (!acceptsZone(message))
+    if (!m_layer.acceptsZone(message.getZone()))
         return;
     MirelMidiMessage copy(message);
     if (!route(copy) || !targets.insert(copy.getOutput(), copy.getChannel()))

@@ -37,11 +37,7 @@ public:
 
 private:
     bool acceptsNote(const MirelMidiMessage& message) const {
-        return message.getD1() >= m_layer.minNote.getNumber() && message.getD1() <= m_layer.maxNote.getNumber() &&
-               message.getD2() >= m_layer.minVelocity && message.getD2() <= m_layer.maxVelocity && acceptsZone(message);
-    }
-    bool acceptsZone(const MirelMidiMessage& message) const {
-        return m_layer.zone < 0 || message.getZone() < 0 || m_layer.zone == message.getZone();
+        return m_layer.acceptsNote(message.getD1(), message.getD2(), message.getZone());
     }
 
     void startToggledNote(const MirelMidiMessage& message);

@@ -12,7 +12,7 @@
 namespace Backend::MidiEngine {
 namespace {
 
-class MidiEngineMessageManagerTest : public testing::Test, public Support::EngineFixture {
+class MidiEngineMessageManagerTest : public testing::Test, public TestSupport::EngineFixture {
 protected:
     // What the host is given for an event that goes through the queue and two slices.
     MirelMidiMessage passThrough(const MirelMidiMessage& message) {
@@ -142,7 +142,7 @@ TEST_F(MidiEngineMessageManagerTest, OnlyItsThreadIsTheManagersThread) {
 }
 
 TEST_F(MidiEngineMessageManagerTest, PostsBeforeTheStartAreCarriedOutAfterIt) {
-    Support::FakeHost otherHost;
+    TestSupport::FakeHost otherHost;
     const auto other = std::make_unique<MidiEngine>(otherHost, otherHost);
     std::thread poster([&] { other->getMessageManager().postSetTempo(99); });
     other->initialize(0, false);

@@ -11,7 +11,7 @@
 namespace Backend::MidiEngine {
 namespace {
 
-class MidiEngineTest : public testing::Test, public Support::EngineFixture {};
+class MidiEngineTest : public testing::Test, public TestSupport::EngineFixture {};
 
 TEST_F(MidiEngineTest, MillisecondsBecomePpqFarAboveZero) {
     EXPECT_EQ(MidiEngine::milliseconds2Ppq(0, 120), 50000000);
@@ -145,7 +145,7 @@ TEST_F(MidiEngineTest, ANewLayerListEndsAllNotesWhileTheHostPlays) {
         post(MidiMessage::NoteOn, 60, 100);
         player.waitForSlices();
         player.waitForSlices();
-        manager().postSetLayerList(Support::readLayers("<Layers><Layer channel='1'/></Layers>"));
+        manager().postSetLayerList(TestSupport::readLayers("<Layers><Layer channel='1'/></Layers>"));
         manager().waitUntilIdle();
         post(MidiMessage::NoteOn, 61, 100);
         player.waitForSlices();
@@ -240,7 +240,7 @@ TEST_F(MidiEngineTest, ASliceInSteadyStateTakesNothingFromTheHeap) {
         "<SequenceSetting><Sequence>0,12|7</Sequence></SequenceSetting></Layer>"
         "<Layer channel='5'><Arpeggio><DownArpeggio beat='20' length='20'/></Arpeggio></Layer>"
         "<Layer channel='6'><Arpeggio><UpDownArpeggio beat='20' length='10'/></Arpeggio></Layer>";
-    setLayers(Support::repeatLayer(layer, 2));
+    setLayers(TestSupport::repeatLayer(layer, 2));
     host.played.reserve(1 << 20);
     std::int32_t ppq = 1000;
     const auto playSome = [&] {
@@ -257,7 +257,7 @@ TEST_F(MidiEngineTest, ASliceInSteadyStateTakesNothingFromTheHeap) {
     playSome();
     std::size_t taken = 0;
     {
-        const Support::AllocationCounter counter;
+        const TestSupport::AllocationCounter counter;
         playSome();
         taken = counter.count();
     }

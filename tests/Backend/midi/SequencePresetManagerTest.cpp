@@ -1,0 +1,143 @@
+#include "Backend/midi/SequencePresetManager.h"
+
+#include "Backend/midi/OldPresets.h"
+#include "Backend/midi/SequencePresetNames.h"
+#include "Backend/midi/SequenceSetting.h"
+#include "Platform/Files.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace Backend::SequenceManagement {
+namespace {
+
+class SequencePresetManagerTest : public testing::Test {
+protected:
+    std::string content(const std::string& name) const {
+        return Platform::Files::read(m_folder.file(name + ".seq")).value_or("(none)");
+    }
+
+    TestSupport::TemporaryFolder m_folder;
+    SequencePresetManager m_presets{m_folder.path()};
+};
+
+TEST_F(SequencePresetManagerTest, AddedPresetsAreFilesInASortedList) {
+    m_presets.addSequencePreset("b", " 0, 12 ");
+    m_presets.addSequencePreset("a", "0,12|7 V5");
+    m_presets.addSequencePreset("b", "0,12");
+    EXPECT_EQ(m_presets.getSequencePresetList(), (SequencePresetList{"a", "b"}));
+    EXPECT_EQ(content("a"), "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<Sequence>0,12|7 V5</Sequence>\n");
+    EXPECT_EQ(m_presets.load("b").toString(), "0,12");
+    EXPECT_EQ(SequencePresetManager(m_folder.path()).getSequencePresetList(), (SequencePresetList{"a", "b"}));
+}
+
+TEST_F(SequencePresetManagerTest, DeletingTakesTheFileAndTheName) {
+    m_presets.addSequencePreset("a", "0");
+    m_presets.deleteSequencePreset("a");
+    EXPECT_TRUE(m_presets.getSequencePresetList().empty());
+    EXPECT_EQ(content("a"), "(none)");
+}
+
+TEST_F(SequencePresetManagerTest, DeletingANameThatIsNotInTheListDoesNothing) {
+    m_presets.addSequencePreset("a", "0");
+    ASSERT_TRUE(Platform::Files::replace(m_folder.file("later.seq"), "x"));
+    m_presets.deleteSequencePreset("later");
+    m_presets.deleteSequencePreset("none");
+    EXPECT_EQ(content("later"), "x");
+    EXPECT_EQ(m_presets.getSequencePresetList(), SequencePresetList{"a"});
+}
+
+TEST_F(SequencePresetManagerTest, RenamingKeepsTheListSorted) {
+    m_presets.addSequencePreset("a", "0");
+    m_presets.addSequencePreset("b", "1");
+    m_presets.editSequencePreset("a", "c");
+    EXPECT_EQ(m_presets.getSequencePresetList(), (SequencePresetList{"b", "c"}));
+    EXPECT_EQ(m_presets.load("c").toString(), "0");
+    EXPECT_EQ(content("a"), "(none)");
+}
+
+TEST_F(SequencePresetManagerTest, RenamingToATakenOrFromAMissingNameDoesNothing) {
+    m_presets.addSequencePreset("a", "0");
+    m_presets.addSequencePreset("b", "1");
+    m_presets.editSequencePreset("a", "b");
+    m_presets.editSequencePreset("none", "c");
+    m_presets.editSequencePreset("a", "../c");
+    EXPECT_EQ(m_presets.getSequencePresetList(), (SequencePresetList{"a", "b"}));
+    EXPECT_EQ(m_presets.load("a").toString(), "0");
+    EXPECT_EQ(m_presets.load("b").toString(), "1");
+}
+
+TEST_F(SequencePresetManagerTest, NamesThatLeadElsewhereAreRefused) {
+    for (const char* name : {"", "../a", "a/b", "a\\b", "c:a", "a\nb", "a*"})
+        m_presets.addSequencePreset(name, "0");
+    EXPECT_TRUE(m_presets.getSequencePresetList().empty());
+    EXPECT_TRUE(Platform::Files::list(m_folder.path(), ".seq").empty());
+}
+
+TEST_F(SequencePresetManagerTest, NamesBeyondAsciiSurvive) {
+    const std::string name = "Zo\xC3\xAB \xE2\x80\x93 \xE3\x83\x94\xE3\x82\xA2\xE3\x83\x8E \xF0\x9F\x8E\xB9";
+    m_presets.addSequencePreset(name, "0,3");
+    EXPECT_EQ(SequencePresetManager(m_folder.path()).getSequencePresetList(), SequencePresetList{name});
+    EXPECT_EQ(m_presets.load(name).toString(), "0,3");
+}
+
+TEST_F(SequencePresetManagerTest, AFileThatCanNotBeReadGivesNoSequence) {
+    for (const char* text : {"", "0,12", "<Sequence>0", "<Other>0</Other>"}) {
+        ASSERT_TRUE(Platform::Files::replace(m_folder.file("bad.seq"), text));
+        EXPECT_FALSE(m_presets.load("bad").hasNodes()) << text;
+    }
+    EXPECT_FALSE(m_presets.load("missing").hasNodes());
+}
+
+TEST_F(SequencePresetManagerTest, ASettingOfAPresetHasItsSequence) {
+    m_presets.addSequencePreset("a", "0,12");
+    const SequenceSetting setting(" a ", m_presets);
+    EXPECT_EQ(setting.getPreset(), "a");
+    EXPECT_EQ(setting.getSequence().toString(), "0,12");
+    EXPECT_TRUE(setting.getUseNote() && setting.getUseVelocity() && setting.getUseLength());
+    for (const char* none : {"", "  ", "Off", " Off "}) {
+        const SequenceSetting empty(none, m_presets);
+        EXPECT_EQ(empty.getPreset(), "") << none;
+        EXPECT_FALSE(empty.getSequence().hasNodes()) << none;
+        EXPECT_TRUE(empty.getUseNote() && empty.getUseVelocity() && empty.getUseLength()) << none;
+    }
+    EXPECT_TRUE(SequenceSetting().getUseNote());
+    EXPECT_TRUE(SequenceSetting().getUseVelocity());
+    EXPECT_FALSE(SequenceSetting().getUseLength());
+}
+
+TEST_F(SequencePresetManagerTest, OldNumbersHaveTheirPresets) {
+    const auto nameOf = [this](int number) { return importSequenceSetting(number, 2, m_presets).getPreset(); };
+    for (int number = 0; number < 44; ++number)
+        EXPECT_EQ(nameOf(number), SEQUENCE_PRESET_NAMES[static_cast<std::size_t>(number)]);
+    EXPECT_EQ(nameOf(0), "001 - Oct 1 Up");
+    EXPECT_EQ(nameOf(43), "044 - Drums 11");
+    EXPECT_EQ(nameOf(44), "042 - Drums 9");
+    EXPECT_EQ(nameOf(49), "050 - Note 1 of 2");
+    EXPECT_EQ(nameOf(71), "072 - Note 8 of 8");
+    EXPECT_EQ(nameOf(90), "073 - Oct 1 Up (2)");
+    EXPECT_EQ(nameOf(111), "094 - m2 Down (2)");
+    for (const int none : {-1, 45, 46, 47, 48, 72, 80, 89, 112, 1000})
+        EXPECT_EQ(nameOf(none), "") << none;
+}
+
+TEST_F(SequencePresetManagerTest, OldModesSayWhatCounts) {
+    for (const int mode : {-1, 0, 1, 2, 3}) {
+        const SequenceSetting setting = importSequenceSetting(0, mode, m_presets);
+        EXPECT_EQ(setting.getUseNote(), mode != 1) << mode;
+        EXPECT_EQ(setting.getUseVelocity(), mode == 1 || mode == 2) << mode;
+    }
+}
+
+TEST(SequencePresetNamesTest, NamesAreSortedAndNumbered) {
+    EXPECT_EQ(SEQUENCE_PRESET_NAMES.size(), 89u);
+    EXPECT_TRUE(std::is_sorted(SEQUENCE_PRESET_NAMES.begin(), SEQUENCE_PRESET_NAMES.end(),
+                               [](const char* a, const char* b) { return std::string_view(a) < b; }));
+    EXPECT_STREQ(SEQUENCE_PRESET_NAMES[22], "023 - Seq 0");
+    EXPECT_STREQ(SEQUENCE_PRESET_NAMES[33], "034 - Drums 1");
+}
+
+}
+}
