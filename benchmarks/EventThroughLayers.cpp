@@ -6,11 +6,12 @@ namespace {
 
 using namespace Benchmarks;
 
+constexpr int EVENTS_A_SLICE = 100;
+
 std::vector<Backend::MidiEngine::MirelMidiMessage> makeEvents() {
     std::vector<Backend::MidiEngine::MirelMidiMessage> events;
-    for (const int note : {60, 61, 62, 63})
-        for (const bool isNoteOn : {true, false})
-            events.push_back(BenchEngine::makeNote(isNoteOn, note, 100));
+    for (int i = 0; i < EVENTS_A_SLICE; ++i)
+        events.push_back(BenchEngine::makeNote(i % 2 == 0, 60 + i % 8 / 2, 100));
     return events;
 }
 
@@ -21,15 +22,14 @@ public:
 
     void run(std::int64_t operations) override {
         while (operations > 0) {
-            for (int i = 0; i < EVENTS_A_SLICE && operations > 0; ++i, --operations)
-                m_engine.engine().postPlayMidi(m_events[static_cast<std::size_t>(i % 8)]);
+            for (const auto& event : m_events)
+                m_engine.engine().postPlayMidi(event);
             m_engine.playSlice(1);
+            operations -= EVENTS_A_SLICE;
         }
     }
 
 private:
-    static constexpr int EVENTS_A_SLICE = 100;
-
     BenchEngine m_engine;
     const std::vector<Backend::MidiEngine::MirelMidiMessage> m_events = makeEvents();
 };

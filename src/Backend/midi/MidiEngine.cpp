@@ -19,17 +19,10 @@ constexpr double PPQ_PER_QUARTER = 480.0;
 constexpr double MILLISECONDS_PER_MINUTE = 60000.0;
 constexpr std::int32_t PPQ_OFFSET = 50000000;
 
-// Room for what waits between two slices, so that posting allocates only in a flood.
-constexpr std::size_t USUAL_PENDING_MESSAGES = 1024;
-
 }
 
 MidiEngine::MidiEngine(MirelIF& mirel, MidiPlayer& midiPlayer)
-    : m_mirel(mirel), m_midiPlayer(midiPlayer), m_messageManager(*this) {
-    m_pendingMessages.reserve(USUAL_PENDING_MESSAGES);
-    m_takenMessages.reserve(USUAL_PENDING_MESSAGES);
-    m_timedMessages.reserve(USUAL_PENDING_MESSAGES);
-}
+    : m_mirel(mirel), m_midiPlayer(midiPlayer), m_messageManager(*this) {}
 
 MidiEngine::~MidiEngine() = default;
 
@@ -98,7 +91,7 @@ bool MidiEngine::isMidiPlayerThread() const {
 void MidiEngine::postPlayMidi(const MirelMidiMessage& message) {
     const bool isFull = m_pendingMessages.size() >= MAX_PENDING_MESSAGES;
     if (!isFull || message.isMirelReset() || message.isMirelHardReset())
-        m_pendingMessages.emplace_back(message);
+        m_pendingMessages.add(message);
 }
 
 void MidiEngine::postUpdateControl(const MirelMidiMessage& message) {
@@ -120,6 +113,21 @@ void MidiEngine::updateStartTime() {
 
 HWND MidiEngine::getGuiWindowHandle() const {
     return m_mirel.getGuiWindowHandle();
+}
+
+// One of the two ends of playMidi, and the one that every key takes.
+[[gnu::always_inline]] inline void MidiEngine::playThroughLayers(const MirelMidiMessage& message) {
+    if (message.isNoteOn()) {
+        for (PlayingLayer* layer : m_audibleLayers)
+            layer->noteOn(message);
+    } else if (message.isNoteOff()) {
+        for (PlayingLayer* layer : m_audibleLayers)
+            layer->noteOff(message);
+    } else {
+        TargetSet targets;
+        for (PlayingLayer* layer : m_audibleLayers)
+            layer->otherEvent(message, targets);
+    }
 }
 
 void MidiEngine::playMidi(MirelMidiMessage& message) {
@@ -157,20 +165,6 @@ void MidiEngine::playPastLayers(MirelMidiMessage& message) {
         postUpdateControl(original);
     }
     playMidiInternal(message, false);
-}
-
-void MidiEngine::playThroughLayers(const MirelMidiMessage& message) {
-    if (message.isNoteOn()) {
-        for (PlayingLayer* layer : m_audibleLayers)
-            layer->noteOn(message);
-    } else if (message.isNoteOff()) {
-        for (PlayingLayer* layer : m_audibleLayers)
-            layer->noteOff(message);
-    } else {
-        TargetSet targets;
-        for (PlayingLayer* layer : m_audibleLayers)
-            layer->otherEvent(message, targets);
-    }
 }
 
 void MidiEngine::playMidiInternal(const MirelMidiMessage& message, bool stackNotes) {

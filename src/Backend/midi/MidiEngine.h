@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Backend/midi/MessageList.h"
 #include "Backend/midi/MidiEngineMessageManager.h"
 #include "Backend/midi/MidiPlayer.h"
 #include "Backend/midi/MidiPort.h"
@@ -132,11 +133,6 @@ public:
 private:
     enum class ResetKind { Soft, Hard };
 
-    // A message in a queue. Nothing derives from it, so that vectors destroy it without a call.
-    struct PendingMessage final : MirelMidiMessage {
-        explicit PendingMessage(const MirelMidiMessage& message) : MirelMidiMessage(message) {}
-    };
-
     // The steps of a slice.
     void drainPendingMessages(std::int32_t to);
     void carryOutResets();
@@ -145,7 +141,7 @@ private:
 
     // Plays what is due at ppq, and returns when the next message is. One below earliest is not looked at.
     std::int64_t playDueMessages(std::int32_t ppq, std::int32_t earliest);
-    std::int64_t playDueMessages(std::vector<PendingMessage>& messages, std::int32_t ppq, std::int32_t earliest);
+    std::int64_t playDueMessages(MessageList& messages, std::int32_t ppq, std::int32_t earliest);
     bool isAnyArpeggioHolding() const;
     void playArpeggios(std::int32_t ppq);
 
@@ -179,9 +175,10 @@ private:
 
     // All oldest first. What is posted is pending until a slice takes it; what a slice could not play yet is timed, and
     // stands before what is taken later.
-    std::vector<PendingMessage> m_pendingMessages;
-    std::vector<PendingMessage> m_takenMessages;
-    std::vector<PendingMessage> m_timedMessages;
+    MessageList m_pendingMessages;
+    MessageList m_takenMessages;
+    std::int32_t m_takenFrom = 0;  // None of those taken is due before.
+    MessageList m_timedMessages;
 
     std::int32_t m_startTime = -1;
     bool m_midiThru = false;

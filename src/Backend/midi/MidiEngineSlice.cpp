@@ -32,15 +32,17 @@ void MidiEngine::playTimeSlice(std::int32_t from, std::int32_t to) {
 
 void MidiEngine::drainPendingMessages(std::int32_t to) {
     // A time below zero, from a window that ended there, is none.
-    for (PendingMessage& message : m_timedMessages)
+    for (MirelMidiMessage& message : m_timedMessages)
         if (message.getPpq() < 0)
             message.setPpq(to);
 
     m_takenMessages.swap(m_pendingMessages);
     bool anyRequest = false;
-    for (PendingMessage& message : m_takenMessages) {
+    m_takenFrom = std::numeric_limits<std::int32_t>::max();
+    for (MirelMidiMessage& message : m_takenMessages) {
         if (message.getPpq() < 0)
             message.setPpq(to);
+        m_takenFrom = std::min(m_takenFrom, message.getPpq());
         anyRequest |= message.isMirelReset() || message.isMirelHardReset();
     }
     if (anyRequest)
@@ -54,7 +56,7 @@ void MidiEngine::drainPendingMessages(std::int32_t to) {
 }
 
 void MidiEngine::carryOutResets() {
-    for (const PendingMessage& message : m_takenMessages) {
+    for (const MirelMidiMessage& message : m_takenMessages) {
         if (message.isMirelReset()) {
             reset();
             m_resetEvent.set();
@@ -63,17 +65,19 @@ void MidiEngine::carryOutResets() {
             m_hardResetEvent.set();
         }
     }
-    std::erase_if(m_takenMessages,
-                  [](const PendingMessage& message) { return message.isMirelReset() || message.isMirelHardReset(); });
+    m_takenMessages.truncate(std::remove_if(
+        m_takenMessages.begin(), m_takenMessages.end(),
+        [](const MirelMidiMessage& message) { return message.isMirelReset() || message.isMirelHardReset(); }));
 }
 
 void MidiEngine::keepUnplayedMessages() {
-    if (m_timedMessages.empty()) {
+    if (m_timedMessages.isEmpty()) {
         m_timedMessages.swap(m_takenMessages);
         return;
     }
-    m_timedMessages.insert(m_timedMessages.end(), m_takenMessages.begin(), m_takenMessages.end());
-    m_takenMessages.clear();
+    for (const MirelMidiMessage& message : m_takenMessages)
+        m_timedMessages.add(message);
+    m_takenMessages.truncate(m_takenMessages.begin());
 }
 
 // Ticks at which neither a message is due nor an arpeggio holds notes are passed over; nothing can happen in them.
@@ -93,14 +97,14 @@ void MidiEngine::walk(std::int64_t first, std::int64_t last, std::int32_t earlie
 
 std::int64_t MidiEngine::playDueMessages(std::int32_t ppq, std::int32_t earliest) {
     const std::int64_t nextTimed = playDueMessages(m_timedMessages, ppq, earliest);
-    return std::min(nextTimed, playDueMessages(m_takenMessages, ppq, earliest));
+    const std::int64_t nextTaken = ppq < m_takenFrom ? m_takenFrom : playDueMessages(m_takenMessages, ppq, earliest);
+    return std::min(nextTimed, nextTaken);
 }
 
-std::int64_t MidiEngine::playDueMessages(std::vector<PendingMessage>& messages, std::int32_t ppq,
-                                         std::int32_t earliest) {
+std::int64_t MidiEngine::playDueMessages(MessageList& messages, std::int32_t ppq, std::int32_t earliest) {
     std::int64_t nextDue = NEVER;
-    auto kept = messages.begin();
-    for (PendingMessage& message : messages) {
+    MirelMidiMessage* kept = messages.begin();
+    for (MirelMidiMessage& message : messages) {
         const std::int32_t time = message.getPpq();
         if (time <= ppq && time >= earliest) {
             playMidi(message);
@@ -108,11 +112,11 @@ std::int64_t MidiEngine::playDueMessages(std::vector<PendingMessage>& messages, 
         }
         if (time >= earliest)
             nextDue = std::min<std::int64_t>(nextDue, time);
-        if (&*kept != &message)
+        if (kept != &message)
             *kept = message;
         ++kept;
     }
-    messages.erase(kept, messages.end());
+    messages.truncate(kept);
     return nextDue;
 }
 

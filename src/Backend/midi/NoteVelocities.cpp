@@ -15,6 +15,7 @@ void NoteVelocities::growIfCrowded() {
         return;
     const std::vector<Entry> old = std::move(m_entries);
     m_entries.assign(old.size() * 2, Entry());
+    m_mask = m_entries.size() - 1;
     for (const Entry& entry : old)
         if (entry.generation == m_generation)
             m_entries[placeOf(entry.key)] = entry;

@@ -52,16 +52,16 @@ private:
 
     // Where the entry of a key is, or would go.
     std::size_t placeOf(std::uint32_t key) const {
-        const std::size_t mask = m_entries.size() - 1;
-        std::size_t place = (key * std::uint64_t{0x9E3779B97F4A7C15} >> 32) & mask;
+        std::size_t place = (key * std::uint64_t{0x9E3779B97F4A7C15} >> 32) & m_mask;
         while (m_entries[place].generation == m_generation && m_entries[place].key != key)
-            place = (place + 1) & mask;
+            place = (place + 1) & m_mask;
         return place;
     }
 
     void growIfCrowded();
 
     std::vector<Entry> m_entries;
+    std::size_t m_mask = USUAL_CAPACITY - 1;  // One less than the capacity.
     std::uint32_t m_generation = 1;
     std::size_t m_used = 0;
 };

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Backend/midi/MirelMidiMessage.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace Backend::MidiEngine {
+
+// Messages in the order in which they were added. It keeps the room that it once needed, and adding to it copies a
+// message over an old one, which costs less than making one.
+class MessageList {
+public:
+    MessageList() : m_messages(USUAL_COUNT) {}
+
+    std::size_t size() const { return m_count; }
+    bool isEmpty() const { return m_count == 0; }
+    MirelMidiMessage* begin() { return m_messages.data(); }
+    MirelMidiMessage* end() { return m_messages.data() + m_count; }
+
+    void add(const MirelMidiMessage& message) {
+        if (m_count == m_messages.size())
+            m_messages.resize(2 * m_count);
+        m_messages[m_count++] = message;
+    }
+
+    // Drops what stands from here on.
+    void truncate(const MirelMidiMessage* newEnd) {
+        m_count = static_cast<std::size_t>(newEnd - m_messages.data());
+    }
+
+    void swap(MessageList& other) {
+        m_messages.swap(other.m_messages);
+        std::swap(m_count, other.m_count);
+    }
+
+private:
+    // Room for what waits between two slices, so that adding allocates only in a flood.
+    static constexpr std::size_t USUAL_COUNT = 1024;
+
+    std::vector<MirelMidiMessage> m_messages;
+    std::size_t m_count = 0;
+};
+
+}
