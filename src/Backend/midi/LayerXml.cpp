@@ -11,7 +11,7 @@ namespace {
 
 constexpr const char* ARPEGGIO_TAG = "Arpeggio";
 
-Note readNote(const XmlElement& element, const char* name, Note defaultNote) {
+Note readNote(const XmlElement& element, const char* name, const Note& defaultNote) {
     const std::string text = element.getAttribute(name);
     return text.empty() ? defaultNote : Note(text);
 }

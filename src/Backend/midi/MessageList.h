@@ -25,9 +25,7 @@ public:
     }
 
     // Drops what stands from here on.
-    void truncate(const MirelMidiMessage* newEnd) {
-        m_count = static_cast<std::size_t>(newEnd - m_messages.data());
-    }
+    void truncate(const MirelMidiMessage* newEnd) { m_count = static_cast<std::size_t>(newEnd - m_messages.data()); }
 
     void swap(MessageList& other) {
         m_messages.swap(other.m_messages);

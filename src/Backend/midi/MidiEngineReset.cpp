@@ -24,7 +24,7 @@ void MidiEngine::reset() {
 
 void MidiEngine::hardReset() {
     reset();
-    for (char channel = 0; channel < NoteCounters::CHANNELS; ++channel) {
+    for (char channel = 0; channel < static_cast<char>(NoteCounters::CHANNELS); ++channel) {
         playMidiInternal(MirelMidiMessage::createAllSoundOffCC(m_defaultMidiOutput, channel), false);
         playMidiInternal(MirelMidiMessage::createAllControllersOffCC(m_defaultMidiOutput, channel), false);
     }

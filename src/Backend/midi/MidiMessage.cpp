@@ -20,12 +20,12 @@ MidiMessage::MidiMessage(const std::string& text) {
         m_bytes.d1 = Text::lowByte(Text::readInteger(std::string_view(text).substr(comma + 1), 0));
 }
 
-MidiMessage::MidiMessage(Note note) {
+MidiMessage::MidiMessage(const Note& note) {
     if (note.isNote())
         *this = note;
 }
 
-MidiMessage& MidiMessage::operator=(Note note) {
+MidiMessage& MidiMessage::operator=(const Note& note) {
     m_bytes.status = NoteOn;
     m_bytes.d1 = static_cast<char>(note.getNumber());
     m_bytes.d2 = 0;

@@ -57,10 +57,10 @@ public:
     explicit MidiMessage(const std::string& text);
 
     // A Note On of velocity 0 on channel 0; empty if it is no note.
-    explicit MidiMessage(Note note);
+    explicit MidiMessage(const Note& note);
 
     // A Note On of velocity 0 on the present channel, whatever the number.
-    MidiMessage& operator=(Note note);
+    MidiMessage& operator=(const Note& note);
 
     // A status below 0xF0 without its low four bits; any other as it is.
     static constexpr MessageType fixStatus(std::uint32_t status) {

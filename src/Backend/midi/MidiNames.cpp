@@ -32,7 +32,7 @@ constexpr std::array<EventName, 19> EVENT_NAMES = {{
 constexpr const char* UNDEFINED = "Undefined";
 
 struct ControllerName {
-    int number;
+    std::size_t number;
     const char* name;
 };
 
@@ -100,17 +100,17 @@ constexpr std::array<ControllerName, 42> OTHER_NAMES = {{
     {127, "Poly mode on"},
 }};
 
-constexpr int FINE_OFFSET = 32;
+constexpr std::size_t FINE_OFFSET = 32;
 
 constexpr std::array<const char*, 128> makeControllerNames() {
     std::array<const char*, 128> names{};
     names.fill(UNDEFINED);
     for (const auto& row : COARSE_NAMES) {
-        names[static_cast<std::size_t>(row.number)] = row.name;
-        names[static_cast<std::size_t>(row.number + FINE_OFFSET)] = row.name;
+        names[row.number] = row.name;
+        names[row.number + FINE_OFFSET] = row.name;
     }
     for (const auto& row : OTHER_NAMES)
-        names[static_cast<std::size_t>(row.number)] = row.name;
+        names[row.number] = row.name;
     return names;
 }
 

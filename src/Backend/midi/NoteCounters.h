@@ -3,6 +3,7 @@
 #include "Backend/midi/MirelMidiMessage.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 namespace Backend::MidiEngine {
@@ -10,15 +11,15 @@ namespace Backend::MidiEngine {
 // How often each note sounds on each output and channel. A flat table, so that counting neither searches nor allocates.
 class NoteCounters {
 public:
-    static constexpr int OUTPUTS = 128;
-    static constexpr int CHANNELS = 16;
-    static constexpr int NOTES = 128;
+    static constexpr std::size_t OUTPUTS = 128;
+    static constexpr std::size_t CHANNELS = 16;
+    static constexpr std::size_t NOTES = 128;
 
     // The counter of a note event; null if its output, channel or note lies outside the table.
     std::int32_t* find(const MirelMidiMessage& message) {
-        const unsigned output = static_cast<unsigned char>(message.getOutput());
-        const unsigned channel = static_cast<unsigned char>(message.getChannel());
-        const unsigned note = static_cast<unsigned char>(message.getD1());
+        const std::size_t output = static_cast<unsigned char>(message.getOutput());
+        const std::size_t channel = static_cast<unsigned char>(message.getChannel());
+        const std::size_t note = static_cast<unsigned char>(message.getD1());
         if (output >= OUTPUTS || channel >= CHANNELS || note >= NOTES)
             return nullptr;
         return &m_counts[(output * CHANNELS + channel) * NOTES + note];
@@ -27,7 +28,7 @@ public:
     // Takes each note that sounds off the table and gives it to ended(output, channel, note), in that order.
     template <typename Ended>
     void takeAll(Ended ended) {
-        for (unsigned index = 0; index < m_counts.size(); ++index) {
+        for (std::size_t index = 0; index < m_counts.size(); ++index) {
             if (m_counts[index] <= 0)
                 continue;
             m_counts[index] = 0;

@@ -2,7 +2,6 @@
 
 #include "Backend/core/Text.h"
 #include "Backend/midi/MidiEngine.h"
-#include "Backend/midi/NoteCounters.h"
 #include "Backend/midi/NoteRange.h"
 #include "Backend/midi/Transposition.h"
 
@@ -11,6 +10,8 @@
 namespace Backend::MidiEngine {
 
 namespace {
+
+constexpr char CHANNELS = 16;
 
 char transposeNote(const Layers::Layer& layer, std::int32_t note) {
     const std::int32_t transposed = layer.key.isNote() ? transposeDiatonic(note, layer.key.getNumber() % 12,
@@ -34,7 +35,7 @@ PlayingLayer::PlayingLayer(const Layers::Layer& layer, MidiEngine& engine)
     : m_engine(engine),
       m_layer(layer),
       // A channel that does not exist becomes the first one.
-      m_channel(layer.channel < 0 || layer.channel >= NoteCounters::CHANNELS ? char{0} : layer.channel),
+      m_channel(layer.channel < 0 || layer.channel >= CHANNELS ? char{0} : layer.channel),
       m_isDefaultChannel(layer.channel < 0) {
     for (std::size_t note = 0; note < m_sentNotes.size(); ++note)
         m_sentNotes[note] = transposeNote(layer, static_cast<std::int32_t>(note));

@@ -9,6 +9,7 @@
 #include <array>
 #include <cmath>
 #include <map>
+#include <tuple>
 
 namespace Host::Cli {
 
@@ -67,11 +68,7 @@ void Renderer::addEvent(const MidiFileEvent& event, std::int32_t ppq) {
 
 // Ends what the file leaves sounding, so that nothing hangs.
 void Renderer::endOpenNotes() {
-    struct Key {
-        bool isDefaultChannel;
-        char channel, zone, note;
-        auto operator<=>(const Key&) const = default;
-    };
+    using Key = std::tuple<bool, char, char, char>;  // Default channel, channel, zone, note.
     std::map<Key, std::pair<int, MirelMidiMessage>> open;
     for (const InputEvent& event : m_events) {
         const MirelMidiMessage& message = event.message;
@@ -158,7 +155,7 @@ std::string Renderer::content() const {
 
     std::array<std::size_t, RenderDesk::OUTPUTS> trackOfOutput{};
     for (const RenderDesk::PlayedEvent& played : m_desk.getPlayed()) {
-        std::size_t& track = trackOfOutput[static_cast<std::size_t>(played.output)];
+        std::size_t& track = trackOfOutput[static_cast<unsigned char>(played.output)];
         if (track == MidiFileWriter::CONDUCTOR)
             track = writer.addTrack("Output " + std::to_string(played.output + 1));
         MidiFileEvent event;

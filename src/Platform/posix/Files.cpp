@@ -62,7 +62,7 @@ fs::path temporaryPath(const fs::path& target) {
     static std::atomic<unsigned> counter{0};
     for (;;) {
         const std::string mark = "." + std::to_string(::getpid()) + "-" + std::to_string(counter.fetch_add(1)) + ".tmp";
-        const fs::path path = target.native() + mark;
+        fs::path path = target.native() + mark;
         std::error_code error;
         if (fs::symlink_status(path, error).type() != fs::file_type::regular)
             return path;
