@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace Backend::MidiEngine {
 
@@ -37,8 +38,11 @@ void MidiEngine::end() {
 }
 
 std::int32_t MidiEngine::milliseconds2Ppq(double milliseconds, int tempo) {
-    const double ppq = std::floor(tempo / MILLISECONDS_PER_MINUTE * milliseconds * PPQ_PER_QUARTER + 0.5);
-    return static_cast<std::int32_t>(std::trunc(ppq)) + PPQ_OFFSET;
+    constexpr double LATEST = std::numeric_limits<std::int32_t>::max();
+    const double ppq = std::floor(tempo / MILLISECONDS_PER_MINUTE * milliseconds * PPQ_PER_QUARTER + 0.5) + PPQ_OFFSET;
+    if (!(ppq > 0))  // Also what is no number.
+        return 0;
+    return static_cast<std::int32_t>(std::min(ppq, LATEST));
 }
 
 void MidiEngine::setDefaultMidiOutput(int output) {

@@ -64,7 +64,8 @@ public:
     // plays a few ticks at both of its ends; one of MAX_TIME_SLICE or more plays nothing.
     void playTimeSlice(std::int32_t from, std::int32_t to);
 
-    // [any] The ppq time of a host clock at a tempo in beats per minute. Far above 0, as negative times mean none.
+    // [any] The ppq time of a host clock at a tempo in beats per minute. Far above 0, as negative times mean none; a
+    // clock so far off that its time fits no 32 bits, or is negative, gives the last time or 0.
     static std::int32_t milliseconds2Ppq(double milliseconds, int tempo);
 
     MidiEngineMessageManager& getMessageManager() { return m_messageManager; }

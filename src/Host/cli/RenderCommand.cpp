@@ -3,6 +3,7 @@
 #include "Backend/core/XmlDocument.h"
 #include "Backend/midi/SequencePresetManager.h"
 #include "Host/cli/ExitStatus.h"
+#include "Host/cli/InputFile.h"
 #include "Host/cli/RenderOptions.h"
 #include "Host/cli/Renderer.h"
 #include "Host/common/MidiFileClock.h"
@@ -32,11 +33,16 @@ std::string plural(std::size_t count, const char* one, const char* many) {
     return std::to_string(count) + " " + (count == 1 ? one : many);
 }
 
+std::string readFile(const std::string& path) {
+    std::string content;
+    std::string error;
+    if (!readInputFile(path, content, error))
+        throw RenderError(path, error);
+    return content;
+}
+
 MidiFile readInput(const std::string& path) {
-    const auto bytes = Platform::Files::read(path);
-    if (!bytes)
-        throw RenderError(path, "can't be read");
-    MidiFileResult result = readMidiFile(*bytes);
+    MidiFileResult result = readMidiFile(readFile(path));
     if (result.error)
         throw RenderError(path, *result.error);
     return std::move(result.file);
@@ -44,10 +50,7 @@ MidiFile readInput(const std::string& path) {
 
 // The document of a file whose root has this name.
 XmlDocument readDocument(const std::string& path, const char* tag) {
-    const auto bytes = Platform::Files::read(path);
-    if (!bytes)
-        throw RenderError(path, "can't be read");
-    XmlDocument document(*bytes, false);
+    XmlDocument document(readFile(path), false);
     if (!document.hasRoot())
         throw RenderError(path, "is not well-formed XML");
     if (document.getRootElement().getName() != tag)

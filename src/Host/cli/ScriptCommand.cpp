@@ -1,6 +1,7 @@
 #include "Host/cli/ScriptCommand.h"
 
 #include "Host/cli/ExitStatus.h"
+#include "Host/cli/InputFile.h"
 #include "Host/cli/ScriptCommands.h"
 #include "Host/cli/ScriptError.h"
 #include "Platform/Files.h"
@@ -62,24 +63,27 @@ int runScript(const std::vector<std::string>& arguments) {
         std::fputs(USAGE, stderr);
         return FAILED;
     }
-    const auto text = options->file == STANDARD_INPUT ? readStandardInput() : Platform::Files::read(options->file);
-    if (!text) {
-        std::fprintf(stderr, "%s: can't be read\n", options->file.c_str());
+    std::string text;
+    std::string error;
+    if (options->file == STANDARD_INPUT) {
+        text = readStandardInput();
+    } else if (!readInputFile(options->file, text, error)) {
+        std::fprintf(stderr, "%s: %s\n", options->file.c_str(), error.c_str());
         return FAILED;
     }
 
     const std::string sequences =
         options->dataFolder.empty() ? std::string() : Platform::Files::join(options->dataFolder, "Sequences");
     ScriptDesk desk(options->tell, sequences);
-    ScriptReader reader(*text);
+    ScriptReader reader(text);
     try {
         while (const auto line = reader.nextCommand()) {
             runScriptCommand(*line, reader, desk);
             print(desk.takeOutput());
         }
-    } catch (const ScriptError& error) {
+    } catch (const ScriptError& failure) {
         std::fflush(stdout);
-        std::fprintf(stderr, "%s:%d: %s\n", options->file.c_str(), error.getLine(), error.what());
+        std::fprintf(stderr, "%s:%d: %s\n", options->file.c_str(), failure.getLine(), failure.what());
         return FAILED;
     }
     std::fflush(stdout);

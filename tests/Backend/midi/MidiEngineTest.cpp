@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <thread>
 
 namespace Backend::MidiEngine {
@@ -21,6 +22,9 @@ TEST_F(MidiEngineTest, MillisecondsBecomePpqFarAboveZero) {
     EXPECT_EQ(MidiEngine::milliseconds2Ppq(60000, 20), 50009600);
     EXPECT_EQ(MidiEngine::milliseconds2Ppq(60000, 250), 50120000);
     EXPECT_EQ(MidiEngine::milliseconds2Ppq(-1000, 120), 49999040);
+    EXPECT_EQ(MidiEngine::milliseconds2Ppq(1e15, 120), INT32_MAX);
+    EXPECT_EQ(MidiEngine::milliseconds2Ppq(-1e15, 120), 0);
+    EXPECT_EQ(MidiEngine::milliseconds2Ppq(std::nan(""), 120), 0);
 }
 
 TEST_F(MidiEngineTest, FirstStartTimeWins) {

@@ -224,6 +224,27 @@ TEST_F(RenderTest, BadLayersAndZonesGetOneLine) {
     expectRefusal(render({"--zones", path("layers.pst")}), "layers.pst", "is not an element Zones");
 }
 
+TEST_F(RenderTest, AHundredMegabytesOfLayersAreRefusedWithALine) {
+    writeInput({event(0, NOTE_ON, 0, 60, 100)});
+    std::string xml = "<Layers>";
+    while (xml.size() < 100'000'000)
+        xml += "<Layer channel='1' transpose='+5' key='C' velocity='+3' compress='1_2'></Layer>";
+    expectRefusal(renderWithLayers(xml + "</Layers>"), "layers.pst", "is larger than 64 MiB");
+}
+
+TEST_F(RenderTest, HugeLayersAreTaken) {
+    writeInput({event(0, NOTE_ON, 0, 60, 100), event(480, NOTE_OFF, 0, 60, 0)});
+    std::string sequence = "0";
+    for (int i = 1; i < 1'000'000; ++i)
+        sequence += ",0";
+    EXPECT_EQ(renderWithLayers("<Layers><Layer><Arpeggio><UpArpeggio/></Arpeggio><SequenceSetting><Sequence>" +
+                               sequence + "</Sequence></SequenceSetting></Layer></Layers>"),
+              0);
+    EXPECT_EQ(output().front(), "0 on ch0 60 100");
+    EXPECT_EQ(renderWithLayers("<Layers><Layer minNote='" + std::string(1 << 20, '0') + "'/></Layers>"), 0);
+    EXPECT_EQ(output().front(), "0 on ch0 60 100");
+}
+
 TEST_F(RenderTest, AnOutputThatCanNotBeWrittenGetsOneLine) {
     writeInput({event(0, NOTE_ON, 0, 60, 100)});
     testing::internal::CaptureStdout();
