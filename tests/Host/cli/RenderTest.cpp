@@ -2,9 +2,12 @@
 #include "Host/common/MidiFileReader.h"
 #include "Host/common/MidiFileWriter.h"
 #include "Platform/Files.h"
+#include "tests/support/ProjectFolder.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+
+#include <set>
 
 namespace Host::Cli {
 namespace {
@@ -222,6 +225,29 @@ TEST_F(RenderTest, BadLayersAndZonesGetOneLine) {
     expectRefusal(render({"--zones", path("layers.pst"), "--layers", path("none.pst")}), "none.pst", "can't be read");
     ASSERT_TRUE(Platform::Files::replace(path("layers.pst"), "<Layers/>"));
     expectRefusal(render({"--zones", path("layers.pst")}), "layers.pst", "is not an element Zones");
+}
+
+// Songs that come with a game, of which every note must have ended when the last one has.
+TEST_F(RenderTest, SongsPlayThroughTheExampleBandAndNothingHangs) {
+    const std::string folder = "/usr/share/games/openttd/baseset/openmsx";
+    const auto songs = Platform::Files::list(folder, ".mid");
+    ASSERT_GE(songs.size(), 10u);
+    for (std::size_t i = 0; i < songs.size(); i += 5) {
+        const auto bytes = Platform::Files::read(Platform::Files::join(folder, songs[i]));
+        ASSERT_TRUE(bytes && Platform::Files::replace(path("in.mid"), *bytes));
+        ASSERT_EQ(render({"--layers", TestSupport::projectFile("data/examples/Arpeggio Band.pst")}), 0) << songs[i];
+        const MidiFileResult result = readMidiFile(*Platform::Files::read(path("out.mid")));
+        ASSERT_FALSE(result.error) << songs[i];
+        EXPECT_GT(result.file.counts.channelEventsOf(NOTE_ON), 100u) << songs[i];
+        std::set<std::pair<int, int>> sounding;
+        for (const MidiFileMergedEvent& merged : mergedEvents(result.file)) {
+            if (merged.event->status == NOTE_ON)
+                sounding.insert({merged.event->channel, merged.event->d1});
+            else if (merged.event->status == NOTE_OFF)
+                sounding.erase({merged.event->channel, merged.event->d1});
+        }
+        EXPECT_TRUE(sounding.empty()) << songs[i] << ": " << sounding.size();
+    }
 }
 
 TEST_F(RenderTest, AHundredMegabytesOfLayersAreRefusedWithALine) {
