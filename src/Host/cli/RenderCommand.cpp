@@ -126,6 +126,10 @@ void render(const RenderOptions& options) {
 }
 
 int runRender(const std::vector<std::string>& arguments) {
+    if (arguments.size() == 1 && arguments.front() == "--help") {
+        std::fputs(USAGE, stdout);
+        return DONE;
+    }
     std::string error;
     const auto options = parseRenderOptions(arguments, error);
     if (!options) {

@@ -58,6 +58,10 @@ void print(const std::string& text) {
 }
 
 int runScript(const std::vector<std::string>& arguments) {
+    if (arguments.size() == 1 && arguments.front() == "--help") {
+        std::fputs(USAGE, stdout);
+        return DONE;
+    }
     const auto options = parseOptions(arguments);
     if (!options) {
         std::fputs(USAGE, stderr);
