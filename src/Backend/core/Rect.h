@@ -1,0 +1,13 @@
+#pragma once
+
+#include <cstdint>
+
+// A rectangle on the screen, in pixels. Right and bottom lie outside it.
+struct Rect {
+    std::int32_t left = 0;
+    std::int32_t top = 0;
+    std::int32_t right = 0;
+    std::int32_t bottom = 0;
+
+    bool operator==(const Rect&) const = default;
+};
