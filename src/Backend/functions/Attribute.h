@@ -1,0 +1,45 @@
+// How the parameters of a function are stored as attributes of its element.
+#pragma once
+
+#include "Backend/core/XmlElement.h"
+#include "Backend/core/XmlItem.h"
+#include "Backend/core/XmlWriting.h"
+
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+namespace Backend::FunctionManagement {
+
+// One parameter: the attribute's name and the member that holds the value.
+template <class Owner, class Value>
+struct Attribute {
+    const char* name;
+    Value Owner::*member;
+    Value missing{};          // What a number reads as if the attribute is missing.
+    bool isOptional = false;  // Left out of the file when it is as if missing.
+};
+
+// Values that are items read a missing attribute as an empty text. Numbers keep their low bits.
+template <class Owner, class Value>
+Value readAttribute(const XmlElement& element, const Attribute<Owner, Value>& attribute) {
+    if constexpr (std::is_integral_v<Value>) {
+        using Bits = std::make_unsigned_t<Value>;
+        return static_cast<Value>(static_cast<Bits>(element.getIntAttribute(attribute.name, attribute.missing)));
+    } else if constexpr (std::is_base_of_v<XmlItem, Value>) {
+        const std::string text = element.getAttribute(attribute.name);
+        return Value(std::string_view(text));
+    } else {
+        return element.getAttribute(attribute.name);
+    }
+}
+
+template <class Owner, class Value>
+void writeAttribute(std::ostream& stream, const Attribute<Owner, Value>& attribute, const Value& value) {
+    if (attribute.isOptional && value == attribute.missing)
+        return;
+    stream << getAttributeText(attribute.name, value);
+}
+
+}

@@ -1,0 +1,71 @@
+// The names of all function classes.
+#pragma once
+
+namespace Backend::FunctionManagement::Functions {
+
+class ChangeControl;
+class ChangeDefaultMidiOutput;
+class ChangeGlobalKeyboard;
+class ChangeLayerMono;
+class ChangeLayerMute;
+class ChangeLayerNoteToggle;
+class ChangeLayerSolo;
+class ChangeLayerTranspose;
+class ChangeLayerVelocity;
+class ChangeMidiThru;
+class ChangeOscPlaying;
+class ChangeOscSpeed;
+class ChangeProgram;
+class ChangeTempo;
+class ChangeZoneTranspose;
+class DataSelectLayer;
+class DataSelectOsc;
+class EditSelectLayer;
+class LoadComputerInputPreset;
+class LoadControlPreset;
+class LoadJoystickInputPreset;
+class LoadLayerPreset;
+class LoadMidiInputPreset;
+class LoadOscillatorPreset;
+class MidiActiveSensing;
+class MidiBusSelect;
+class MidiChannelPressure;
+class MidiContinueSong;
+class MidiControllerChange;
+class MidiEndOfSysEx;
+class MidiKeyPressure;
+class MidiNoteOff;
+class MidiNoteOn;
+class MidiPitchBend;
+class MidiProgramChange;
+class MidiSongPosition;
+class MidiSongSelect;
+class MidiStartSong;
+class MidiStopSong;
+class MidiSystemReset;
+class MidiTimingTick;
+class MidiTuneRequest;
+class MoveWindowFunction;
+class NoFunction;
+class ResetMirel;
+class SelectControl;
+class SelectZone;
+class SendControlData;
+class SetWidgetFocus;
+class ShowCc;
+class ShowComputerInput;
+class ShowControl;
+class ShowDefaultMidiOutputMenu;
+class ShowDisplay;
+class ShowHelp;
+class ShowJoystick;
+class ShowLayer;
+class ShowMidiInput;
+class ShowOscillator;
+class ShowOutput;
+class ShowProgramMenu;
+class ShowSaveDialog;
+class ShowSystem;
+class ShowZone;
+
+}
