@@ -10,18 +10,20 @@ using namespace Backend;
 using MidiEngine::MidiMessage;
 using MidiEngine::MirelMidiMessage;
 
-BenchEngine::BenchEngine(const std::string& layersXml) : m_engine(new MidiEngine::MidiEngine(*this, *this)) {
-    m_engine->initialize(0, true);
+BenchEngine::BenchEngine(const std::string& layersXml)
+    : m_mirel(new Host::ObservedMirel("", *this, [](const MirelMidiMessage&) { return false; })),
+      m_engine(m_mirel->getMidiEngine()) {
+    m_engine.initialize(0, true);
     const XmlDocument document(layersXml, false);
     Layers::LayerList layers;
     layers.readXml(document.getRootElement(), SequenceManagement::SequencePresetManager(""));
-    m_engine->getMessageManager().postSetMidiOutputPorts(std::vector<MidiEngine::MidiOutputPort>(1));
-    m_engine->getMessageManager().postSetLayerList(layers);
-    m_engine->getMessageManager().waitUntilIdle();
+    m_engine.getMessageManager().postSetMidiOutputPorts(std::vector<MidiEngine::MidiOutputPort>(1));
+    m_engine.getMessageManager().postSetLayerList(layers);
+    m_engine.getMessageManager().waitUntilIdle();
 }
 
 BenchEngine::~BenchEngine() {
-    m_engine->end();
+    m_engine.end();
 }
 
 MirelMidiMessage BenchEngine::makeNote(bool isNoteOn, int note, int velocity) {
@@ -36,11 +38,11 @@ MirelMidiMessage BenchEngine::makeNote(bool isNoteOn, int note, int velocity) {
 }
 
 void BenchEngine::post(bool isNoteOn, int note, int velocity) {
-    m_engine->postPlayMidi(makeNote(isNoteOn, note, velocity));
+    m_engine.postPlayMidi(makeNote(isNoteOn, note, velocity));
 }
 
 void BenchEngine::playSlice(std::int32_t ppq) {
-    m_engine->playTimeSlice(m_clock, m_clock + ppq);
+    m_engine.playTimeSlice(m_clock, m_clock + ppq);
     m_clock += ppq;
 }
 

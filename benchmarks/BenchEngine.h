@@ -1,9 +1,8 @@
 #pragma once
 
-#include "Backend/core/MirelIF.h"
-#include "Backend/input/ControlMessageManager.h"
 #include "Backend/midi/LayerList.h"
 #include "Backend/midi/MidiEngine.h"
+#include "Host/common/ObservedMirel.h"
 
 #include <memory>
 #include <string>
@@ -11,14 +10,12 @@
 namespace Benchmarks {
 
 // An engine with one output, whose host and controls do nothing with what they are given.
-class BenchEngine : private Backend::MirelIF,
-                    private Backend::MidiEngine::MidiPlayer,
-                    private Backend::Controls::ControlMessageManager {
+class BenchEngine : private Backend::MidiEngine::MidiPlayer {
 public:
     explicit BenchEngine(const std::string& layersXml);
     ~BenchEngine() override;
 
-    Backend::MidiEngine::MidiEngine& engine() { return *m_engine; }
+    Backend::MidiEngine::MidiEngine& engine() { return m_engine; }
 
     // A note on the default routing.
     static Backend::MidiEngine::MirelMidiMessage makeNote(bool isNoteOn, int note, int velocity);
@@ -38,11 +35,9 @@ private:
     void setTempo(int) override {}
     void setTempoSource(char) override {}
     char getTempoSource() override { return -1; }
-    HWND getGuiWindowHandle() override { return nullptr; }
-    Backend::Controls::ControlMessageManager& getControlMessageManager() override { return *this; }
-    void postUpdateControl(const Backend::MidiEngine::MirelMidiMessage&) override {}
 
-    std::unique_ptr<Backend::MidiEngine::MidiEngine> m_engine;
+    const std::unique_ptr<Host::ObservedMirel> m_mirel;  // Never started; only its engine is.
+    Backend::MidiEngine::MidiEngine& m_engine;
     std::int32_t m_clock = 50000000;
     std::int64_t m_played = 0;
 };

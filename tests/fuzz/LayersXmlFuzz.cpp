@@ -16,7 +16,7 @@ std::string writeLayers(const std::string& xml) {
     Backend::Layers::LayerList layers;
     layers.readXml(XmlDocument(xml, false).getRootElement(), Backend::SequenceManagement::SequencePresetManager(""));
     std::ostringstream stream;
-    layers.writeXml(stream, 0, false);
+    layers.writeXml(stream, 0, {});
     return stream.str();
 }
 

@@ -25,7 +25,7 @@ std::string repeatLayer(const std::string& layer, int count) {
     return xml + "</Layers>";
 }
 
-EngineFixture::EngineFixture() : engine(std::make_unique<MidiEngine::MidiEngine>(host, host)) {
+EngineFixture::EngineFixture() : engine(std::make_unique<MidiEngine::MidiEngine>(host.mirel(), host)) {
     engine->initialize(0, false);
     manager().postSetMidiOutputPorts(std::vector<MidiOutputPort>(2));
     manager().waitUntilIdle();

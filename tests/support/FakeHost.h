@@ -1,27 +1,21 @@
 #pragma once
 
-#include "Backend/core/MirelIF.h"
-#include "Backend/input/ControlMessageManager.h"
 #include "Backend/midi/MidiPlayer.h"
+#include "Host/common/ObservedMirel.h"
 #include "Platform/MessageThread.h"
 
 #include <atomic>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace TestSupport {
 
 // A host, a window-less backend and controls in one, which remember what the engine tells them.
-class FakeHost : public Backend::MidiEngine::MidiPlayer,
-                 public Backend::Controls::ControlMessageManager,
-                 public Backend::MirelIF {
+class FakeHost : public Backend::MidiEngine::MidiPlayer {
 public:
     // Under the engine's lock.
     void playMidi(const Backend::MidiEngine::MirelMidiMessage& message) override { played.push_back(message); }
-    void postUpdateControl(const Backend::MidiEngine::MirelMidiMessage& message) override {
-        updates.push_back(message);
-    }
-
     void enableMidiInput(int port, bool enable) override { tell("input", port, enable); }
     void enableMidiOutput(int port, bool enable) override { tell("output", port, enable); }
     DWORD getThreadId() override { return threadId; }
@@ -35,8 +29,9 @@ public:
     }
     char getTempoSource() override { return tempoSource; }
 
-    HWND getGuiWindowHandle() override { return window; }
-    Backend::Controls::ControlMessageManager& getControlMessageManager() override { return *this; }
+    // A backend that is not started, for an engine of the test's own.
+    Backend::MirelIF& mirel() { return *m_mirel; }
+    void setWindow(HWND window) { m_mirel->setGuiWindowHandle(window); }
 
     std::vector<Backend::MidiEngine::MirelMidiMessage> played;
     std::vector<Backend::MidiEngine::MirelMidiMessage> updates;
@@ -45,13 +40,20 @@ public:
     std::atomic<int> tempoSourceChanges = 0;
     std::atomic<int> internalClockRequests = 0;
     std::atomic<DWORD> threadId = Platform::currentThreadId();
-    std::atomic<HWND> window = nullptr;
 
 private:
+    bool hear(const Backend::MidiEngine::MirelMidiMessage& message) {
+        updates.push_back(message);
+        return false;
+    }
+
     void tell(const std::string& name, int value) { calls.push_back(name + " " + std::to_string(value)); }
     void tell(const std::string& name, int value, bool flag) {
         calls.push_back(name + " " + std::to_string(value) + (flag ? " on" : " off"));
     }
+
+    const std::unique_ptr<Backend::Mirel> m_mirel = std::make_unique<Host::ObservedMirel>(
+        "Test", *this, [this](const Backend::MidiEngine::MirelMidiMessage& message) { return hear(message); });
 };
 
 }

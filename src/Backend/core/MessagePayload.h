@@ -1,11 +1,9 @@
 // Objects that travel in a message. Whoever posts gives the object up, whoever handles the message owns it.
 #pragma once
 
-#include "Platform/WindowSink.h"
 #include "Platform/WindowTypes.h"
 
 #include <memory>
-#include <utility>
 
 namespace Backend {
 
@@ -24,14 +22,10 @@ std::unique_ptr<Payload> takePayload(Word word) {
     return std::unique_ptr<Payload>(reinterpret_cast<Payload*>(word));
 }
 
-// [any] Posts an object to a window, without retry. False if that fails; the object is destroyed then.
-template <class Payload>
-bool postPayloadToWindow(HWND window, UINT message, std::unique_ptr<Payload> payload, LPARAM lParam = 0) {
-    const auto word = reinterpret_cast<WPARAM>(payload.get());
-    if (!Platform::postToWindow(window, message, word, lParam))
-        return false;
-    static_cast<void>(payload.release());
-    return true;
+// [any] Releases a copy of an object.
+template <class Word, class Payload>
+Word releaseCopy(const Payload& object) {
+    return releasePayload<Word>(std::make_unique<Payload>(object));
 }
 
 }

@@ -56,4 +56,14 @@ std::string RegistrySettings::getStringFromBoolVector(const std::vector<bool>& f
     return text;
 }
 
+std::map<std::string, std::string> RegistrySettings::describe() const {
+    std::map<std::string, std::string> values;
+    const auto add = [&values](const auto& setting) { values[setting.getName()] = setting.describe(); };
+    add(m_progDir);
+    visitSettings(*this, add);
+    values[m_enabledMidiInputsText.getName()] = getStringFromBoolVector(m_enabledMidiInputs);
+    values[m_enabledMidiOutputsText.getName()] = getStringFromBoolVector(m_enabledMidiOutputs);
+    return values;
+}
+
 }

@@ -3,6 +3,7 @@
 #include "Backend/core/Setting.h"
 #include "Platform/SettingsStore.h"
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -72,6 +73,9 @@ public:
     // Which ports are enabled, by their index.
     std::vector<bool> getEnabledMidiInputs() const { return m_enabledMidiInputs; }
     std::vector<bool> getEnabledMidiOutputs() const { return m_enabledMidiOutputs; }
+
+    // Every value by its name, in words.
+    std::map<std::string, std::string> describe() const;
 
     // Also makes the list end with this index, from 0. A negative one changes nothing.
     void setMidiInputEnabled(int index, bool enabled);

@@ -65,4 +65,25 @@ void RectSetting::write(Platform::SettingsKey& key) const {
     key.writeBytes(m_name, std::string_view(bytes.data(), bytes.size()));
 }
 
+template <>
+std::string BoolSetting::describe() const {
+    return m_value ? "true" : "false";
+}
+
+template <>
+std::string IntSetting::describe() const {
+    return std::to_string(m_value);
+}
+
+template <>
+std::string StringSetting::describe() const {
+    return m_value;
+}
+
+template <>
+std::string RectSetting::describe() const {
+    return std::to_string(m_value.left) + "," + std::to_string(m_value.top) + "," + std::to_string(m_value.right) +
+           "," + std::to_string(m_value.bottom);
+}
+
 }

@@ -25,6 +25,9 @@ public:
     const char* getName() const { return m_name; }
     bool isChanged() const { return m_changed; }
 
+    // The value in words: true or false, a number, the text itself, the four numbers of a rectangle.
+    std::string describe() const;
+
     // A value that is missing or of another kind leaves the present one.
     void load(const Platform::SettingsKey& key);
 
@@ -52,17 +55,25 @@ using RectSetting = Setting<Rect>;
 template <>
 void BoolSetting::load(const Platform::SettingsKey& key);
 template <>
+std::string BoolSetting::describe() const;
+template <>
 void BoolSetting::write(Platform::SettingsKey& key) const;
 template <>
 void IntSetting::load(const Platform::SettingsKey& key);
+template <>
+std::string IntSetting::describe() const;
 template <>
 void IntSetting::write(Platform::SettingsKey& key) const;
 template <>
 void StringSetting::load(const Platform::SettingsKey& key);
 template <>
+std::string StringSetting::describe() const;
+template <>
 void StringSetting::write(Platform::SettingsKey& key) const;
 template <>
 void RectSetting::load(const Platform::SettingsKey& key);
+template <>
+std::string RectSetting::describe() const;
 template <>
 void RectSetting::write(Platform::SettingsKey& key) const;
 

@@ -1,17 +1,54 @@
 #pragma once
 
-#include "Backend/midi/MirelMidiMessage.h"
+#include "Backend/core/MessageManager.h"
+#include "Backend/midi/Cell.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace Backend::MidiEngine {
+class MirelMidiMessage;
+}
 
 namespace Backend::Controls {
 
-// Where the desk's controls hear of events that pass the engine.
-class ControlMessageManager {
-public:
-    virtual ~ControlMessageManager() = default;
+class Control;
+class ControlManager;
 
-    // [player, under the engine's lock; must not wait] An event that is no note passed, with the output and channel
-    // that it came with. Controls that send this event follow it.
-    virtual void postUpdateControl(const MidiEngine::MirelMidiMessage& message) = 0;
+// A new value of a control.
+struct ControlChange {
+    Cell cell;
+    std::int32_t value = 0;
+    bool updateGui = false;
+};
+
+// The way of other threads to the controls. Each post is carried out on the backend thread by the operation of
+// ControlManager of like name.
+class ControlMessageManager : public MessageManager {
+public:
+    ControlMessageManager(MessageManagerMaster& master, ControlManager& controls);
+
+    // [any] guiFlag is for the window, which gets it back if it is told.
+    void postUpdateControls(const std::vector<Control>& controls, bool notifyGui, bool guiFlag);
+    void postLoadPreset(const std::string& name);
+    void postRenamePreset(const std::string& oldName, const std::string& newName);
+    void postDeletePreset(const std::string& name);
+    void postSavePreset(const std::string& name, const std::vector<Cell>& selected);
+    void postChangeControl(const ControlChange& change);
+    void postSendAll(bool autoSendOnly);
+    void postSelectControls(const std::vector<Cell>& cells);
+
+    // [player, under the engine's lock] An event that is no note passed, with the output and channel that it came with.
+    // Controls that send this event follow it.
+    virtual void postUpdateControl(const MidiEngine::MirelMidiMessage& message);
+
+    bool wantMessage(unsigned int message) override;
+    void handleMessage(const MSG& message) override;
+    void disposeMessage(const MSG& message) override;
+
+private:
+    ControlManager& m_controls;
 };
 
 }

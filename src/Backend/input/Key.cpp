@@ -114,6 +114,11 @@ Key::Key(std::string_view id) {
     m_code = keyCodeOfName(id);
 }
 
+Key Key::fromIdentity(std::int32_t identity) {
+    const int modifiers = identity >> 8;
+    return Key(identity & 0xff, modifiers & SHIFT, modifiers & CONTROL, modifiers & ALT, modifiers & WIN);
+}
+
 int Key::getModifierIndex() const {
     return (m_shift ? SHIFT : 0) | (m_control ? CONTROL : 0) | (m_alt ? ALT : 0) | (m_win ? WIN : 0);
 }

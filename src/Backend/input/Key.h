@@ -40,6 +40,7 @@ public:
 
     // The modifiers and the low byte of the code in one number, which decides equality, order and hash.
     std::int32_t getIdentity() const { return getModifierIndex() << 8 | (m_code & 0xff); }
+    static Key fromIdentity(std::int32_t identity);
 
     // The modifiers and the name: "Shift Control Left". The left modifier keys and codes without a name do not read
     // back.

@@ -4,6 +4,8 @@
 #include "Backend/core/XmlElement.h"
 #include "Backend/core/XmlWriting.h"
 
+#include <algorithm>
+
 namespace Backend::Layers {
 
 const char* const LayerList::DEFAULT_XML =
@@ -37,11 +39,12 @@ void LayerList::readXml(const XmlElement& element, const SequenceManagement::Seq
             add(Layer(child, presets));
 }
 
-void LayerList::writeXml(std::ostream& stream, int indent, bool merge) const {
-    stream << getIndentation(indent) << getStartTagBegin(TAG) << getAttributeText("merge", merge) << getStartTagEnd()
-           << '\n';
+void LayerList::writeXml(std::ostream& stream, int indent, const std::vector<LayerId>& selected) const {
+    stream << getIndentation(indent) << getStartTagBegin(TAG) << getAttributeText("merge", !selected.empty())
+           << getStartTagEnd() << '\n';
     for (const Layer& layer : m_layers)
-        layer.writeXml(stream, indent + 1);
+        if (selected.empty() || std::find(selected.begin(), selected.end(), LayerId{layer.id}) != selected.end())
+            layer.writeXml(stream, indent + 1);
     stream << getIndentation(indent) << getEndTag(TAG) << '\n';
 }
 

@@ -37,8 +37,9 @@ public:
     // Reads the layers of an element. Its attribute merge says whether they are appended or replace the list.
     void readXml(const XmlElement& element, const SequenceManagement::SequencePresetManager& presets);
 
-    // The element on lines of its own, indent tabs deep.
-    void writeXml(std::ostream& stream, int indent, bool merge) const;
+    // The element on lines of its own, indent tabs deep: all layers to replace others, or the selected ones to be
+    // merged.
+    void writeXml(std::ostream& stream, int indent, const std::vector<LayerId>& selected) const;
 
 private:
     std::vector<Layer> m_layers;

@@ -111,6 +111,9 @@ public:
     // [any; not locked] The same, and then silences the default output.
     void sendHardReset();
 
+    // [any] Whether a reset waits for a slice at this moment.
+    bool isSliceAwaited() const { return m_isSliceAwaited; }
+
     // [locked] Queues an event for the next slice.
     void postPlayMidi(const MirelMidiMessage& message);
 
@@ -186,6 +189,7 @@ private:
 
     std::mutex m_resetSenders;  // One sender at a time waits for the events below.
     std::atomic<bool> m_hardResetRequested = false;
+    std::atomic<bool> m_isSliceAwaited = false;
     Platform::AutoResetEvent m_resetEvent;
     Platform::AutoResetEvent m_hardResetEvent;
     std::atomic<bool> m_midiPlayerRunning = false;

@@ -5,6 +5,7 @@
 #include "Backend/midi/Zone.h"
 #include "Platform/MessageThread.h"
 
+#include <atomic>
 #include <vector>
 
 namespace Backend::Layers {
@@ -40,6 +41,9 @@ public:
 
     // [any] Queues an event for the next time slice, or for its own time if it has one.
     void postPlayMidi(const MirelMidiMessage& message);
+
+    // [any] The same for an event without a control and a time, which saves a look at them.
+    void postPlayMidiViaParam(const MirelMidiMessage& message);
 
     // [any] The ports, in the order of their indices.
     void postSetMidiInputPorts(const std::vector<MidiInputPort>& ports);
@@ -84,13 +88,15 @@ public:
     // [any] Whether there is nothing to do at this moment.
     bool isIdle() const { return m_thread.isIdle(); }
 
+    // [any] Whether its thread waits for a reset, before which it does nothing else.
+    bool isWaitingForReset() const { return m_isWaitingForReset; }
+
     // [engine] Carries one request out. Numbers that are none of its requests are ignored.
     void handleMessage(const MSG& message);
 
 private:
     void run();
     void post(UINT number, WPARAM wParam = 0, LPARAM lParam = 0);
-    void postPlayMidiViaParam(const MirelMidiMessage& message);
     void postPlayMidiViaAlloc(const MirelMidiMessage& message);
 
     void handleRequest(const MSG& message);
@@ -112,6 +118,7 @@ private:
     static void discard(const MSG& message);
 
     MidiEngine& m_midiEngine;
+    std::atomic<bool> m_isWaitingForReset = false;
     Platform::MessageThread m_thread;
 };
 

@@ -52,12 +52,14 @@ void MidiEngine::sendResetOfKind(ResetKind kind) {
     const char tempoSource = getTempoSource();
     setTempoSource(INTERNAL_CLOCK);
     if (kind == ResetKind::Hard) {
+        m_isSliceAwaited = true;
         m_hardResetRequested = true;
         m_hardResetEvent.wait();
     } else {
         {
             CriticalSectionLock lock(m_criticalSection);
             postPlayMidi(MirelMidiMessage::createMirelReset());
+            m_isSliceAwaited = true;
         }
         m_resetEvent.wait();
     }

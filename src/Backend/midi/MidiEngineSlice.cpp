@@ -51,6 +51,7 @@ void MidiEngine::drainPendingMessages(std::int32_t to) {
     // This request is not in the queue, as its sender does not take the lock; it stands behind all that is.
     if (m_hardResetRequested.load(std::memory_order_acquire) && m_hardResetRequested.exchange(false)) {
         hardReset();
+        m_isSliceAwaited = false;
         m_hardResetEvent.set();
     }
 }
@@ -59,9 +60,11 @@ void MidiEngine::carryOutResets() {
     for (const MirelMidiMessage& message : m_takenMessages) {
         if (message.isMirelReset()) {
             reset();
+            m_isSliceAwaited = false;
             m_resetEvent.set();
         } else if (message.isMirelHardReset()) {
             hardReset();
+            m_isSliceAwaited = false;
             m_hardResetEvent.set();
         }
     }

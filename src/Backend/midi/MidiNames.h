@@ -20,4 +20,7 @@ const EventName* findEventName(std::string_view name);
 // [any] The name of a controller, 0 to 127; "Undefined" where there is none.
 const char* controllerName(char number);
 
+// [any] The name of a program as General MIDI has it, 0 to 127; "Undefined" beyond.
+const char* programName(char number);
+
 }

@@ -1,5 +1,6 @@
 #include "Backend/midi/SequencePresetManager.h"
 
+#include "Backend/core/FileNames.h"
 #include "Backend/core/XmlDocument.h"
 #include "Backend/core/XmlElement.h"
 #include "Backend/core/XmlWriting.h"
@@ -8,16 +9,6 @@
 #include <algorithm>
 
 namespace Backend::SequenceManagement {
-
-namespace {
-
-// Whether a name names a file in its folder and nowhere else.
-bool isUsable(const std::string& name) {
-    return !name.empty() && name.find_first_of("/\\:*?\"<>|") == std::string::npos &&
-           std::none_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; });
-}
-
-}
 
 SequencePresetManager::SequencePresetManager(std::string folder) : m_folder(std::move(folder)) {
     for (const std::string& file : Platform::Files::list(m_folder, EXTENSION))
@@ -43,7 +34,7 @@ void SequencePresetManager::removeName(const std::string& name) {
 }
 
 Sequence SequencePresetManager::load(const std::string& name) const {
-    if (!isUsable(name))
+    if (!isUsableFileName(name))
         return {};
     const XmlDocument document(filePath(name), true);
     const XmlElement root = document.getRootElement();
@@ -51,7 +42,7 @@ Sequence SequencePresetManager::load(const std::string& name) const {
 }
 
 void SequencePresetManager::addSequencePreset(const std::string& name, const std::string& text) {
-    if (!isUsable(name))
+    if (!isUsableFileName(name))
         return;
     const std::string content = getXmlHeader() + "\n" + getStartTag(Sequence::TAG) + escape(Sequence(text).toString()) +
                                 getEndTag(Sequence::TAG) + "\n";
@@ -67,7 +58,7 @@ void SequencePresetManager::deleteSequencePreset(const std::string& name) {
 }
 
 void SequencePresetManager::editSequencePreset(const std::string& name, const std::string& newName) {
-    if (!contains(name) || contains(newName) || !isUsable(newName))
+    if (!contains(name) || contains(newName) || !isUsableFileName(newName))
         return;
     if (!Platform::Files::move(filePath(name), filePath(newName)))
         return;

@@ -9,6 +9,14 @@ namespace Backend::Zones {
 struct Zone {
     static constexpr const char* TAG = "Zone";
 
+    // Lets the range take in that of another, whose notes are notes.
+    void widen(const Zone& other) {
+        if (!lowNote.isNote() || other.lowNote.getNumber() < lowNote.getNumber())
+            lowNote = other.lowNote;
+        if (!highNote.isNote() || other.highNote.getNumber() > highNote.getNumber())
+            highNote = other.highNote;
+    }
+
     ZoneId id = 0;
     char transpose = 0;  // Half-steps.
     Note lowNote;        // The range of the keys in the zone, for display; no note if there are none.

@@ -5,6 +5,7 @@
 #include "Backend/core/XmlElement.h"
 #include "Backend/core/XmlWriting.h"
 
+#include <algorithm>
 #include <map>
 
 namespace Backend::Zones {
@@ -16,6 +17,14 @@ Zone* ZoneMap::find(const ZoneId& id) {
 
 std::unique_ptr<Component::IteratorIF<Zone>> ZoneMap::createIterator() {
     return std::make_unique<Component::HashMapIterator<ZoneId, Zone>>(m_zones);
+}
+
+std::vector<Zone*> ZoneMap::inOrder() {
+    std::vector<Zone*> zones;
+    for (auto& [id, zone] : m_zones)
+        zones.push_back(&zone);
+    std::sort(zones.begin(), zones.end(), [](const Zone* left, const Zone* right) { return left->id < right->id; });
+    return zones;
 }
 
 void ZoneMap::readXml(const XmlElement& element) {

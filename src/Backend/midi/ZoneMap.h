@@ -6,6 +6,7 @@
 #include <memory>
 #include <ostream>
 #include <unordered_map>
+#include <vector>
 
 namespace Backend {
 class XmlElement;
@@ -31,6 +32,17 @@ public:
 
     // Adds a zone, or replaces the one of its id.
     void set(const Zone& zone) { m_zones.insert_or_assign(zone.id, zone); }
+
+    void clear() { m_zones.clear(); }
+
+    // Removes the zones of which this is true.
+    template <class Condition>
+    void removeIf(Condition condition) {
+        std::erase_if(m_zones, [&condition](const auto& entry) { return condition(entry.second); });
+    }
+
+    // All zones in the order of their numbers.
+    std::vector<Zone*> inOrder();
 
     // Reads transpositions. A zone that the element does not name gets 0, one that is new gets no note range, and the
     // lowest zone is selected afterwards.

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "Backend/core/MirelIF.h"
-#include "Backend/input/ControlMessageManager.h"
 #include "Backend/midi/LayerList.h"
 #include "Backend/midi/MidiEngine.h"
 #include "Backend/midi/ZoneMap.h"
+#include "Host/common/ObservedMirel.h"
 
 #include <cstdint>
 #include <memory>
@@ -13,9 +12,7 @@
 namespace Host::Cli {
 
 // A desk that plays as fast as it can and remembers what it played. Its time counts in ppq from 0.
-class RenderDesk : private Backend::MirelIF,
-                   private Backend::MidiEngine::MidiPlayer,
-                   private Backend::Controls::ControlMessageManager {
+class RenderDesk : private Backend::MidiEngine::MidiPlayer {
 public:
     struct PlayedEvent {
         std::int32_t ppq;
@@ -55,11 +52,9 @@ private:
     void setTempo(int) override {}
     void setTempoSource(char) override {}
     char getTempoSource() override { return -1; }
-    void postUpdateControl(const Backend::MidiEngine::MirelMidiMessage&) override {}
-    HWND getGuiWindowHandle() override { return nullptr; }
-    Backend::Controls::ControlMessageManager& getControlMessageManager() override { return *this; }
 
-    std::unique_ptr<Backend::MidiEngine::MidiEngine> m_engine;
+    const std::unique_ptr<Host::ObservedMirel> m_mirel;  // Never started; only its engine is.
+    Backend::MidiEngine::MidiEngine& m_engine;
     const DWORD m_threadId;
     std::int32_t m_sliceFrom = 0;
     std::vector<PlayedEvent> m_played;

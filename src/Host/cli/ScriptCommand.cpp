@@ -1,10 +1,11 @@
 #include "Host/cli/ScriptCommand.h"
 
+#include "Backend/core/MirelUtils.h"
 #include "Host/cli/ExitStatus.h"
 #include "Host/cli/InputFile.h"
 #include "Host/cli/ScriptCommands.h"
 #include "Host/cli/ScriptError.h"
-#include "Platform/Files.h"
+#include "Platform/TemporaryFolder.h"
 
 #include <cstdio>
 #include <optional>
@@ -13,7 +14,7 @@ namespace Host::Cli {
 
 namespace {
 
-constexpr const char* USAGE = "usage: mirel script [--show] [--updates] [--data DIR] [FILE]\n";
+constexpr const char* USAGE = "usage: mirel script [--show] [--updates] [--window] [--data DIR] [FILE]\n";
 constexpr const char* STANDARD_INPUT = "-";
 
 struct ScriptOptions {
@@ -31,6 +32,8 @@ std::optional<ScriptOptions> parseOptions(const std::vector<std::string>& argume
             options.tell.show = true;
         } else if (argument == "--updates") {
             options.tell.updates = true;
+        } else if (argument == "--window") {
+            options.tell.window = true;
         } else if (argument == "--data" && i + 1 < arguments.size()) {
             options.dataFolder = arguments[++i];
         } else if (!hasFile && (argument == STANDARD_INPUT || !argument.starts_with('-'))) {
@@ -76,9 +79,11 @@ int runScript(const std::vector<std::string>& arguments) {
         return FAILED;
     }
 
-    const std::string sequences =
-        options->dataFolder.empty() ? std::string() : Platform::Files::join(options->dataFolder, "Sequences");
-    ScriptDesk desk(options->tell, sequences);
+    std::optional<Platform::TemporaryFolder> ownFolder;
+    if (options->dataFolder.empty())
+        ownFolder.emplace();
+    Backend::MirelUtils::useDataFolder(ownFolder ? ownFolder->getPath() : options->dataFolder);
+    ScriptDesk desk(options->tell);
     ScriptReader reader(text);
     try {
         while (const auto line = reader.nextCommand()) {

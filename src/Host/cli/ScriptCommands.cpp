@@ -3,6 +3,8 @@
 #include "Backend/core/XmlDocument.h"
 #include "Backend/core/XmlElement.h"
 #include "Backend/midi/ZoneMap.h"
+#include "Host/cli/DeskCommands.h"
+#include "Host/cli/ScriptContext.h"
 
 #include <algorithm>
 #include <array>
@@ -19,13 +21,6 @@ constexpr int MAX_PORTS = 65536;
 constexpr std::int32_t BYTE_LOW = -128;
 constexpr std::int32_t BYTE_HIGH = 127;
 
-struct Context {
-    ScriptArguments& arguments;
-    const ScriptLine& line;
-    ScriptReader& reader;
-    ScriptDesk& desk;
-};
-
 // The value of a word "name=value"; null if the word is not of this name.
 const char* findValue(const std::string& word, std::string_view name) {
     if (word.size() <= name.size() || !word.starts_with(name) || word[name.size()] != '=')
@@ -33,7 +28,7 @@ const char* findValue(const std::string& word, std::string_view name) {
     return word.c_str() + name.size() + 1;
 }
 
-std::vector<std::int32_t> splitNumbers(std::string_view text, const Context& context, const char* what) {
+std::vector<std::int32_t> splitNumbers(std::string_view text, const ScriptContext& context, const char* what) {
     std::vector<std::int32_t> numbers;
     while (true) {
         const auto comma = text.find(',');
@@ -44,23 +39,13 @@ std::vector<std::int32_t> splitNumbers(std::string_view text, const Context& con
     }
 }
 
-// The document of the block that follows the line, whose root must have this name.
-XmlDocument readDocument(const Context& context, const char* tag) {
-    XmlDocument document(context.reader.readBlock(context.line), false);
-    if (!document.hasRoot())
-        context.arguments.fail("the block is not well-formed XML");
-    if (document.getRootElement().getName() != tag)
-        context.arguments.fail(std::string("the block is not an element ") + tag);
-    return document;
-}
-
-void runInputs(const Context& context) {
+void runInputs(const ScriptContext& context) {
     const int count = context.arguments.takeNumber("the number of inputs", 0, MAX_PORTS);
     context.arguments.expectEnd();
     context.desk.setInputs(count);
 }
 
-void runOutputs(const Context& context) {
+void runOutputs(const ScriptContext& context) {
     const int count = context.arguments.takeNumber("the number of outputs", 0, MAX_PORTS);
     std::vector<std::int32_t> off;
     if (context.arguments.hasMore()) {
@@ -74,13 +59,13 @@ void runOutputs(const Context& context) {
     context.desk.setOutputs(count, off);
 }
 
-void runDefaultOutput(const Context& context) {
+void runDefaultOutput(const ScriptContext& context) {
     const int output = context.arguments.takeNumber("the output", BYTE_LOW, BYTE_HIGH);
     context.arguments.expectEnd();
     context.desk.setDefaultOutput(output);
 }
 
-void runThru(const Context& context) {
+void runThru(const ScriptContext& context) {
     const std::string& state = context.arguments.takeWord("on or off");
     if (state != "on" && state != "off")
         context.arguments.fail("thru is on or off, not \"" + state + "\"");
@@ -88,23 +73,23 @@ void runThru(const Context& context) {
     context.desk.setThru(state == "on");
 }
 
-void runLayers(const Context& context) {
+void runLayers(const ScriptContext& context) {
     context.arguments.expectEnd();
-    const XmlDocument document = readDocument(context, Layers::LayerList::TAG);
+    const XmlDocument document = context.readDocument(Layers::LayerList::TAG);
     Layers::LayerList layers;
     layers.readXml(document.getRootElement(), context.desk.getSequencePresets());
-    context.desk.setLayers(std::move(layers));
+    context.desk.setLayers(layers);
 }
 
-void runZones(const Context& context) {
+void runZones(const ScriptContext& context) {
     context.arguments.expectEnd();
-    const XmlDocument document = readDocument(context, Zones::ZoneMap::TAG);
+    const XmlDocument document = context.readDocument(Zones::ZoneMap::TAG);
     Zones::ZoneMap zones;
     zones.readXml(document.getRootElement());
     context.desk.setZones(zones);
 }
 
-void runZone(const Context& context) {
+void runZone(const ScriptContext& context) {
     const auto id = static_cast<char>(context.arguments.takeNumber("the zone", 0, BYTE_HIGH));
     const auto transpose = static_cast<char>(context.arguments.takeNumber("the transposition", BYTE_LOW, BYTE_HIGH));
     context.arguments.expectEnd();
@@ -121,7 +106,7 @@ struct EventOptions {
     Cell fromControl;
 };
 
-void readEventOption(const std::string& word, const Context& context, EventOptions& options) {
+void readEventOption(const std::string& word, const ScriptContext& context, EventOptions& options) {
     struct NumberOption {
         const char* name;
         std::int32_t EventOptions::*target;
@@ -150,7 +135,7 @@ void readEventOption(const std::string& word, const Context& context, EventOptio
     options.fromControl = Cell(cell[0], cell[1]);
 }
 
-void runEvent(const Context& context) {
+void runEvent(const ScriptContext& context) {
     const auto status = context.arguments.takeNumber("the status", 0x80, 0xff);
     const auto d1 = static_cast<char>(context.arguments.takeNumber("the first data byte", 0, 255));
     const auto d2 = static_cast<char>(context.arguments.takeNumber("the second data byte", 0, 255));
@@ -165,21 +150,21 @@ void runEvent(const Context& context) {
     context.desk.postEvent(event);
 }
 
-void runSolo(const Context& context) {
+void runSolo(const ScriptContext& context) {
     std::vector<std::int32_t> layers;
     while (context.arguments.hasMore())
         layers.push_back(context.arguments.takeNumber("a layer"));
     context.desk.setSolo(layers);
 }
 
-void runSlice(const Context& context) {
+void runSlice(const ScriptContext& context) {
     const std::int32_t from = context.arguments.takeNumber("the start of the slice");
     const std::int32_t to = context.arguments.takeNumber("the end of the slice");
     context.arguments.expectEnd();
     context.desk.playSlice(from, to);
 }
 
-void runSlices(const Context& context) {
+void runSlices(const ScriptContext& context) {
     const std::int64_t from = context.arguments.takeNumber("the start of the run");
     const std::int64_t to = context.arguments.takeNumber("the end of the run");
     const std::int64_t step = context.arguments.takeNumber("the length of a slice", 1);
@@ -188,22 +173,17 @@ void runSlices(const Context& context) {
         context.desk.playSlice(static_cast<std::int32_t>(start), static_cast<std::int32_t>(std::min(start + step, to)));
 }
 
-void runReset(const Context& context) {
+void runReset(const ScriptContext& context) {
     context.arguments.expectEnd();
     context.desk.reset();
 }
 
-void runHardReset(const Context& context) {
+void runHardReset(const ScriptContext& context) {
     context.arguments.expectEnd();
     context.desk.hardReset();
 }
 
-struct Command {
-    const char* name;
-    void (*run)(const Context&);
-};
-
-constexpr std::array<Command, 13> COMMANDS = {{
+constexpr std::array<ScriptCommandRow, 13> COMMANDS = {{
     {"inputs", runInputs},
     {"outputs", runOutputs},
     {"default-output", runDefaultOutput},
@@ -224,11 +204,13 @@ constexpr std::array<Command, 13> COMMANDS = {{
 void runScriptCommand(const ScriptLine& line, ScriptReader& reader, ScriptDesk& desk) {
     ScriptArguments arguments(line);
     const std::string& name = line.words.front();
+    const ScriptContext context{arguments, line, reader, desk};
     const auto command = std::find_if(COMMANDS.begin(), COMMANDS.end(),
-                                      [&name](const Command& candidate) { return name == candidate.name; });
-    if (command == COMMANDS.end())
+                                      [&name](const ScriptCommandRow& candidate) { return name == candidate.name; });
+    if (command != COMMANDS.end())
+        command->run(context);
+    else if (!runDeskCommand(name, context))
         arguments.fail("unknown command \"" + name + "\"");
-    command->run({arguments, line, reader, desk});
 }
 
 }

@@ -2,25 +2,29 @@
 
 #include "Backend/core/MirelIF.h"
 #include "Backend/midi/LayerList.h"
-#include "Backend/midi/MidiEngine.h"
-#include "Backend/midi/SequencePresetManager.h"
-#include "Host/cli/ScriptArguments.h"
 #include "Host/cli/ScriptPlayer.h"
+#include "Host/common/ObservedMirel.h"
 
+#include <atomic>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace Host::Cli {
 
-// The desk that a script drives: a real engine with its thread, no window, no ports and no clock. Each operation
-// returns when all that it set off has been done.
-class ScriptDesk : private Backend::MirelIF {
+// The desk that a script drives, without ports and without a clock. At first it is an engine alone; start() makes the
+// whole desk of it. Each operation returns when all that it set off has been done.
+class ScriptDesk {
 public:
-    // sequences is the folder of the sequence presets that layers may name.
-    ScriptDesk(ScriptPlayer::Options options, const std::string& sequences);
-    ~ScriptDesk() override;
+    explicit ScriptDesk(ScriptPlayer::Options options);
+    ~ScriptDesk();
+    ScriptDesk(const ScriptDesk&) = delete;
+    ScriptDesk& operator=(const ScriptDesk&) = delete;
+
+    // Starts the whole desk with its built-in defaults, if it has not been started. The ports and the clock stay.
+    void start();
 
     void setInputs(int count);
 
@@ -29,7 +33,7 @@ public:
 
     void setDefaultOutput(int output);
     void setThru(bool thru);
-    void setLayers(Backend::Layers::LayerList layers);
+    void setLayers(const Backend::Layers::LayerList& layers);
     void setZones(const Backend::Zones::ZoneMap& zones);
     void setZone(char id, char transpose);
     void postEvent(const Backend::MidiEngine::MirelMidiMessage& event);
@@ -43,31 +47,51 @@ public:
     void reset();
     void hardReset();
 
-    const Backend::SequenceManagement::SequencePresetManager& getSequencePresets() const { return m_sequencePresets; }
+    // Starts the desk and posts something to it.
+    void post(const std::function<void(Backend::MirelIF&)>& request);
+
+    // Starts the desk and runs something on the backend thread.
+    void run(std::function<void(Backend::Mirel&)> action);
+
+    // Starts the desk and adds lines to the output that are made on the backend thread.
+    void print(const std::function<std::string(Backend::Mirel&)>& describe);
+
+    // Adds lines to the output.
+    void tell(const std::string& lines) { m_player.tell(lines); }
+
+    // The text of the log.
+    std::string getLog();
+
+    const Backend::SequenceManagement::SequencePresetManager& getSequencePresets() const {
+        return m_mirel->getSequencePresets();
+    }
 
     std::string takeOutput() { return m_player.takeOutput(); }
 
 private:
-    HWND getGuiWindowHandle() override { return m_player.getWindowHandle(); }
-    Backend::Controls::ControlMessageManager& getControlMessageManager() override { return m_player; }
+    class BackendCalls;
 
-    Backend::MidiEngine::MidiEngineMessageManager& manager() { return m_engine->getMessageManager(); }
+    std::unique_ptr<ObservedMirel> createMirel();
+    Backend::MidiEngine::MidiEngineMessageManager& engine() { return m_mirel->getMidiEngineMessageManager(); }
+    bool isResting();
+    void waitUntilResting();
 
     // Plays empty slices where the clock stands until isDone; what waits for the player's thread needs them.
     template <typename Condition>
     void playUntil(Condition isDone);
 
-    template <typename Request>
-    void runReset(Request request);
-
     void sendLayers();
+    void sendInputs();
+    void sendOutputs();
 
     ScriptPlayer m_player;
-    Backend::SequenceManagement::SequencePresetManager m_sequencePresets;
-    std::unique_ptr<Backend::MidiEngine::MidiEngine> m_engine;  // On the heap for its size.
-    Backend::Layers::LayerList m_layers;
+    std::vector<Backend::MidiEngine::MidiInputPort> m_inputs;
+    std::vector<Backend::MidiEngine::MidiOutputPort> m_outputs;
+    std::unique_ptr<ObservedMirel> m_mirel;
+    std::unique_ptr<BackendCalls> m_calls;  // Of the desk that was started.
+    Backend::Layers::LayerList m_layers;    // Of the engine alone.
+    std::atomic<bool> m_isStarted = false;
     std::int32_t m_clock = 0;
-    bool m_hasPlayed = false;
 };
 
 }

@@ -1,24 +1,31 @@
 #include "Host/cli/ScriptPlayer.h"
 
 #include "Backend/core/WindowMessages.h"
+#include "Host/cli/EventText.h"
+#include "Host/cli/WindowText.h"
 #include "Platform/MessageThread.h"
 
-#include <cstdio>
 #include <utility>
 
 namespace Host::Cli {
 
 using Backend::MidiEngine::MirelMidiMessage;
+using Backend::WindowMessages::DISPLAY_MIDI_OUTPUT_EVENT;
 
 ScriptPlayer::ScriptPlayer(Options options) : m_options(options), m_threadId(Platform::currentThreadId()) {}
 
 std::string ScriptPlayer::takeOutput() {
+    const std::lock_guard lock(m_outputLock);
     return std::exchange(m_output, std::string());
 }
 
+void ScriptPlayer::tell(const std::string& lines) {
+    const std::lock_guard lock(m_outputLock);
+    m_output += lines;
+}
+
 void ScriptPlayer::playMidi(const MirelMidiMessage& message) {
-    tell("play", message, message.getChannel());
-    m_output += '\n';
+    tellEvent("play", message, message.getChannel(), "");
 }
 
 // A script has no devices and no clock of its own.
@@ -26,28 +33,25 @@ void ScriptPlayer::enableMidiInput(int, bool) {}
 void ScriptPlayer::enableMidiOutput(int, bool) {}
 void ScriptPlayer::setTempo(int) {}
 
-void ScriptPlayer::postUpdateControl(const MirelMidiMessage& message) {
-    if (!m_options.updates)
-        return;
-    tell("update", message, message.isDefaultChannel() ? MirelMidiMessage::DEFAULT_CHANNEL : message.getChannel());
-    m_output += " zone=" + std::to_string(message.getZone()) + " in=" + std::to_string(message.getInput()) + "\n";
+void ScriptPlayer::tellUpdate(const MirelMidiMessage& message) {
+    if (m_options.updates)
+        tellEvent("update", message,
+                  message.isDefaultChannel() ? MirelMidiMessage::DEFAULT_CHANNEL : message.getChannel(),
+                  " zone=" + std::to_string(message.getZone()) + " in=" + std::to_string(message.getInput()));
 }
 
 void ScriptPlayer::windowMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message != Backend::WindowMessages::DISPLAY_MIDI_OUTPUT_EVENT)
-        return;
-    const MirelMidiMessage shown(std::uint64_t{wParam}, std::int64_t{lParam});
-    tell("show", shown, shown.getChannel());
-    m_output += " in=" + std::to_string(shown.getInput()) + "\n";
+    if (message == DISPLAY_MIDI_OUTPUT_EVENT && m_options.show) {
+        const MirelMidiMessage shown(std::uint64_t{wParam}, std::int64_t{lParam});
+        tellEvent("show", shown, shown.getChannel(), " in=" + std::to_string(shown.getInput()));
+    }
+    const std::string text = takeWindowText(message, wParam, lParam);
+    if (m_options.window)
+        tell("window " + std::to_string(message) + (text.empty() ? "" : " ") + text + "\n");
 }
 
-void ScriptPlayer::tell(const char* what, const MirelMidiMessage& message, int channel) {
-    char line[96];
-    const int length =
-        std::snprintf(line, sizeof(line), "@%d %s 0x%02x %d %d ch=%d out=%d", static_cast<int>(m_sliceFrom), what,
-                      static_cast<unsigned>(message.getStatus()), static_cast<unsigned char>(message.getD1()),
-                      static_cast<unsigned char>(message.getD2()), channel, message.getOutput());
-    m_output.append(line, static_cast<std::size_t>(length));
+void ScriptPlayer::tellEvent(const char* what, const MirelMidiMessage& message, int channel, const std::string& more) {
+    tell("@" + std::to_string(m_sliceFrom) + " " + what + " " + describeEvent(message, channel) + more + "\n");
 }
 
 }

@@ -1,25 +1,23 @@
 #pragma once
 
-#include "Backend/core/MirelIF.h"
-#include "Backend/input/ControlMessageManager.h"
 #include "Backend/midi/MidiPlayer.h"
 #include "Platform/WindowSink.h"
 
 #include <atomic>
 #include <cstdint>
+#include <mutex>
 #include <string>
 
 namespace Host::Cli {
 
-// What a script sees of its desk: it takes the place of the host, of the controls and of the window, and keeps a line
-// of text for each thing that it is asked to tell.
-class ScriptPlayer : public Backend::MidiEngine::MidiPlayer,
-                     public Backend::Controls::ControlMessageManager,
-                     private Platform::WindowSink {
+// What a script sees of its desk: it takes the place of the host and of the window, and keeps a line of text for each
+// thing that it is asked to tell.
+class ScriptPlayer : public Backend::MidiEngine::MidiPlayer, private Platform::WindowSink {
 public:
     struct Options {
         bool show = false;     // A line for each event that is shown.
         bool updates = false;  // A line for each event that the controls hear of.
+        bool window = false;   // A line for each notification to the window.
     };
 
     explicit ScriptPlayer(Options options);
@@ -27,8 +25,14 @@ public:
     // Where the slice that plays begins, in ppq.
     void setSliceFrom(std::int32_t ppq) { m_sliceFrom = ppq; }
 
-    // The window, if the script shows events.
-    HWND getWindowHandle() { return m_options.show ? handle() : nullptr; }
+    // The window, if the script wants to see what it gets.
+    HWND getWindowHandle() { return m_options.show || m_options.window ? handle() : nullptr; }
+
+    // Tells of an event that the controls hear of.
+    void tellUpdate(const Backend::MidiEngine::MirelMidiMessage& message);
+
+    // Adds lines of the script's own.
+    void tell(const std::string& lines);
 
     // What was told since the last call.
     std::string takeOutput();
@@ -42,20 +46,18 @@ public:
     void setTempoSource(char input) override { m_tempoSource = input; }
     char getTempoSource() override { return m_tempoSource; }
 
-    void postUpdateControl(const Backend::MidiEngine::MirelMidiMessage& message) override;
-
 private:
     void windowMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    // "@T WHAT 0xSS D1 D2 ch=C out=O"
-    void tell(const char* what, const Backend::MidiEngine::MirelMidiMessage& message, int channel);
+    // "@T WHAT EVENT MORE"
+    void tellEvent(const char* what, const Backend::MidiEngine::MirelMidiMessage& message, int channel,
+                   const std::string& more);
 
     const Options m_options;
     const DWORD m_threadId;
     std::atomic<char> m_tempoSource = -1;
-
-    // Written under the engine's lock only, and read while the engine rests.
-    std::int32_t m_sliceFrom = -1;
+    std::atomic<std::int32_t> m_sliceFrom = -1;
+    std::mutex m_outputLock;
     std::string m_output;
 };
 

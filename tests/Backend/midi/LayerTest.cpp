@@ -15,7 +15,7 @@ namespace {
 
 std::string write(const LayerList& layers) {
     std::ostringstream stream;
-    layers.writeXml(stream, 1, false);
+    layers.writeXml(stream, 1, {});
     return stream.str();
 }
 

@@ -143,7 +143,7 @@ TEST_F(MidiEngineMessageManagerTest, OnlyItsThreadIsTheManagersThread) {
 
 TEST_F(MidiEngineMessageManagerTest, PostsBeforeTheStartAreCarriedOutAfterIt) {
     TestSupport::FakeHost otherHost;
-    const auto other = std::make_unique<MidiEngine>(otherHost, otherHost);
+    const auto other = std::make_unique<MidiEngine>(otherHost.mirel(), otherHost);
     std::thread poster([&] { other->getMessageManager().postSetTempo(99); });
     other->initialize(0, false);
     poster.join();

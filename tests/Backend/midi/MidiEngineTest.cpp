@@ -197,7 +197,7 @@ TEST_F(MidiEngineTest, ShownEventsGoToTheWindowAsTheyGoTo) {
         }
         std::vector<MirelMidiMessage> shown;
     } window;
-    host.window = window.handle();
+    host.setWindow(window.handle());
     setLayers("<Layers><Layer channel='4' output='1'/></Layers>");
     post(MidiMessage::NoteOn, 60, 100);
     engine->playTimeSlice(0, 1);
@@ -205,7 +205,7 @@ TEST_F(MidiEngineTest, ShownEventsGoToTheWindowAsTheyGoTo) {
     ASSERT_EQ(window.shown.size(), 1u);
     EXPECT_EQ(window.shown[0].getChannel(), 4);
     EXPECT_EQ(window.shown[0].getOutput(), 1);
-    host.window = nullptr;
+    host.setWindow(nullptr);
     engine->playTimeSlice(2, 3);
 }
 

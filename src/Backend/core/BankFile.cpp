@@ -1,0 +1,88 @@
+#include "Backend/core/BankFile.h"
+
+#include "Backend/core/Text.h"
+#include "Backend/core/XmlDocument.h"
+#include "Backend/core/XmlElement.h"
+#include "Backend/core/XmlWriting.h"
+#include "Platform/Files.h"
+
+namespace Backend::BankFile {
+
+namespace {
+
+constexpr std::string_view PROGRAM_START = "<Program ";
+constexpr std::string_view PROGRAM_START_OF_LINE = "<Program";
+constexpr std::string_view PROGRAM_END = "</Program>";
+constexpr std::string_view BANK_END = "</Bank>";
+constexpr std::string_view EMPTY_PROGRAM = "<Program name=\"Empty\">\n</Program>\n";
+
+// Takes the first line off the text, with its line end.
+std::string_view takeLine(std::string_view& text) {
+    const std::size_t end = text.find('\n');
+    const std::string_view line = text.substr(0, end == std::string_view::npos ? end : end + 1);
+    text.remove_prefix(line.size());
+    return line;
+}
+
+bool contains(std::string_view line, std::string_view part) {
+    return line.find(part) != std::string_view::npos;
+}
+
+std::string copyUpToProgram(std::string_view bank, int index) {
+    std::string text;
+    for (int programs = 0; !bank.empty();) {
+        const std::string_view line = takeLine(bank);
+        if (contains(line, PROGRAM_START) && ++programs > index)
+            break;
+        text += line;
+    }
+    return text;
+}
+
+std::string_view getAfterProgram(std::string_view bank, int index) {
+    for (int programs = 0; programs <= index && !bank.empty();)
+        if (contains(takeLine(bank), PROGRAM_END))
+            ++programs;
+    return bank;
+}
+
+}
+
+std::vector<std::string> readProgramNames(const std::string& path) {
+    const XmlDocument document(path, true);
+    const XmlElement root = document.getRootElement();
+    std::vector<std::string> names;
+    for (auto child = root.begin(); child != root.end(); child.next())
+        if (child.getName() == PROGRAM_TAG)
+            names.push_back(child.getAttribute("name"));
+    return names;
+}
+
+std::string wrapProgram(const std::string& rootTag, const std::string& programBlock) {
+    return getXmlHeader() + "\n\n" + getStartTag(rootTag) + "\n" + programBlock + getEndTag(rootTag) + "\n";
+}
+
+std::string replaceProgram(std::string_view bank, int index, std::string_view programBlock) {
+    std::string text = copyUpToProgram(bank, index);
+    text += Platform::Files::withSystemLineEnds(programBlock);
+    text += getAfterProgram(bank, index);
+    return text;
+}
+
+std::string resize(std::string_view bank, int count, int size) {
+    std::string text;
+    for (int programs = 0; !bank.empty();) {
+        const std::string_view line = takeLine(bank);
+        const std::string_view trimmed = Text::trim(line);
+        if (trimmed == BANK_END || (trimmed.starts_with(PROGRAM_START_OF_LINE) && ++programs > size))
+            break;
+        text += line;
+    }
+    std::string added;
+    for (int i = count; i < size; ++i)
+        added += EMPTY_PROGRAM;
+    added += getEndTag(BANK_TAG) + "\n";
+    return text + Platform::Files::withSystemLineEnds(added);
+}
+
+}

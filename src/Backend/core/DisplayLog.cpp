@@ -1,0 +1,44 @@
+#include "Backend/core/DisplayLog.h"
+
+#include "Backend/core/DisplayListener.h"
+
+namespace Backend::Display {
+
+namespace {
+
+bool isInsideCharacter(char byte) {
+    constexpr unsigned CONTINUATION_MASK = 0xc0;
+    constexpr unsigned CONTINUATION = 0x80;
+    return (static_cast<unsigned char>(byte) & CONTINUATION_MASK) == CONTINUATION;
+}
+
+}
+
+void DisplayLog::add(std::string_view text) {
+    if (text.size() >= MAX_ADDITION)
+        return;
+    if (m_text.size() + text.size() >= CAPACITY)
+        keepLastHalf();
+    m_text += text;
+}
+
+void DisplayLog::keepLastHalf() {
+    std::size_t cut = m_text.size() - m_text.size() / 2;
+    while (cut < m_text.size() && isInsideCharacter(m_text[cut]))
+        ++cut;
+    m_text.erase(0, cut);
+    m_sentLength = m_text.size();
+}
+
+void DisplayLog::flush(DisplayListener& listener) {
+    if (m_sentLength < m_text.size())
+        listener.append(m_text.c_str() + m_sentLength);
+    m_sentLength = m_text.size();
+}
+
+void DisplayLog::sendAll(DisplayListener& listener) {
+    listener.setText(m_text.c_str());
+    m_sentLength = m_text.size();
+}
+
+}

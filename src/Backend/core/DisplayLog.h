@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace Backend::Display {
+
+class DisplayListener;
+
+// The text of the log and how much of it was shown. When it gets full its older half goes.
+class DisplayLog {
+public:
+    static constexpr std::size_t CAPACITY = 30000;
+    static constexpr std::size_t MAX_ADDITION = CAPACITY / 2;
+
+    // Text of MAX_ADDITION bytes or more is dropped.
+    void add(std::string_view text);
+
+    // Shows what was not shown yet, or all.
+    void flush(DisplayListener& listener);
+    void sendAll(DisplayListener& listener);
+
+    const std::string& getText() const { return m_text; }
+
+private:
+    void keepLastHalf();
+
+    std::string m_text;
+    std::size_t m_sentLength = 0;
+};
+
+}

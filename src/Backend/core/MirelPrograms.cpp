@@ -1,0 +1,224 @@
+// Programs and banks of the desk.
+#include "Backend/core/BankFile.h"
+#include "Backend/core/GuiPost.h"
+#include "Backend/core/Mirel.h"
+#include "Backend/core/Text.h"
+#include "Backend/core/Version2Import.h"
+#include "Backend/core/WindowMessages.h"
+#include "Backend/core/XmlDocument.h"
+#include "Backend/core/XmlElement.h"
+#include "Backend/core/XmlWriting.h"
+#include "Backend/functions/SelectType.h"
+#include "Platform/Files.h"
+
+#include <sstream>
+
+namespace Backend {
+
+using namespace WindowMessages;
+namespace Files = Platform::Files;
+
+namespace {
+
+constexpr std::string_view PROGRAM_FILE_END = ".prg";
+
+void notifyDone(HWND window, UINT message) {
+    if (window)
+        Platform::postToWindow(window, message, 0, 0);
+}
+
+// The program of an ordinal among the children of a file's root, or an element that isn't there.
+XmlElement findProgram(const XmlElement& root, int ordinal) {
+    for (auto child = root.begin(); child != root.end(); child.next())
+        if (child.getName() == BankFile::PROGRAM_TAG && ordinal-- == 0)
+            return child;
+    return XmlElement();
+}
+
+}
+
+void Mirel::loadProgram(const std::string& path) {
+    loadProgramFromFile(path, m_currentProgram.getIndex());
+}
+
+void Mirel::changeProgramFromBank(int index) {
+    loadProgramFromFile(m_currentBank.getPath(), index);
+}
+
+void Mirel::loadProgramFromFile(const std::string& path, int index) {
+    beginLoad(index);
+    if (!path.empty()) {
+        const XmlDocument document(path, true);
+        const XmlElement program = findProgram(document.getRootElement(), path.ends_with(PROGRAM_FILE_END) ? 0 : index);
+        if (!program.getName().empty())
+            m_currentProgram = importProgramFromXml(program, index);
+    }
+    endLoad();
+}
+
+void Mirel::loadProgramFromXml(const std::string& xml, int index) {
+    beginLoad(index);
+    if (!Text::trim(xml).empty()) {
+        const XmlDocument document(xml, false);
+        const XmlElement root = document.getRootElement();
+        if (const auto first = root.begin(); first != root.end() && first.getName() == BankFile::PROGRAM_TAG)
+            m_currentProgram = importProgramFromXml(first, index);
+    }
+    endLoad();
+}
+
+void Mirel::beginLoad(int index) {
+    m_midiEngine.sendReset();
+    postToGui(*this, RESET_MIREL);
+    m_currentProgram = Program("", index, Program::DEFAULT_TEMPO, Program::NO_TEMPO_SOURCE);
+}
+
+void Mirel::endLoad() {
+    auto& engine = m_midiEngine.getMessageManager();
+    engine.postSetTempo(m_currentProgram.getTempo());
+    engine.postSetTempoSource(Text::lowByte(m_currentProgram.getTempoSource()));
+    postCopyToGui(*this, PROGRAM_CHANGED, m_currentProgram);
+}
+
+Program Mirel::importProgramFromXml(const XmlElement& element, int index) {
+    bool hasKeys = false;
+    bool hasControls = false;
+    bool hasLayers = false;
+    bool hasZones = false;
+    for (auto child = element.begin(); child != element.end(); child.next()) {
+        const std::string name = child.getName();
+        if (name == ComputerInput::KeyConfigurationMap::TAG) {
+            m_computerInput.readXml(child);
+            hasKeys = true;
+        } else if (name == Controls::ControlMap::TAG) {
+            m_controls.readXml(child);
+            hasControls = true;
+        } else if (name == Layers::LayerList::TAG) {
+            m_layers.readXml(child);
+            hasLayers = true;
+        } else if (name == Zones::ZoneMap::TAG) {
+            m_zones.readXml(child);
+            hasZones = true;
+        }
+    }
+    if (!hasKeys)
+        m_computerInput.clear();
+    if (!hasControls)
+        m_controls.clear();
+    if (!hasLayers)
+        m_layers.clear();
+    if (!hasZones)
+        m_zones.clear();
+    return Program(element.getAttribute("name"), index, element.getIntAttribute("tempo", Program::DEFAULT_TEMPO),
+                   element.getIntAttribute("tempoSource", Program::NO_TEMPO_SOURCE));
+}
+
+std::string Mirel::writeProgram() const {
+    std::ostringstream stream;
+    stream << getStartTagBegin(BankFile::PROGRAM_TAG) << getAttributeText("name", m_currentProgram.getName())
+           << getAttributeText("tempo", m_currentProgram.getTempo())
+           << getAttributeText("tempoSource", m_currentProgram.getTempoSource()) << getStartTagEnd() << '\n';
+    m_computerInput.writeXml(stream, 1, {}, false);
+    m_controls.writeXml(stream, 1, {});
+    m_layers.writeXml(stream, 1, {});
+    m_zones.writeXml(stream, 1);
+    stream << getEndTag(BankFile::PROGRAM_TAG) << '\n';
+    return stream.str();
+}
+
+void Mirel::getProgramXml(std::string& xml) {
+    xml = BankFile::wrapProgram(BankFile::PROGRAM_TEXT_TAG, writeProgram());
+}
+
+void Mirel::loadBank(const std::string& path) {
+    if (path.empty())
+        return;
+    m_currentBank = Bank(path, BankFile::readProgramNames(path));
+    postCopyToGui(*this, BANK_CHANGED, m_currentBank);
+    changeProgramFromBank(m_currentProgram.getIndex());
+}
+
+void Mirel::setDefaultBank(const std::string& path) {
+    m_registrySettings.setDefaultBank(path);
+    postCopyToGui(*this, DEFAULT_BANK_CHANGED, path);
+    loadBank(path);
+}
+
+void Mirel::changeProgram(const SelectType& type) {
+    std::int64_t index = type.getValue();
+    if (type.getMode() == SelectType::up)
+        index = std::int64_t{m_currentProgram.getIndex()} + 1;
+    else if (type.getMode() == SelectType::down)
+        index = std::int64_t{m_currentProgram.getIndex()} - 1;
+    if (index >= 0 && index < static_cast<std::int64_t>(m_currentBank.getProgramNames().size()))
+        changeProgramFromBank(static_cast<int>(index));
+}
+
+void Mirel::changeProgramName(const std::string& name) {
+    m_currentProgram.setName(name);
+    postCopyToGui(*this, PROGRAM_NAME_CHANGED, m_currentProgram);
+}
+
+void Mirel::saveToProgram(const std::string& path, HWND notify) {
+    const std::string target(Text::trim(path));
+    const std::string text = BankFile::wrapProgram(BankFile::PROGRAM_FILE_TAG, writeProgram());
+    if (!target.empty() && Files::replace(target, Files::withSystemLineEnds(text)))
+        notifyDone(notify, SAVE_TO_PROGRAM_DONE);
+}
+
+void Mirel::saveToCurrentBank(int index, HWND notify) {
+    saveToBankFile(m_currentBank.getPath(), index, notify);
+}
+
+void Mirel::saveToBank(const std::string& path, HWND notify) {
+    saveToBankFile(path, m_currentProgram.getIndex(), notify);
+}
+
+void Mirel::saveToBankFile(const std::string& target, int index, HWND notify) {
+    if (index < 0 || m_currentBank.getPath().empty())
+        return;
+    const auto source = Files::read(m_currentBank.getPath());
+    if (!source)
+        return;
+    // Without the new file the old one is whole, and is what the desk shows again.
+    Files::replace(target, BankFile::replaceProgram(*source, index, writeProgram()));
+    loadBank(target);
+    notifyDone(notify, SAVE_TO_BANK_DONE);
+}
+
+void Mirel::changeBankSize(int size, HWND notify) {
+    const int count = static_cast<int>(m_currentBank.getProgramNames().size());
+    if (size == count || size <= 0)
+        return;
+    if (size <= m_currentProgram.getIndex())
+        changeProgramFromBank(size - 1);
+    const std::string path = m_currentBank.getPath();
+    const auto bank = Files::read(path);
+    if (!bank)
+        return;
+    Files::replace(path, BankFile::resize(*bank, count, size));
+    loadBank(path);
+    notifyDone(notify, CHANGE_BANK_SIZE_DONE);
+}
+
+void Mirel::importVersion2Bank(const std::string& from, const std::string& to, HWND notify) {
+    if (!from.empty() && !to.empty())
+        Version2Import(*this, m_sequencePresets).importBank(from, to);
+    loadBank(to);
+    notifyDone(notify, IMPORT_VERSION_2_BANK_DONE);
+}
+
+void Mirel::importVersion2Program(const std::string& from, const std::string& to, HWND notify) {
+    if (!from.empty() && !to.empty())
+        Version2Import(*this, m_sequencePresets).importProgram(from, to);
+    loadProgram(to);
+    notifyDone(notify, IMPORT_VERSION_2_PROGRAM_DONE);
+}
+
+void Mirel::importVersion2Preset(const std::string& from, const std::string& to, HWND notify) {
+    if (!from.empty() && !to.empty())
+        Version2Import(*this, m_sequencePresets).importPreset(from, to);
+    notifyDone(notify, IMPORT_VERSION_2_PRESET_DONE);
+}
+
+}

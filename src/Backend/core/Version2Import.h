@@ -1,0 +1,50 @@
+#pragma once
+
+#include "Backend/core/Version2Reader.h"
+#include "Backend/input/ControlMap.h"
+#include "Backend/input/KeyConfigurationMap.h"
+#include "Backend/midi/LayerList.h"
+
+#include <ostream>
+#include <string>
+
+namespace Backend {
+
+class MirelIF;
+
+// Turns files of version 2 into those of this one. A file that can't be read or written changes nothing; what can't be
+// understood in it takes its default. [backend]
+class Version2Import {
+public:
+    Version2Import(MirelIF& mirel, const SequenceManagement::SequencePresetManager& sequences)
+        : m_mirel(mirel), m_sequences(sequences) {}
+
+    // To a bank or program file of a path.
+    void importBank(const std::string& from, const std::string& to);
+    void importProgram(const std::string& from, const std::string& to);
+
+    // To a preset of a name. The first word of the old file's name tells of what: "key", "control" or "layer".
+    void importPreset(const std::string& from, const std::string& to);
+
+private:
+    struct Components {
+        ComputerInput::KeyConfigurationMap keys;
+        Controls::ControlMap controls;
+        Layers::LayerList layers;
+        int tempo;
+        int tempoSource;
+        bool hasKeys = false;
+    };
+
+    Components createComponents();
+
+    // Reads one section, if the reader is at one.
+    bool readSection(Version2Reader& reader, Components& components);
+
+    void convertProgram(Version2Reader& reader, std::ostream& stream);
+
+    MirelIF& m_mirel;
+    const SequenceManagement::SequencePresetManager& m_sequences;
+};
+
+}

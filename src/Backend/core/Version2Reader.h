@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace Backend {
+
+// The lines of a version 2 file.
+class Version2Reader {
+public:
+    explicit Version2Reader(std::string text) : m_text(std::move(text)), m_rest(m_text) { readLine(); }
+
+    Version2Reader(const Version2Reader&) = delete;
+    Version2Reader& operator=(const Version2Reader&) = delete;
+
+    // The current line without its end; not to be asked for at the end.
+    std::string_view getLine() const { return m_line; }
+    bool isAtEnd() const { return m_isAtEnd; }
+
+    // Whether there is a line that begins with this letter.
+    bool isAt(char letter) const { return !m_isAtEnd && m_line.starts_with(letter); }
+
+    void nextLine() { readLine(); }
+    void skipBlankLines();
+
+private:
+    void readLine();
+
+    const std::string m_text;
+    std::string_view m_rest;
+    std::string_view m_line;
+    bool m_isAtEnd = false;
+};
+
+// The fields of a line, which white space divides.
+class Version2Fields {
+public:
+    explicit Version2Fields(std::string_view line) : m_rest(line) {}
+
+    // The next field; empty behind the last.
+    std::string_view next();
+
+    // As a number, or the default.
+    std::int32_t nextNumber(std::int32_t defaultValue);
+
+    // As a flag, which any number but 0 sets.
+    bool nextFlag(bool defaultValue) { return nextNumber(defaultValue) != 0; }
+
+    // As text, with blanks for "_"; "-" is empty.
+    std::string nextText();
+
+private:
+    std::string_view m_rest;
+};
+
+// [any] Text with blanks for "_".
+std::string withBlanks(std::string_view text);
+
+}

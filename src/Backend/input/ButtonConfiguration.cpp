@@ -1,0 +1,142 @@
+#include "Backend/input/ButtonConfiguration.h"
+
+#include "Backend/core/XmlElement.h"
+#include "Backend/core/XmlWriting.h"
+#include "Backend/functions/FunctionFactory.h"
+#include "Backend/functions/FunctionList.h"
+
+#include <algorithm>
+
+using namespace Backend;
+using FunctionManagement::Function;
+using FunctionManagement::FUNCTION_ROW;
+using FunctionManagement::Functions::NoFunction;
+
+namespace {
+
+constexpr const char* FUNCTION_TAG = "Function";
+constexpr const char* DOWN_TAG = "Down";
+constexpr const char* UP_TAG = "Up";
+constexpr const char* KEEP_SENDING = "keepSending";
+
+// Only the first element inside counts. Comments and text are children too.
+std::unique_ptr<Function> readSlot(const XmlElement& element, MirelIF& mirel) {
+    for (auto child = element.begin(); child != element.end(); child.next())
+        if (!child.getName().empty())
+            return FunctionManagement::createFunction(child, mirel);
+    return nullptr;
+}
+
+ButtonFunction readEntry(const XmlElement& element, MirelIF& mirel) {
+    ButtonFunction entry;
+    entry.keepSending = element.getBoolAttribute(KEEP_SENDING, false);
+    for (auto child = element.begin(); child != element.end(); child.next()) {
+        if (child.getName() == DOWN_TAG && !entry.downFunction)
+            entry.downFunction = readSlot(child, mirel);
+        else if (child.getName() == UP_TAG && !entry.upFunction)
+            entry.upFunction = readSlot(child, mirel);
+    }
+    return entry;
+}
+
+void writeSlot(std::ostream& stream, int indent, const char* tag, const std::unique_ptr<Function>& function) {
+    if (!function)
+        return;
+    stream << getIndentation(indent) << getStartTag(tag) << '\n';
+    function->writeXml(stream, indent + 1);
+    stream << getIndentation(indent) << getEndTag(tag) << '\n';
+}
+
+bool isReal(const std::unique_ptr<Function>& function) {
+    return function && function->getXmlTag() != FUNCTION_ROW<NoFunction>.xmlTag;
+}
+
+void addZoneRange(std::vector<Zones::Zone>& ranges, const std::unique_ptr<Function>& function) {
+    if (!function)
+        return;
+    const Zones::Zone range = function->getZoneRange();
+    if (!range.lowNote.isNote() || !range.highNote.isNote())
+        return;
+    const auto known = std::find_if(ranges.begin(), ranges.end(),
+                                    [&range](const Zones::Zone& candidate) { return candidate.id == range.id; });
+    if (known == ranges.end())
+        ranges.push_back(range);
+    else
+        known->widen(range);
+}
+
+}
+
+std::string ButtonConfiguration::getDownFunctionTag(int index) const {
+    return getTag(index, &ButtonFunction::downFunction);
+}
+
+std::string ButtonConfiguration::getUpFunctionTag(int index) const {
+    return getTag(index, &ButtonFunction::upFunction);
+}
+
+std::string ButtonConfiguration::getTag(int index, Slot slot) const {
+    const Function* function = isIndex(index) ? (m_functions[static_cast<std::size_t>(index)].*slot).get() : nullptr;
+    return function ? function->getXmlTag() : FUNCTION_ROW<NoFunction>.xmlTag;
+}
+
+void ButtonConfiguration::setDownFunction(std::unique_ptr<Function> function, int index) {
+    setFunction(std::move(function), index, &ButtonFunction::downFunction);
+}
+
+void ButtonConfiguration::setUpFunction(std::unique_ptr<Function> function, int index) {
+    setFunction(std::move(function), index, &ButtonFunction::upFunction);
+}
+
+void ButtonConfiguration::setFunction(std::unique_ptr<Function> function, int index, Slot slot) {
+    if (index == getFunctionCount())
+        m_functions.emplace_back();
+    if (isIndex(index))
+        m_functions[static_cast<std::size_t>(index)].*slot = std::move(function);
+}
+
+bool ButtonConfiguration::getKeepSending(int index) const {
+    return isIndex(index) && m_functions[static_cast<std::size_t>(index)].keepSending;
+}
+
+void ButtonConfiguration::setKeepSending(int index, bool keepSending) {
+    if (isIndex(index))
+        m_functions[static_cast<std::size_t>(index)].keepSending = keepSending;
+}
+
+bool ButtonConfiguration::hasFunction() const {
+    return std::any_of(m_functions.begin(), m_functions.end(), [](const ButtonFunction& entry) {
+        return isReal(entry.downFunction) || isReal(entry.upFunction);
+    });
+}
+
+void ButtonConfiguration::addZoneRanges(std::vector<Zones::Zone>& ranges) const {
+    for (const ButtonFunction& entry : m_functions) {
+        addZoneRange(ranges, entry.downFunction);
+        addZoneRange(ranges, entry.upFunction);
+    }
+}
+
+void ButtonConfiguration::readFunctions(const XmlElement& element, MirelIF& mirel) {
+    for (auto child = element.begin(); child != element.end(); child.next())
+        if (child.getName() == FUNCTION_TAG)
+            m_functions.push_back(readEntry(child, mirel));
+}
+
+void ButtonConfiguration::writeFunctions(std::ostream& stream, int indent) const {
+    for (const ButtonFunction& entry : m_functions) {
+        stream << getIndentation(indent) << getStartTagBegin(FUNCTION_TAG)
+               << getAttributeText(KEEP_SENDING, entry.keepSending) << getStartTagEnd() << '\n';
+        writeSlot(stream, indent + 1, DOWN_TAG, entry.downFunction);
+        writeSlot(stream, indent + 1, UP_TAG, entry.upFunction);
+        stream << getIndentation(indent) << getEndTag(FUNCTION_TAG) << '\n';
+    }
+}
+
+bool ButtonConfiguration::hasSameFunctions(const ButtonConfiguration& other) const {
+    if (!hasFunction() && !other.hasFunction())
+        return true;
+    return std::equal(
+        m_functions.begin(), m_functions.end(), other.m_functions.begin(), other.m_functions.end(),
+        [](const ButtonFunction& left, const ButtonFunction& right) { return left.hasSameFunctions(right); });
+}

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "Backend/input/ButtonFunction.h"
+#include "Backend/midi/Zone.h"
+
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace Backend {
+class MirelIF;
+class XmlElement;
+}
+
+// What a press and a release of one button do: a list of functions that all run, in order. Copies are deep. Indices
+// count from 0.
+class ButtonConfiguration {
+public:
+    virtual ~ButtonConfiguration() = default;
+
+    // The button's element on lines of its own, indent tabs deep.
+    virtual void writeXml(std::ostream& stream, int indent) const = 0;
+
+    // The tag of a function; that of NoFunction if there is none.
+    std::string getDownFunctionTag(int index) const;
+    std::string getUpFunctionTag(int index) const;
+
+    // Puts a function, or null, into a slot. The index after the last makes a new entry; one beyond that is ignored.
+    void setDownFunction(std::unique_ptr<Backend::FunctionManagement::Function> function, int index);
+    void setUpFunction(std::unique_ptr<Backend::FunctionManagement::Function> function, int index);
+
+    int getFunctionCount() const { return static_cast<int>(m_functions.size()); }
+
+    // False for an index without an entry, and no effect there.
+    bool getKeepSending(int index) const;
+    void setKeepSending(int index, bool keepSending);
+
+    // Whether anything happens on a press or a release.
+    bool hasFunction() const;
+
+    const std::vector<ButtonFunction>& getFunctions() const { return m_functions; }
+
+    // Adds the notes that the button plays to the ranges of their zones.
+    void addZoneRanges(std::vector<Backend::Zones::Zone>& ranges) const;
+
+protected:
+    ButtonConfiguration() = default;
+    ButtonConfiguration(const ButtonConfiguration&) = default;
+    ButtonConfiguration& operator=(const ButtonConfiguration&) = default;
+    ButtonConfiguration(ButtonConfiguration&&) = default;
+    ButtonConfiguration& operator=(ButtonConfiguration&&) = default;
+
+    // Appends what the children of a button's element say.
+    void readFunctions(const Backend::XmlElement& element, Backend::MirelIF& mirel);
+    void writeFunctions(std::ostream& stream, int indent) const;
+
+    // Lists in which all slots are empty are equal.
+    bool hasSameFunctions(const ButtonConfiguration& other) const;
+
+private:
+    using Slot = std::unique_ptr<Backend::FunctionManagement::Function> ButtonFunction::*;
+
+    std::string getTag(int index, Slot slot) const;
+    void setFunction(std::unique_ptr<Backend::FunctionManagement::Function> function, int index, Slot slot);
+    bool isIndex(int index) const { return index >= 0 && index < getFunctionCount(); }
+
+    std::vector<ButtonFunction> m_functions;
+};

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Backend/functions/Function.h"
+
+#include <memory>
+
+// What a button does, on its press and on its release. Copies are deep.
+struct ButtonFunction {
+    ButtonFunction() = default;
+    ~ButtonFunction() = default;
+    ButtonFunction(const ButtonFunction& other);
+    ButtonFunction& operator=(const ButtonFunction& other);
+    ButtonFunction(ButtonFunction&&) = default;
+    ButtonFunction& operator=(ButtonFunction&&) = default;
+
+    bool isEmpty() const { return !downFunction && !upFunction; }
+
+    // Both slots; a slot that is null equals one with a function that does nothing.
+    bool hasSameFunctions(const ButtonFunction& other) const;
+
+    bool keepSending = false;  // A key that repeats executes the down function again.
+    std::unique_ptr<Backend::FunctionManagement::Function> downFunction;
+    std::unique_ptr<Backend::FunctionManagement::Function> upFunction;
+};

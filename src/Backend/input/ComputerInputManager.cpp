@@ -1,0 +1,135 @@
+#include "Backend/input/ComputerInputManager.h"
+
+#include "Backend/core/GuiPost.h"
+#include "Backend/core/MirelIF.h"
+#include "Backend/core/Text.h"
+#include "Backend/core/XmlDocument.h"
+#include "Backend/core/XmlElement.h"
+#include "Backend/core/XmlWriting.h"
+#include "Backend/input/ComputerInputMessages.h"
+#include "Backend/input/DefaultXml.h"
+
+namespace Backend::ComputerInput {
+
+namespace {
+
+constexpr const char* PRESET_FOLDER = "Computer Input Presets";
+
+}
+
+ComputerInputManager::ComputerInputManager(MirelIF& mirel, MessageManagerMaster& master)
+    : m_mirel(mirel), m_presets(PRESET_FOLDER), m_messageManager(master, *this) {}
+
+void ComputerInputManager::loadDefaultMap() {
+    const XmlDocument document(DEFAULT_COMPUTER_INPUT_XML, false);
+    readXml(document.getRootElement());
+}
+
+void ComputerInputManager::readXml(const XmlElement& element) {
+    m_currentPreset.clear();
+    const std::string preset(Text::trim(element.getAttribute("preset")));
+    if (!preset.empty()) {
+        loadPreset(preset);
+        return;
+    }
+    m_keyConfigurations.readXml(element, m_mirel, m_useKeyUpMod);
+    tellMapChanged();
+}
+
+void ComputerInputManager::writeXml(std::ostream& stream, int indent, const std::vector<Key>& selected,
+                                    bool writeKeys) const {
+    const bool writePreset = !writeKeys && !m_currentPreset.empty() && !isChangedFromPreset(m_currentPreset);
+    stream << getIndentation(indent) << getStartTagBegin(KeyConfigurationMap::TAG);
+    if (writePreset)
+        stream << getAttributeText("preset", m_currentPreset);
+    stream << getAttributeText("merge", !selected.empty()) << getAttributeText("useKeyUpMod", m_useKeyUpMod)
+           << getStartTagEnd() << '\n';
+    if (!writePreset)
+        m_keyConfigurations.writeKeys(stream, indent + 1, selected);
+    stream << getIndentation(indent) << getEndTag(KeyConfigurationMap::TAG) << '\n';
+}
+
+void ComputerInputManager::clear() {
+    m_currentPreset.clear();
+    m_keyConfigurations.clear();
+    m_useKeyUpMod = false;
+    tellMapChanged();
+}
+
+void ComputerInputManager::loadPreset(const std::string& name) {
+    m_presets.load(name, [&](const XmlElement& element) {
+        m_currentPreset = name;
+        m_keyConfigurations.readXml(element, m_mirel, m_useKeyUpMod);
+        tellMapChanged();
+        postToGui(m_mirel, WindowMessages::PRESET_FOLDER_CHANGED);
+    });
+}
+
+void ComputerInputManager::savePreset(const std::string& name, const std::vector<Key>& selected) {
+    m_presets.save(name, [&](std::ostream& stream) { writeXml(stream, 0, selected, true); });
+}
+
+void ComputerInputManager::renamePreset(const std::string& oldName, const std::string& newName) {
+    m_presets.renamePreset(oldName, newName);
+}
+
+void ComputerInputManager::deletePreset(const std::string& name) {
+    m_presets.deletePreset(name);
+}
+
+void ComputerInputManager::readPreset(const std::string& name, KeyConfigurationMap& keys, bool& useKeyUpMod) const {
+    m_presets.load(name, [&](const XmlElement& element) { keys.readXml(element, m_mirel, useKeyUpMod); });
+}
+
+bool ComputerInputManager::isChangedFromPreset(const std::string& name) const {
+    bool changed = false;
+    m_presets.load(name, [&](const XmlElement& element) {
+        KeyConfigurationMap keys;
+        bool useKeyUpMod = false;
+        keys.readXml(element, m_mirel, useKeyUpMod);
+        changed = useKeyUpMod != m_useKeyUpMod || !(keys == m_keyConfigurations);
+    });
+    return changed;
+}
+
+void ComputerInputManager::updateKeyConfigurations(const std::vector<KeyConfiguration>& configurations,
+                                                   bool notifyGui) {
+    for (const KeyConfiguration& configuration : configurations)
+        m_keyConfigurations.set(configuration);
+    m_mirel.updateZonesFromKeys();
+    if (!notifyGui)
+        return;
+    postCopyToGui(m_mirel, WindowMessages::KEYS_CHANGED, configurations);
+    postToGui(m_mirel, WindowMessages::CONTROL_KEYS_CHANGED);
+}
+
+void ComputerInputManager::handleKeyDown(const Key& key, bool isRepeat) {
+    for (const ButtonFunction& entry : copyFunctions(key)) {
+        if (isRepeat && !entry.keepSending) {
+            if (entry.isEmpty())
+                return;
+        } else if (entry.downFunction) {
+            entry.downFunction->execute();
+        }
+    }
+}
+
+void ComputerInputManager::handleKeyUp(const Key& key) {
+    const Key lookedUp = m_useKeyUpMod ? key : Key(key.getCode(), false, false, false, false);
+    for (const ButtonFunction& entry : copyFunctions(lookedUp))
+        if (entry.upFunction)
+            entry.upFunction->execute();
+}
+
+std::vector<ButtonFunction> ComputerInputManager::copyFunctions(const Key& key) {
+    const KeyConfiguration* configuration = m_keyConfigurations.find(key);
+    return configuration ? configuration->getFunctions() : std::vector<ButtonFunction>();
+}
+
+void ComputerInputManager::tellMapChanged() {
+    m_mirel.updateZonesFromKeys();
+    postCopyToGui(m_mirel, WindowMessages::ALL_KEYS_CHANGED, m_keyConfigurations, m_useKeyUpMod);
+    postToGui(m_mirel, WindowMessages::CONTROL_KEYS_CHANGED);
+}
+
+}

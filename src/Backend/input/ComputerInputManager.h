@@ -1,0 +1,85 @@
+#pragma once
+
+#include "Backend/core/PresetFolder.h"
+#include "Backend/input/ComputerInputMessageManager.h"
+#include "Backend/input/KeyConfigurationMap.h"
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace Backend {
+class MessageManagerMaster;
+class MirelIF;
+class XmlElement;
+}
+
+namespace Backend::ComputerInput {
+
+// The keys of the current program and what a key event does. [backend]
+class ComputerInputManager {
+public:
+    ComputerInputManager(MirelIF& mirel, MessageManagerMaster& master);
+
+    ComputerInputManager(const ComputerInputManager&) = delete;
+    ComputerInputManager& operator=(const ComputerInputManager&) = delete;
+
+    ComputerInputMessageManager& getMessageManager() { return m_messageManager; }
+    const KeyConfigurationMap& getKeyConfigurations() const { return m_keyConfigurations; }
+    const PresetFolder& getPresets() const { return m_presets; }
+
+    // Whether a release looks its key up with the modifiers that are held.
+    bool getUseKeyUpMod() const { return m_useKeyUpMod; }
+    void setUseKeyUpMod(bool useKeyUpMod) { m_useKeyUpMod = useKeyUpMod; }
+
+    // The preset that was loaded last; empty if the keys came from elsewhere.
+    const std::string& getCurrentPreset() const { return m_currentPreset; }
+
+    // The built-in keys.
+    void loadDefaultMap();
+
+    // From a program's ComputerInput element, which holds keys or names a preset.
+    void readXml(const XmlElement& element);
+
+    // As a ComputerInput element, indent tabs deep: all keys, or the selected ones to be merged. Unless writeKeys is
+    // set, keys that still are those of the current preset are written as its name.
+    void writeXml(std::ostream& stream, int indent, const std::vector<Key>& selected, bool writeKeys) const;
+
+    // Removes all keys.
+    void clear();
+
+    // A preset that has no file changes nothing.
+    void loadPreset(const std::string& name);
+    void savePreset(const std::string& name, const std::vector<Key>& selected);
+    void renamePreset(const std::string& oldName, const std::string& newName);
+    void deletePreset(const std::string& name);
+
+    // Reads a preset into other keys, and nothing else.
+    void readPreset(const std::string& name, KeyConfigurationMap& keys, bool& useKeyUpMod) const;
+
+    // Stores each configuration under its key.
+    void updateKeyConfigurations(const std::vector<KeyConfiguration>& configurations, bool notifyGui);
+
+    // Run the functions of a key. Those that don't keep sending sleep through repeats.
+    void handleKeyDown(const Key& key, bool isRepeat);
+    void handleKeyUp(const Key& key);
+
+    // The notes of all keys by zone.
+    std::vector<Zones::Zone> getZoneRanges() const { return m_keyConfigurations.getZoneRanges(); }
+
+private:
+    bool isChangedFromPreset(const std::string& name) const;
+    void tellMapChanged();
+
+    // Copies, as a function may replace the keys while it runs.
+    std::vector<ButtonFunction> copyFunctions(const Key& key);
+
+    MirelIF& m_mirel;
+    KeyConfigurationMap m_keyConfigurations;
+    bool m_useKeyUpMod = false;
+    PresetFolder m_presets;
+    ComputerInputMessageManager m_messageManager;
+    std::string m_currentPreset;
+};
+
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Backend/input/ButtonConfiguration.h"
+#include "Backend/input/Key.h"
+
+namespace Backend::ComputerInput {
+
+// What a key of the computer keyboard does in one state of the modifiers.
+class KeyConfiguration : public ButtonConfiguration {
+public:
+    static constexpr const char* TAG = "Key";
+
+    KeyConfiguration() = default;
+    explicit KeyConfiguration(const Key& key) : m_key(key) {}
+
+    // From its element. A key without a readable id is one that no key event can reach.
+    KeyConfiguration(const XmlElement& element, MirelIF& mirel);
+
+    const Key& getKey() const { return m_key; }
+
+    // Whether the key works, while the global keyboard is on, in other programs as well. It does not reach them then.
+    bool isGlobal() const { return m_global; }
+    void setGlobal(bool global) { m_global = global; }
+
+    void writeXml(std::ostream& stream, int indent) const override;
+
+    bool operator==(const KeyConfiguration& other) const {
+        return m_key == other.m_key && m_global == other.m_global && hasSameFunctions(other);
+    }
+
+private:
+    Key m_key;
+    bool m_global = true;
+};
+
+}
