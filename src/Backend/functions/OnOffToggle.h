@@ -18,7 +18,8 @@ public:
 
     State getState() const { return m_state; }
 
-    bool applyTo(bool present) const { return m_state == on || (m_state == toggle && !present); }
+    // A state from outside that is none of the three toggles as well.
+    bool applyTo(bool present) const { return m_state == on || (m_state != off && !present); }
 
     std::string toXmlString() const override { return m_state == on ? "on" : m_state == off ? "off" : "toggle"; }
 

@@ -100,6 +100,7 @@ TEST(OnOffToggleTest, AppliesToAFlag) {
         EXPECT_TRUE(OnOffToggle(OnOffToggle::on).applyTo(flag));
         EXPECT_FALSE(OnOffToggle(OnOffToggle::off).applyTo(flag));
         EXPECT_EQ(OnOffToggle(OnOffToggle::toggle).applyTo(flag), !flag);
+        EXPECT_EQ(OnOffToggle(static_cast<OnOffToggle::State>(7)).applyTo(flag), !flag);
     }
 }
 
