@@ -289,7 +289,8 @@ public:
             if (m_position == std::string_view::npos)
                 return true;
             const std::size_t markupStart = m_position;
-            if (++m_nodes > XML_MAX_NODES || !passMarkup() || markupStart - textStart > XML_MAX_RUN ||
+            m_nodes += comes("</") ? 0 : 1;
+            if (m_nodes > XML_MAX_NODES || !passMarkup() || markupStart - textStart > XML_MAX_RUN ||
                 m_position - markupStart > XML_MAX_RUN)
                 return false;
         }

@@ -57,7 +57,7 @@ public:
     // [backend] Starts the engine's thread.
     void initialize(int defaultOutput, bool midiThru);
 
-    // [backend] Stops it. Requests that come later are not carried out.
+    // [backend] Stops it. A request that comes later waits for another start.
     void end();
 
     // [player] Plays what is due from one time up to, but not including, another, in ppq. A window that runs backwards

@@ -36,7 +36,8 @@ public:
     // [backend]
     void start();
 
-    // [backend] Returns when the thread has ended. What was posted after this call is dropped.
+    // [backend] Returns when the thread has ended. What was posted after this call is dropped; a post after the end
+    // waits for another start.
     void stop();
 
     // [any] Queues an event for the next time slice, or for its own time if it has one.

@@ -46,7 +46,8 @@ void SequencePresetManager::addSequencePreset(const std::string& name, const std
         return;
     const std::string content = getXmlHeader() + "\n" + getStartTag(Sequence::TAG) + escape(Sequence(text).toString()) +
                                 getEndTag(Sequence::TAG) + "\n";
-    if (Platform::Files::createFolders(m_folder) && Platform::Files::replace(filePath(name), content))
+    if (Platform::Files::createFolders(m_folder) &&
+        Platform::Files::replace(filePath(name), Platform::Files::withSystemLineEnds(content)))
         insertName(name);
 }
 

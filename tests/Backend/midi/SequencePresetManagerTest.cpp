@@ -28,7 +28,8 @@ TEST_F(SequencePresetManagerTest, AddedPresetsAreFilesInASortedList) {
     m_presets.addSequencePreset("a", "0,12|7 V5");
     m_presets.addSequencePreset("b", "0,12");
     EXPECT_EQ(m_presets.getSequencePresetList(), (SequencePresetList{"a", "b"}));
-    EXPECT_EQ(content("a"), "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<Sequence>0,12|7 V5</Sequence>\n");
+    EXPECT_EQ(content("a"), Platform::Files::withSystemLineEnds(
+                                "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<Sequence>0,12|7 V5</Sequence>\n"));
     EXPECT_EQ(m_presets.load("b").toString(), "0,12");
     EXPECT_EQ(SequencePresetManager(m_folder.path()).getSequencePresetList(), (SequencePresetList{"a", "b"}));
 }
