@@ -17,6 +17,12 @@ bool createFolders(const std::string& path) {
     return fs::is_directory(*folder, error);
 }
 
+bool removeEmptyFolder(const std::string& path) {
+    const auto folder = systemPath(path);
+    std::error_code error;
+    return folder && fs::is_directory(*folder, error) && fs::remove(*folder, error);
+}
+
 std::vector<std::string> list(const std::string& folder, const std::string& extension) {
     std::vector<std::string> names;
     const auto path = systemPath(folder);
@@ -25,7 +31,8 @@ std::vector<std::string> list(const std::string& folder, const std::string& exte
     std::error_code error;
     for (fs::directory_iterator entry(*path, error), end; !error && entry != end; entry.increment(error)) {
         std::error_code entryError;
-        if (entry->is_regular_file(entryError) && utf8Path(entry->path().extension()) == extension)
+        if (entry->is_regular_file(entryError) &&
+            (extension.empty() || utf8Path(entry->path().extension()) == extension))
             names.push_back(utf8Path(entry->path().filename()));
     }
     std::sort(names.begin(), names.end());

@@ -111,8 +111,9 @@ public:
     // [any; not locked] The same, and then silences the default output.
     void sendHardReset();
 
-    // [any] Whether a reset waits for a slice at this moment.
+    // [any] Whether a reset waits for a slice at this moment, and how many threads are in a call that resets.
     bool isSliceAwaited() const { return m_isSliceAwaited; }
+    int getResetCallers() const { return m_resetCallers; }
 
     // [locked] Queues an event for the next slice.
     void postPlayMidi(const MirelMidiMessage& message);
@@ -190,6 +191,7 @@ private:
     std::mutex m_resetSenders;  // One sender at a time waits for the events below.
     std::atomic<bool> m_hardResetRequested = false;
     std::atomic<bool> m_isSliceAwaited = false;
+    std::atomic<int> m_resetCallers = 0;
     Platform::AutoResetEvent m_resetEvent;
     Platform::AutoResetEvent m_hardResetEvent;
     std::atomic<bool> m_midiPlayerRunning = false;

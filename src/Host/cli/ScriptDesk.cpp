@@ -180,21 +180,25 @@ void ScriptDesk::postEvent(const MirelMidiMessage& event) {
 }
 
 void ScriptDesk::playSlice(std::int32_t from, std::int32_t to) {
-    m_player.setSliceFrom(from);
+    m_player.beginSlice(from);
     m_mirel->playTimeSlice(from, to);
+    m_player.endSlice();
     m_clock = to;
     waitUntilResting();
 }
 
 void ScriptDesk::reset() {
-    // On a thread of its own, as the slices that it waits for are played here.
-    const auto done = std::async(std::launch::async, [this] { engine().sendReset(); });
-    playUntil([&done] { return done.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
+    runReset([this] { engine().sendReset(); });
 }
 
 void ScriptDesk::hardReset() {
-    const auto done = std::async(std::launch::async, [this] { engine().sendHardReset(); });
-    playUntil([&done] { return done.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
+    runReset([this] { engine().sendHardReset(); });
+}
+
+void ScriptDesk::runReset(const std::function<void()>& request) {
+    // On a thread of its own, as the slices that it waits for are played here.
+    const auto done = std::async(std::launch::async, request);
+    playUntil(1, [&done] { return done.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
 }
 
 void ScriptDesk::post(const std::function<void(MirelIF&)>& request) {
@@ -232,16 +236,26 @@ bool ScriptDesk::isResting() {
 }
 
 void ScriptDesk::waitUntilResting() {
-    playUntil([this] { return isResting(); });
+    playUntil(0, [this] { return isResting(); });
+}
+
+// Whether a slice is all that anybody waits for. Only then the order of things is the same in every run.
+bool ScriptDesk::isSliceNeeded(int ownCallers) {
+    const MidiEngine::MidiEngine& midiEngine = m_mirel->getMidiEngine();
+    if (!midiEngine.isSliceAwaited())
+        return false;
+    const bool isBackendBusy = m_isStarted && !m_mirel->getMessageManagerMaster().isIdle();
+    const int busyThreads = (isBackendBusy ? 1 : 0) + (engine().isIdle() ? 0 : 1) + ownCallers;
+    return midiEngine.getResetCallers() == busyThreads;
 }
 
 template <typename Condition>
-void ScriptDesk::playUntil(Condition isDone) {
+void ScriptDesk::playUntil(int ownCallers, Condition isDone) {
     while (!isDone()) {
-        // Only when nothing else goes on, so that a script always finds the same order of things.
-        if (m_mirel->getMidiEngine().isSliceAwaited() && (engine().isIdle() || engine().isWaitingForReset())) {
-            m_player.setSliceFrom(m_clock);
+        if (isSliceNeeded(ownCallers)) {
+            m_player.beginSlice(m_clock);
             m_mirel->playTimeSlice(m_clock, m_clock);
+            m_player.endSlice();
         }
         std::this_thread::yield();
     }

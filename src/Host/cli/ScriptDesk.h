@@ -76,13 +76,14 @@ private:
     bool isResting();
     void waitUntilResting();
 
-    // Plays empty slices where the clock stands until isDone; what waits for the player's thread needs them.
-    template <typename Condition>
-    void playUntil(Condition isDone);
+    bool isSliceNeeded(int ownCallers);
 
-    void sendLayers();
-    void sendInputs();
-    void sendOutputs();
+    // Plays empty slices where the clock stands until isDone; what waits for the player's thread needs them.
+    // ownCallers: how many threads of this object wait for a reset.
+    template <typename Condition>
+    void playUntil(int ownCallers, Condition isDone);
+
+    void runReset(const std::function<void()>& request);
 
     ScriptPlayer m_player;
     std::vector<Backend::MidiEngine::MidiInputPort> m_inputs;
