@@ -3,8 +3,6 @@
 #include "Host/common/MidiSystem.h"
 #include "Host/common/posix/JackServer.h"
 
-#include <RtMidi.h>
-
 #include <memory>
 #include <mutex>
 #include <string>
@@ -13,9 +11,9 @@ namespace Host {
 
 // JACK if a server runs, else the sequencer of ALSA if the kernel has one, else nothing. Each look at the list decides
 // anew: a server may come and go while the desk runs.
-class RtMidiSystem : public MidiSystem {
+class PosixMidiSystem : public MidiSystem {
 public:
-    explicit RtMidiSystem(std::string clientName);
+    explicit PosixMidiSystem(std::string clientName);
 
     std::string name() override;
     MidiPortIds list() override;
@@ -26,11 +24,10 @@ public:
     std::unique_ptr<OpenMidiPort> openVirtualOutput(const std::string& name) override;
 
 private:
-    // Where ports are opened at the moment.
+    // Where ports are at the moment: at the server, else with ALSA if that is there.
     struct Place {
-        RtMidi::Api api = RtMidi::UNSPECIFIED;  // For nowhere.
-        std::shared_ptr<JackServer> jack;       // With JACK.
-        std::string clientName;
+        std::shared_ptr<JackServer> jack;
+        bool isAlsa = false;
     };
 
     Place look();
