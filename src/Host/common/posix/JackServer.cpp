@@ -16,7 +16,7 @@ namespace Host {
 
 namespace {
 
-constexpr int MAX_DESKS = 50;
+constexpr int MAX_DESKS = 20;
 // So long a working server never takes for a cycle, or to send what is queued.
 constexpr std::int64_t PATIENCE_MICROSECONDS = 500000;
 
@@ -108,7 +108,8 @@ std::shared_ptr<JackServer> JackServer::connect(const std::string& clientName) {
             places().all.push_back(place.get());
             return place;
         }
-        if ((status & JackNameNotUnique) == 0)
+        // The server that refuses a name in use says only that something went wrong.
+        if ((status & JackServerFailed) != 0)
             break;
     }
     return nullptr;
@@ -254,6 +255,8 @@ std::unique_ptr<OpenMidiPort> JackServer::open(const std::string& name, const st
                                                            isInput ? own.c_str() : other.c_str()) == 0;
     if (!isConnected)
         return nullptr;
+    // The server makes changes between two cycles; what is sent before is lost.
+    waitForCycles(2);
     return port;
 }
 
