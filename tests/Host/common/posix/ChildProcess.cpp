@@ -53,7 +53,7 @@ ChildProcess::ChildProcess(const std::vector<std::string>& arguments,
     m_pid = ::fork();
     if (m_pid == 0) {
         // Nothing but system calls here: other threads may have held locks.
-        ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
         if (::getppid() != parent)
             ::_exit(COULD_NOT_START);
         ::dup2(pipe[1], STDOUT_FILENO);
