@@ -80,6 +80,7 @@ int findPort(const std::vector<PortRow>& rows, const std::string& wanted, const 
 
 std::vector<int> findPorts(const std::vector<PortRow>& rows, const std::vector<std::string>& wanted, const char* what) {
     std::vector<int> indices;
+    indices.reserve(wanted.size());
     for (const std::string& name : wanted)
         indices.push_back(findPort(rows, name, what));
     return indices;
