@@ -346,6 +346,11 @@ TEST_F(JackTest, ServerThatHangsHoldsUpNeitherTheSlicesNorTheEnd) {
     EXPECT_GT(ports.droppedEvents(), 0u) << "the port took no more";
     EXPECT_FALSE(ports.close(std::chrono::milliseconds(100)));
     server().suspend(false);
+    endPorts();
+    EXPECT_TRUE(eventually([] {
+        const auto place = JackServer::connect(DESK);
+        return place && place->name() == DESK;
+    })) << "when the server wakes up, what was left behind goes away";
 }
 
 }
