@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 namespace Host {
@@ -80,7 +81,7 @@ private:
                            static_cast<double>(MICROSECONDS_PER_MINUTE);
     }
 
-    static std::int64_t tick(double ppq) { return static_cast<std::int64_t>(ppq + 0.5); }
+    static std::int64_t tick(double ppq) { return std::llround(ppq); }
 
     void writeTempo() {
         m_writer.add(MidiFileWriter::CONDUCTOR,

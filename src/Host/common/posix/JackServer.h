@@ -2,6 +2,8 @@
 
 #include "Host/common/MidiSystem.h"
 
+#include <jack/types.h>
+
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
@@ -9,9 +11,6 @@
 #include <mutex>
 #include <string>
 #include <vector>
-
-using jack_client_t = struct _jack_client;
-using jack_port_t = struct _jack_port;
 
 namespace Host {
 

@@ -81,11 +81,11 @@ protected:
         m_programs.clear();
     }
 
-    // The server goes on without a client that is late, and what that one should have heard in the meantime is lost: on
-    // a busy computer an event must be played more than once.
+    // The server goes on without a client that is late, and what that one should have heard in the meantime is lost. So
+    // its cycles are long, and on a busy computer an event must be played more than once.
     void startServer() {
         m_server.emplace(
-            std::vector<std::string>{"jackd", "-n", m_serverName, "-r", "-d", "dummy", "-r", "48000", "-p", "64"});
+            std::vector<std::string>{"jackd", "-n", m_serverName, "-r", "-d", "dummy", "-r", "48000", "-p", "1024"});
         ASSERT_TRUE(eventually([] { return JackServer::connect("probe") != nullptr; })) << m_server->output();
     }
 
@@ -224,8 +224,8 @@ TEST_F(JackTest, EventsReachAnotherProgramAndNotesEndAtTheClose) {
     const int output = find(ports.outputs(), MONITOR);
     ASSERT_GE(output, 0);
     ASSERT_TRUE(playUntilPrinted(output, 0x2ac2, monitor, "c2 2a")) << monitor.output();
-    ASSERT_TRUE(playUntilTaken(output, 0x643c91));
-    EXPECT_TRUE(eventually([&] { return monitor.output().find("91 3c 64") != std::string::npos; })) << monitor.output();
+    // As often as it begins it ends.
+    EXPECT_TRUE(playUntilPrinted(output, 0x643c91, monitor, "91 3c 64")) << monitor.output();
     EXPECT_TRUE(ports.close());
     EXPECT_TRUE(eventually([&] { return monitor.output().find("81 3c 40") != std::string::npos; })) << monitor.output();
 }
@@ -346,6 +346,11 @@ TEST_F(JackTest, ServerThatHangsHoldsUpNeitherTheSlicesNorTheEnd) {
     EXPECT_GT(ports.droppedEvents(), 0u) << "the port took no more";
     EXPECT_FALSE(ports.close(std::chrono::milliseconds(100)));
     server().suspend(false);
+    endPorts();
+    EXPECT_TRUE(eventually([] {
+        const auto place = JackServer::connect(DESK);
+        return place && place->name() == DESK;
+    })) << "when the server wakes up, what was left behind goes away";
 }
 
 }
