@@ -121,10 +121,15 @@ Layers::Layer readLayer(Version2Fields& fields, const SequenceManagement::Sequen
     return layer;
 }
 
+// A section of more records is none that was ever meant; those beyond are passed over.
+constexpr int MAX_RECORDS = 10000;
+
 // Calls read with the fields of each line of a section behind its letter.
 template <class Read>
 void readSection(Version2Reader& reader, char letter, Read read) {
-    for (; reader.isAt(letter); reader.nextLine()) {
+    for (int records = 0; reader.isAt(letter); reader.nextLine()) {
+        if (++records > MAX_RECORDS)
+            continue;
         Version2Fields fields(reader.getLine());
         const std::string_view tag = fields.next();
         read(tag, fields);
