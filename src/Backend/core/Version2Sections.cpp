@@ -83,10 +83,12 @@ NoteToggle readToggle(Version2Fields& fields) {
                                                                     : NoteToggle();
 }
 
-// A number or a name.
+// A number or a name; what begins as neither is no note.
 Note readNote(Version2Fields& fields, const Note& defaultNote) {
+    constexpr std::string_view FIRST_CHARACTERS = "0123456789ABCDEFGabcdefg";
     const std::string text = fields.nextText();
-    return text.empty() ? defaultNote : Note(std::string_view(text));
+    const bool isNote = !text.empty() && FIRST_CHARACTERS.find(text.front()) != std::string_view::npos;
+    return isNote ? Note(std::string_view(text)) : defaultNote;
 }
 
 RelativeFixedValue readAmount(Version2Fields& fields) {

@@ -250,6 +250,7 @@ TEST_F(Version2ImportTest, ALayerThatEndsEarlyTakesTheDefaults) {
     const std::string expected = "\t\t" + DEFAULT_LAYER + "\t\t</Layer>\n";
     EXPECT_EQ(section("L\n", "Layers"), expected);
     EXPECT_EQ(section("L 0 0 0 1 - - x x x x x x x x x x x x x x x\n", "Layers"), expected);
+    EXPECT_EQ(section("L x x x x x # x x x x x x x x x x x x x x x\n", "Layers"), expected);
     EXPECT_EQ(section("L\nLT\nL 0 0 0 1 0 127 0 127 -1 -1 0 - -1 - 1 1 0 0 0 -1 0\n", "Layers"), expected + expected);
     EXPECT_NE(m_desk.read("new.prg").find("tempo=\"120\" tempoSource=\"-1\""), std::string::npos);
 }
