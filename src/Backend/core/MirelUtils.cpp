@@ -13,6 +13,7 @@ constexpr const char* PRODUCT = "Mirel Console 3";
 constexpr const char* PRODUCT_LITE = "Mirel Console 3 LE";
 constexpr const char* SETTINGS_VERSION = "3.2";
 constexpr const char* SETTINGS_FILE = "settings";
+constexpr std::size_t LONGEST_FOLDER = 1000;  // With the zero that ends it, as all texts of the settings.
 
 std::string& chosenDataFolder() {
     static std::string folder;
@@ -58,6 +59,8 @@ std::string MirelUtils::getMirelAppDataDir() {
 std::string MirelUtils::getMirelProgDir() {
     const auto key = createSettingsStore()->open(getMainRegistryKeyLite());
     std::string folder = key ? key->readText("ProgDir").value_or(std::string()) : std::string();
+    if (folder.size() >= LONGEST_FOLDER)
+        return {};
     if (folder.ends_with('\\') || (folder.size() > 1 && folder.ends_with('/')))
         folder.pop_back();
     return folder;
