@@ -42,6 +42,18 @@ TEST(FilesTest, ReplacedFileReadsBackByteByByte) {
     EXPECT_EQ(entries(folder.path()), 3u) << "nothing temporary stays";
 }
 
+TEST(FilesTest, AFileWithTheLongestNameIsReplaced) {
+    const TemporaryFolder folder;
+    std::string name = "a.bnk";
+    while (name.size() <= 252)
+        name = "\xE3\x83\x94" + name;
+    const std::string path = folder.file(name);
+    ASSERT_TRUE(Files::replace(path, "1"));
+    ASSERT_TRUE(Files::replace(path, "2"));
+    EXPECT_EQ(Files::read(path), "2");
+    EXPECT_EQ(entries(folder.path()), 1u);
+}
+
 TEST(FilesTest, ReadRefusesWhatIsTooLargeOrNoPlainFile) {
     const TemporaryFolder folder;
     const std::string path = folder.file("a");

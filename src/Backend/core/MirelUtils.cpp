@@ -21,6 +21,7 @@ constexpr const char* PRODUCT_LITE = "Mirel Console 3 LE";
 constexpr const char* SETTINGS_VERSION = "3.2";
 constexpr const char* SETTINGS_FILE = "settings";
 
+constexpr std::size_t LONGEST_FOLDER = 1000;  // With the zero that ends it, as all texts of the settings.
 constexpr const char* MANUAL = "README.txt";
 constexpr const char* DEFAULT_FOLDER = "Default";
 
@@ -36,6 +37,8 @@ std::string& chosenDataFolder() {
 std::string readProgDir(const std::string& registryKey) {
     const auto key = MirelUtils::createSettingsStore()->open(registryKey);
     std::string folder = key ? key->readText("ProgDir").value_or(std::string()) : std::string();
+    if (folder.size() >= LONGEST_FOLDER)
+        return {};
     if (folder.ends_with('\\') || (folder.size() > 1 && folder.ends_with('/')))
         folder.pop_back();
     return folder;

@@ -13,10 +13,10 @@ namespace {
 namespace Files = Platform::Files;
 
 // A folder for data of the test's own, instead of the user's.
-class MirelUtilsTest : public testing::Test {
+class InstallationTest : public testing::Test {
 protected:
-    MirelUtilsTest() { MirelUtils::useDataFolder(m_folder.file("data")); }
-    ~MirelUtilsTest() override { MirelUtils::useDataFolder(""); }
+    InstallationTest() { MirelUtils::useDataFolder(m_folder.file("data")); }
+    ~InstallationTest() override { MirelUtils::useDataFolder(""); }
 
     std::string makeFile(const std::string& folder, const std::string& name, const std::string& content) {
         Files::createFolders(m_folder.file(folder));
@@ -28,21 +28,7 @@ protected:
     TestSupport::TemporaryFolder m_folder;
 };
 
-TEST_F(MirelUtilsTest, KeysNameTheMakerTheEditionAndTheVersion) {
-    EXPECT_EQ(MirelUtils::getMainRegistryKey(), "Software\\Tamsel Software\\Mirel Console 3\\3.2");
-    EXPECT_EQ(MirelUtils::getMainRegistryKeyLite(), "Software\\Tamsel Software\\Mirel Console 3 LE\\3.2");
-    EXPECT_EQ(MirelUtils::getMirelPortName(), "Mirel Console");
-}
-
-TEST_F(MirelUtilsTest, FoldersLieInTheUsersDataUnlessAnotherIsChosen) {
-    EXPECT_EQ(MirelUtils::getMirelAppDataDir(), m_folder.file("data"));
-    MirelUtils::useDataFolder("");
-    const std::string company = MirelUtils::getCompanyAppDataDir();
-    EXPECT_TRUE(company.ends_with("Tamsel Software")) << company;
-    EXPECT_EQ(MirelUtils::getMirelAppDataDir(), Files::join(company, "Mirel Console 3 LE"));
-}
-
-TEST_F(MirelUtilsTest, UninstallKeepsWhatIsTheUsers) {
+TEST_F(InstallationTest, UninstallKeepsWhatIsTheUsers) {
     const std::string inputs = makeFile("data", "Midi Inputs.txt", "x");
     const std::string outputs = makeFile("data", "Midi Outputs.txt", "x");
     const std::string bank = makeFile("data", "My.bnk", "x");
@@ -52,13 +38,13 @@ TEST_F(MirelUtilsTest, UninstallKeepsWhatIsTheUsers) {
     EXPECT_TRUE(Files::size(bank));
 }
 
-TEST_F(MirelUtilsTest, UninstallRemovesAnEmptyFolder) {
+TEST_F(InstallationTest, UninstallRemovesAnEmptyFolder) {
     makeFile("data", "Midi Inputs.txt", "x");
     MirelUtils::uninstall();
     EXPECT_FALSE(Files::removeEmptyFolder(m_folder.file("data"))) << "it is gone";
 }
 
-TEST_F(MirelUtilsTest, DefaultFilesAreCopiedOverWhatIsThere) {
+TEST_F(InstallationTest, DefaultFilesAreCopiedOverWhatIsThere) {
     makeFile("data/Default/Sequences", "a.seq", "new");
     makeFile("data/Default/Sequences", "Zo\xC3\xAB.txt", "any kind");
     makeFile("data/Default/Sequences/deeper", "b.seq", "not followed");
@@ -70,7 +56,7 @@ TEST_F(MirelUtilsTest, DefaultFilesAreCopiedOverWhatIsThere) {
     EXPECT_EQ(Files::list(m_folder.file("data/Sequences"), "").size(), 3u);
 }
 
-TEST_F(MirelUtilsTest, ACopyThatFailsEndsTheRest) {
+TEST_F(InstallationTest, ACopyThatFailsEndsTheRest) {
     makeFile("data/Default/Layers", "a.pst", "a");
     makeFile("data/Default/Layers", "b.pst", "b");
     Files::createFolders(m_folder.file("data/Layers/a.pst"));
