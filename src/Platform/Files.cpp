@@ -1,5 +1,6 @@
 #include "Platform/Files.h"
 
+#include "Platform/FileNameCase.h"
 #include "Platform/SystemPath.h"
 
 #include <algorithm>
@@ -20,12 +21,13 @@ bool createFolders(const std::string& path) {
 std::vector<std::string> list(const std::string& folder, const std::string& extension) {
     std::vector<std::string> names;
     const auto path = systemPath(folder);
-    if (!path)
+    const auto wanted = systemPath(extension);
+    if (!path || !wanted)
         return names;
     std::error_code error;
     for (fs::directory_iterator entry(*path, error), end; !error && entry != end; entry.increment(error)) {
         std::error_code entryError;
-        if (entry->is_regular_file(entryError) && utf8Path(entry->path().extension()) == extension)
+        if (entry->is_regular_file(entryError) && isSameFileName(entry->path().extension(), *wanted))
             names.push_back(utf8Path(entry->path().filename()));
     }
     std::sort(names.begin(), names.end());
