@@ -39,9 +39,6 @@ namespace Backend::MidiEngine {
 // operations tagged [locked] are for code that runs under the lock.
 class MidiEngine {
 public:
-    // A slice of this many ppq or more plays nothing. It bounds what a stall or a jump of the tempo costs.
-    static constexpr int MAX_TIME_SLICE = 5000;
-
     // Events beyond this many that wait for their time are dropped; resets never are.
     static constexpr std::size_t MAX_PENDING_MESSAGES = 1 << 20;
 
@@ -61,7 +58,7 @@ public:
     void end();
 
     // [player] Plays what is due from one time up to, but not including, another, in ppq. A window that runs backwards
-    // plays a few ticks at both of its ends; one of MAX_TIME_SLICE or more plays nothing.
+    // plays a few ticks at both of its ends; one of 5000 ppq or more plays nothing.
     void playTimeSlice(std::int32_t from, std::int32_t to);
 
     // [any] The ppq time of a host clock at a tempo in beats per minute. Far above 0, as negative times mean none; a
@@ -136,6 +133,9 @@ public:
     HWND getGuiWindowHandle() const;
 
 private:
+    // A slice of this many ppq or more plays nothing. It bounds what a stall or a jump of the tempo costs.
+    static constexpr int MAX_TIME_SLICE = 5000;
+
     enum class ResetKind { Soft, Hard };
 
     // The steps of a slice.

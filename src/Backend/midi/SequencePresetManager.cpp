@@ -34,7 +34,7 @@ void SequencePresetManager::removeName(const std::string& name) {
 }
 
 Sequence SequencePresetManager::load(const std::string& name) const {
-    if (!isUsableFileName(name))
+    if (m_folder.empty() || !isUsableFileName(name))
         return {};
     const XmlDocument document(filePath(name), true);
     const XmlElement root = document.getRootElement();
