@@ -15,6 +15,12 @@ namespace {
 
 constexpr const char* PRESET_FOLDER = "Computer Input Presets";
 
+// Some keyboards send the code that a key without a name has the low byte of, for keys of their own.
+bool isNoKey(const Key& key) {
+    constexpr std::int32_t LOW_BYTE = 0xff;
+    return (key.getCode() & LOW_BYTE) == (Key::NO_KEY & LOW_BYTE);
+}
+
 }
 
 ComputerInputManager::ComputerInputManager(MirelIF& mirel, MessageManagerMaster& master)
@@ -122,7 +128,7 @@ void ComputerInputManager::handleKeyUp(const Key& key) {
 }
 
 std::vector<ButtonFunction> ComputerInputManager::copyFunctions(const Key& key) {
-    const KeyConfiguration* configuration = m_keyConfigurations.find(key);
+    const KeyConfiguration* configuration = isNoKey(key) ? nullptr : m_keyConfigurations.find(key);
     return configuration ? configuration->getFunctions() : std::vector<ButtonFunction>();
 }
 

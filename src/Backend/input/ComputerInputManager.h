@@ -60,7 +60,8 @@ public:
     // Stores each configuration under its key.
     void updateKeyConfigurations(const std::vector<KeyConfiguration>& configurations, bool notifyGui);
 
-    // Run the functions of a key. Those that don't keep sending sleep through repeats.
+    // Run the functions of a key. Those that don't keep sending sleep through repeats. No event reaches a key without a
+    // name.
     void handleKeyDown(const Key& key, bool isRepeat);
     void handleKeyUp(const Key& key);
 
