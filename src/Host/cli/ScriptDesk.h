@@ -80,10 +80,6 @@ private:
     template <typename Condition>
     void playUntil(Condition isDone);
 
-    void sendLayers();
-    void sendInputs();
-    void sendOutputs();
-
     ScriptPlayer m_player;
     std::vector<Backend::MidiEngine::MidiInputPort> m_inputs;
     std::vector<Backend::MidiEngine::MidiOutputPort> m_outputs;
