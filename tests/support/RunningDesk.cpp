@@ -175,7 +175,7 @@ void RunningDesk::windowMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     const std::string text = Host::Cli::takeWindowText(message, wParam, lParam);
     const std::lock_guard lock(m_lock);
     m_told.push_back(std::to_string(message) + (text.empty() ? "" : " ") + text);
-    m_posted.push_back({message, Platform::currentThreadId()});
+    m_posted.push_back({message, wParam, lParam, Platform::currentThreadId()});
 }
 
 void RunningDesk::call(const std::string& text) {

@@ -21,6 +21,8 @@ class RunningDesk : public Backend::MidiEngine::MidiPlayer, private Platform::Wi
 public:
     struct Posted {
         UINT message;
+        WPARAM wParam;
+        LPARAM lParam;
         DWORD thread;
     };
 
@@ -59,7 +61,7 @@ public:
     // What the window was told since the last call: "NUMBER TEXT" each.
     std::vector<std::string> takeTold();
 
-    // The same by number and thread.
+    // The same as it was posted. What a word points to is gone.
     std::vector<Posted> takePosted();
 
     // What came out since the last call: "0xSS D1 D2 ch=C out=O" each.

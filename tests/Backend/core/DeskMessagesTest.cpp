@@ -9,6 +9,7 @@
 #include "Host/cli/EventText.h"
 #include "tests/support/DataTable.h"
 #include "tests/support/FakeHost.h"
+#include "tests/support/MessageWitness.h"
 #include "tests/support/ProjectFolder.h"
 #include "tests/support/RunningDesk.h"
 
@@ -182,28 +183,6 @@ private:
     std::vector<std::string> m_calls;
 };
 
-// Stands before a manager and sees what it gets.
-class Witness : public MessageManager {
-public:
-    Witness(MessageManagerMaster& master, MessageManager& manager) : MessageManager(master), m_manager(manager) {}
-
-    bool wantMessage(unsigned int message) override { return m_manager.wantMessage(message); }
-    void handleMessage(const MSG& message) override {
-        seen.push_back(message);
-        m_manager.handleMessage(message);
-    }
-    void disposeMessage(const MSG& message) override {
-        disposed.push_back(message);
-        m_manager.disposeMessage(message);
-    }
-
-    std::vector<MSG> seen;
-    std::vector<MSG> disposed;
-
-private:
-    MessageManager& m_manager;
-};
-
 MirelMidiMessage noteAt(std::int32_t ppq) {
     return MirelMidiMessage(MidiMessage::NoteOn, 60, 100, 3, 2, 5, 1, ppq);
 }
@@ -299,19 +278,6 @@ void expectWord(const std::string& expected, std::int64_t word, const std::strin
         EXPECT_EQ(word, std::stoll(expected)) << row;
 }
 
-// Holds the worker back until it is let go.
-class Gate : public MessageManager {
-public:
-    static constexpr UINT NUMBER = 40001;
-
-    using MessageManager::MessageManager;
-
-    bool wantMessage(unsigned int message) override { return message == NUMBER; }
-    void handleMessage(const MSG&) override { open.wait(); }
-
-    Platform::AutoResetEvent open;
-};
-
 class DeskMessagesTest : public testing::Test {
 protected:
     DeskMessagesTest() {
@@ -325,8 +291,8 @@ protected:
     const std::unique_ptr<RecordingMirel> m_mirel = std::make_unique<RecordingMirel>(m_host);
     MessageManagerMaster m_master;
     MirelMessageManager m_manager{m_master, *m_mirel};
-    Witness m_witness{m_master, m_manager};
-    Gate m_gate{m_master};
+    TestSupport::MessageWitness m_witness{m_master, m_manager};
+    TestSupport::WorkerGate m_gate{m_master};
 };
 
 TEST_F(DeskMessagesTest, EachOperationPostsItsNumberAndWordsAndIsCarriedOut) {
@@ -340,7 +306,7 @@ TEST_F(DeskMessagesTest, EachOperationPostsItsNumberAndWordsAndIsCarriedOut) {
         seen.insert(row[1]);
         operation->second(m_manager);
         m_master.waitUntilIdle();
-        const std::vector<MSG> messages = std::exchange(m_witness.seen, {});
+        const std::vector<MSG> messages = m_witness.takeSeen();
         ASSERT_EQ(messages.size(), 1u) << row[1];
         EXPECT_EQ(messages[0].message, std::stoul(row[0])) << row[1];
         expectWord(row[2], static_cast<std::int64_t>(messages[0].wParam), row[1]);
@@ -365,12 +331,12 @@ TEST_F(DeskMessagesTest, NumbersWithoutAnOperationDoNothing) {
     }
     m_master.waitUntilIdle();
     EXPECT_EQ(unused, (std::set<UINT>{33218, 33237, 33238, 33262, 33263, 33273}));
-    EXPECT_EQ(m_witness.seen.size(), unused.size());
+    EXPECT_EQ(m_witness.takeSeen().size(), unused.size());
     EXPECT_EQ(m_mirel->takeCalls(), std::vector<std::string>());
     for (const UINT outside : {33217u, 33274u})
         m_master.postMessage(outside, 1, 1);
     m_master.waitUntilIdle();
-    EXPECT_EQ(m_witness.seen.size(), unused.size());
+    EXPECT_EQ(m_witness.takeSeen().size(), 0u);
     m_master.stop();
 }
 
@@ -392,7 +358,7 @@ TEST_F(DeskMessagesTest, WordsBeyondWhatTheyMeanAreTakenByTheirLowPartOrAsTrue) 
 // What a message carries that comes too late is destroyed; the address sanitizer sees what is not.
 TEST_F(DeskMessagesTest, WhatComesAfterTheEndIsDisposedOfAndNotCarriedOut) {
     start();
-    m_master.postMessage(Gate::NUMBER, 0, 0);
+    m_master.postMessage(TestSupport::WorkerGate::NUMBER, 0, 0);
     m_master.postMessage(QUIT_BACKEND_WORKER, 0, 0);
     std::vector<UINT> expected;
     const auto all = operations();
@@ -407,13 +373,9 @@ TEST_F(DeskMessagesTest, WhatComesAfterTheEndIsDisposedOfAndNotCarriedOut) {
         else
             m_master.postMessage(expected.back(), 0, 0);
     }
-    m_gate.open.set();
+    m_gate.open();
     m_master.stop();
-    std::vector<UINT> disposed;
-    for (const MSG& message : m_witness.disposed)
-        if (message.message != QUIT_BACKEND_WORKER)
-            disposed.push_back(message.message);
-    EXPECT_EQ(disposed, expected);
+    EXPECT_EQ(m_witness.getDisposed(), expected);
     EXPECT_EQ(m_mirel->takeCalls(), std::vector<std::string>());
 }
 
