@@ -8,6 +8,7 @@
 #include <chrono>
 #include <future>
 #include <thread>
+#include <utility>
 
 namespace Host::Cli {
 
@@ -84,7 +85,9 @@ ScriptDesk::~ScriptDesk() {
 std::unique_ptr<ObservedMirel> ScriptDesk::createMirel() {
     return std::make_unique<ObservedMirel>(PRODUCT, m_player, [this](const MirelMidiMessage& message) {
         m_player.tellUpdate(message);
-        return m_isStarted.load();
+        if (m_isStarted)
+            m_updates.push_back(message);
+        return false;
     });
 }
 
@@ -180,10 +183,17 @@ void ScriptDesk::postEvent(const MirelMidiMessage& event) {
 }
 
 void ScriptDesk::playSlice(std::int32_t from, std::int32_t to) {
+    m_clock = to;
+    playTimeSlice(from, to);
+    waitUntilResting();
+}
+
+void ScriptDesk::playTimeSlice(std::int32_t from, std::int32_t to) {
     m_player.setSliceFrom(from);
     m_mirel->playTimeSlice(from, to);
-    m_clock = to;
-    waitUntilResting();
+    // During the slice they would be heard of between its events, or after them, as it happens.
+    for (const MirelMidiMessage& update : std::exchange(m_updates, {}))
+        m_mirel->getControls().getMessageManager().postUpdateControl(update);
 }
 
 void ScriptDesk::reset() {
@@ -239,10 +249,8 @@ template <typename Condition>
 void ScriptDesk::playUntil(Condition isDone) {
     while (!isDone()) {
         // Only when nothing else goes on, so that a script always finds the same order of things.
-        if (m_mirel->getMidiEngine().isSliceAwaited() && (engine().isIdle() || engine().isWaitingForReset())) {
-            m_player.setSliceFrom(m_clock);
-            m_mirel->playTimeSlice(m_clock, m_clock);
-        }
+        if (m_mirel->getMidiEngine().isSliceAwaited() && (engine().isIdle() || engine().isWaitingForReset()))
+            playTimeSlice(m_clock, m_clock);
         std::this_thread::yield();
     }
 }
