@@ -355,6 +355,20 @@ TEST_F(DeskMessagesTest, WordsBeyondWhatTheyMeanAreTakenByTheirLowPartOrAsTrue) 
     m_master.stop();
 }
 
+TEST_F(DeskMessagesTest, APackedEventLosesTheChannelInItsStatusUnlessItIsASystemEvent) {
+    start();
+    m_master.postMessage(33248, 0x05643c93, 0xffff01ff);
+    m_master.postMessage(33248, 0x000000f8, 0xffff00ff);
+    m_master.postMessage(33251, 0x7fffffff05ffff81, 0x7fffffff03020501);
+    m_master.waitUntilIdle();
+    EXPECT_EQ(
+        m_mirel->takeCalls(),
+        (std::vector<std::string>{"playMidi 0x90 60 100 ch=-1 out=-1 zone=-1 in=-1 cell=-1,-1 ppq=-1",
+                                  "playMidi 0xf8 0 0 ch=0 out=-1 zone=-1 in=-1 cell=-1,-1 ppq=-1",
+                                  "processMidiInputEvent 0x80 255 255 ch=-1 out=1 zone=3 in=2 cell=-1,-1 ppq=-1"}));
+    m_master.stop();
+}
+
 // What a message carries that comes too late is destroyed; the address sanitizer sees what is not.
 TEST_F(DeskMessagesTest, WhatComesAfterTheEndIsDisposedOfAndNotCarriedOut) {
     start();

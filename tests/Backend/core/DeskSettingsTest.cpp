@@ -197,8 +197,9 @@ TEST(DeskSettingsTest, ThruAndTheGlobalKeyboardAreSetClearedAndInverted) {
     EXPECT_TRUE(passesThru(desk));
     bool keyboard = false;
     bool thru = true;
-    for (const auto state : {OnOffToggle::off, OnOffToggle::off, OnOffToggle::on, OnOffToggle::on, OnOffToggle::toggle,
-                             OnOffToggle::toggle, static_cast<OnOffToggle::State>(77)}) {
+    for (const auto state :
+         {OnOffToggle::off, OnOffToggle::off, OnOffToggle::on, OnOffToggle::on, OnOffToggle::toggle,
+          OnOffToggle::toggle, static_cast<OnOffToggle::State>(77), static_cast<OnOffToggle::State>(-1)}) {
         desk.mirel().getMessageManager().postChangeMidiThru(OnOffToggle(state), true);
         desk.mirel().getMessageManager().postChangeGlobalKeyboard(OnOffToggle(state), true);
         desk.settle();
