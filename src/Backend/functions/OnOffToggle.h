@@ -18,7 +18,7 @@ public:
 
     State getState() const { return m_state; }
 
-    bool applyTo(bool present) const { return m_state == on || (m_state == toggle && !present); }
+    bool applyTo(bool present) const { return m_state == on || (m_state != off && !present); }
 
     std::string toXmlString() const override { return m_state == on ? "on" : m_state == off ? "off" : "toggle"; }
 

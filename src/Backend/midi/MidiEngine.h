@@ -39,6 +39,9 @@ namespace Backend::MidiEngine {
 // operations tagged [locked] are for code that runs under the lock.
 class MidiEngine {
 public:
+    // A slice of this many ppq or more plays nothing. It bounds what a stall or a jump of the tempo costs.
+    static constexpr int MAX_TIME_SLICE = 5000;
+
     // Events beyond this many that wait for their time are dropped; resets never are.
     static constexpr std::size_t MAX_PENDING_MESSAGES = 1 << 20;
 
@@ -133,9 +136,6 @@ public:
     HWND getGuiWindowHandle() const;
 
 private:
-    // A slice of this many ppq or more plays nothing. It bounds what a stall or a jump of the tempo costs.
-    static constexpr int MAX_TIME_SLICE = 5000;
-
     enum class ResetKind { Soft, Hard };
 
     // The steps of a slice.

@@ -8,6 +8,7 @@
 #include <chrono>
 #include <future>
 #include <thread>
+#include <utility>
 
 namespace Host::Cli {
 
@@ -84,7 +85,9 @@ ScriptDesk::~ScriptDesk() {
 std::unique_ptr<ObservedMirel> ScriptDesk::createMirel() {
     return std::make_unique<ObservedMirel>(PRODUCT, m_player, [this](const MirelMidiMessage& message) {
         m_player.tellUpdate(message);
-        return m_isStarted.load();
+        if (m_isStarted)
+            m_updates.push_back(message);
+        return false;
     });
 }
 
@@ -180,11 +183,17 @@ void ScriptDesk::postEvent(const MirelMidiMessage& event) {
 }
 
 void ScriptDesk::playSlice(std::int32_t from, std::int32_t to) {
-    m_player.beginSlice(from);
-    m_mirel->playTimeSlice(from, to);
-    m_player.endSlice();
     m_clock = to;
+    playTimeSlice(from, to);
     waitUntilResting();
+}
+
+void ScriptDesk::playTimeSlice(std::int32_t from, std::int32_t to) {
+    m_player.setSliceFrom(from);
+    m_mirel->playTimeSlice(from, to);
+    // During the slice they would be heard of between its events, or after them, as it happens.
+    for (const MirelMidiMessage& update : std::exchange(m_updates, {}))
+        m_mirel->getControls().getMessageManager().postUpdateControl(update);
 }
 
 void ScriptDesk::reset() {
@@ -252,11 +261,8 @@ bool ScriptDesk::isSliceNeeded(int ownCallers) {
 template <typename Condition>
 void ScriptDesk::playUntil(int ownCallers, Condition isDone) {
     while (!isDone()) {
-        if (isSliceNeeded(ownCallers)) {
-            m_player.beginSlice(m_clock);
-            m_mirel->playTimeSlice(m_clock, m_clock);
-            m_player.endSlice();
-        }
+        if (isSliceNeeded(ownCallers))
+            playTimeSlice(m_clock, m_clock);
         std::this_thread::yield();
     }
 }

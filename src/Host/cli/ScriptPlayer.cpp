@@ -19,22 +19,9 @@ std::string ScriptPlayer::takeOutput() {
     return std::exchange(m_output, std::string());
 }
 
-void ScriptPlayer::beginSlice(std::int32_t from) {
-    const std::lock_guard lock(m_outputLock);
-    m_sliceFrom = from;
-    m_isInSlice = true;
-}
-
-void ScriptPlayer::endSlice() {
-    const std::lock_guard lock(m_outputLock);
-    m_isInSlice = false;
-    m_output += std::exchange(m_later, std::string());
-}
-
 void ScriptPlayer::tell(const std::string& lines) {
     const std::lock_guard lock(m_outputLock);
-    const bool isOfOtherThread = m_isInSlice && Platform::currentThreadId() != m_threadId;
-    (isOfOtherThread ? m_later : m_output) += lines;
+    m_output += lines;
 }
 
 void ScriptPlayer::playMidi(const MirelMidiMessage& message) {

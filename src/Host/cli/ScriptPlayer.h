@@ -22,10 +22,8 @@ public:
 
     explicit ScriptPlayer(Options options);
 
-    // Around each slice: where it begins, in ppq. What other threads tell meanwhile comes after what the slice tells,
-    // so that the same script always prints the same.
-    void beginSlice(std::int32_t from);
-    void endSlice();
+    // Where the slice that plays begins, in ppq.
+    void setSliceFrom(std::int32_t ppq) { m_sliceFrom = ppq; }
 
     // The window, if the script wants to see what it gets.
     HWND getWindowHandle() { return m_options.show || m_options.window ? handle() : nullptr; }
@@ -60,9 +58,7 @@ private:
     std::atomic<char> m_tempoSource = -1;
     std::atomic<std::int32_t> m_sliceFrom = -1;
     std::mutex m_outputLock;
-    bool m_isInSlice = false;
     std::string m_output;
-    std::string m_later;  // What other threads told during the slice.
 };
 
 }
