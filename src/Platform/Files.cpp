@@ -1,5 +1,6 @@
 #include "Platform/Files.h"
 
+#include "Platform/FileNameCase.h"
 #include "Platform/SystemPath.h"
 
 #include <algorithm>
@@ -17,15 +18,23 @@ bool createFolders(const std::string& path) {
     return fs::is_directory(*folder, error);
 }
 
+bool removeEmptyFolder(const std::string& path) {
+    const auto folder = systemPath(path);
+    std::error_code error;
+    return folder && fs::is_directory(*folder, error) && fs::remove(*folder, error);
+}
+
 std::vector<std::string> list(const std::string& folder, const std::string& extension) {
     std::vector<std::string> names;
     const auto path = systemPath(folder);
-    if (!path)
+    const auto wanted = extension.empty() ? std::optional<fs::path>(fs::path()) : systemPath(extension);
+    if (!path || !wanted)
         return names;
     std::error_code error;
     for (fs::directory_iterator entry(*path, error), end; !error && entry != end; entry.increment(error)) {
         std::error_code entryError;
-        if (entry->is_regular_file(entryError) && utf8Path(entry->path().extension()) == extension)
+        const bool isWanted = extension.empty() || isSameFileName(entry->path().extension(), *wanted);
+        if (isWanted && entry->is_regular_file(entryError))
             names.push_back(utf8Path(entry->path().filename()));
     }
     std::sort(names.begin(), names.end());

@@ -32,8 +32,11 @@ bool move(const std::string& from, const std::string& to);
 // [any] Makes the folder and all above it. True if it is there afterwards.
 bool createFolders(const std::string& path);
 
-// [any] Names (without folder, with extension) of the plain files in a folder whose extension is this one (".seq"; case
-// counts), in byte order. Empty if there is no such folder.
+// [any] Removes a folder. False if it was not there, is not empty or could not be removed.
+bool removeEmptyFolder(const std::string& path);
+
+// [any] Names (without folder, with extension) of the plain files in a folder whose extension is this one (".seq"; "" is
+// any), in byte order. Case counts where it does for the system's file names. Empty if there is no such folder.
 std::vector<std::string> list(const std::string& folder, const std::string& extension);
 
 // [any] The size in bytes; nothing if it is no plain file.

@@ -28,6 +28,11 @@ void MessageQueue::close() {
     tellIdleWaiters();
 }
 
+bool MessageQueue::isOpen() const {
+    const std::lock_guard lock(m_mutex);
+    return m_open;
+}
+
 bool MessageQueue::post(UINT message, WPARAM wParam, LPARAM lParam) {
     {
         const std::lock_guard lock(m_mutex);

@@ -26,6 +26,9 @@ public:
     // [any] Refuses posts from now on. What is in the queue stays. A closed queue is idle.
     void close();
 
+    // [any]
+    bool isOpen() const;
+
     // [any] Appends. False, and nothing is kept, if the queue is closed or full.
     bool post(UINT message, WPARAM wParam, LPARAM lParam);
 

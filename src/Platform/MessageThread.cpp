@@ -116,8 +116,8 @@ void MessageThread::join() {
 void MessageThread::stop(UINT message) {
     if (!isRunning())
         return;
-    // A queue that is full is not idle, so an idle one that refuses a post is that of a thread at its end.
-    while (!post(message, 0, 0) && !isIdle())
+    // An open queue that refuses a post is full; a closed one is that of a thread at its end.
+    while (!post(message, 0, 0) && m_state->queue.isOpen())
         sleepMilliseconds(RETRY_MILLISECONDS);
     join();
 }

@@ -34,6 +34,7 @@ constexpr std::array<std::uint16_t, 32> WINDOWS_1252_HIGH = {
 };
 
 constexpr std::uint32_t BAD = 0xFFFFFFFF;
+constexpr std::uint32_t REPLACEMENT = 0xFFFD;
 
 bool isWhiteSpace(char character) {
     return WHITE_SPACE.find(character) != std::string_view::npos;
@@ -79,6 +80,9 @@ public:
         : m_bytes(bytes), m_encoding(encoding), m_bigEndian(bigEndian) {}
 
     bool atEnd() const { return m_position == m_bytes.size(); }
+
+    std::size_t position() const { return m_position; }
+    void setPosition(std::size_t position) { m_position = position; }
 
     std::uint32_t take() {
         switch (m_encoding) {
@@ -275,6 +279,38 @@ std::optional<std::string> decodeXml(std::string_view document) {
     return withoutTrailingSpace(toUtf8(document.substr(declaration->length), *encoding, false));
 }
 
+std::string withXmlCharacters(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    Source source(text, Encoding::UTF_8, false);
+    while (!source.atEnd()) {
+        const std::size_t start = source.position();
+        std::uint32_t character = source.take();
+        // What follows a byte that begins nothing may be whole again.
+        if (character == BAD)
+            source.setPosition(start + 1);
+        if (!isXmlCharacter(character))
+            character = REPLACEMENT;
+        appendUtf8(result, character);
+    }
+    return result;
+}
+
+std::string utf8OrWindows1252(std::string_view bytes) {
+    std::string text;
+    text.reserve(bytes.size());
+    Source source(bytes, Encoding::UTF_8, false);
+    while (!source.atEnd()) {
+        if (source.take() != BAD)
+            continue;
+        Source oldSource(bytes, Encoding::WINDOWS_1252, false);
+        while (!oldSource.atEnd())
+            appendUtf8(text, oldSource.take());
+        return text;
+    }
+    return text.assign(bytes);
+}
+
 namespace {
 
 // Walks over the markup and counts.
@@ -289,7 +325,8 @@ public:
             if (m_position == std::string_view::npos)
                 return true;
             const std::size_t markupStart = m_position;
-            if (++m_nodes > XML_MAX_NODES || !passMarkup() || markupStart - textStart > XML_MAX_RUN ||
+            m_nodes += comes("</") ? 0 : 1;
+            if (m_nodes > XML_MAX_NODES || !passMarkup() || markupStart - textStart > XML_MAX_RUN ||
                 m_position - markupStart > XML_MAX_RUN)
                 return false;
         }

@@ -12,6 +12,13 @@ namespace Platform {
 // unknown, or the bytes are not in it or hold a character that XML doesn't allow.
 std::optional<std::string> decodeXml(std::string_view document);
 
+// [any] UTF-8 text with the replacement character (U+FFFD) for every byte that is none and every character that no
+// document can hold.
+std::string withXmlCharacters(std::string_view text);
+
+// [any] The text itself if it is UTF-8, else what its bytes are in windows-1252.
+std::string utf8OrWindows1252(std::string_view bytes);
+
 // [any] Whether the markup keeps the limits of XmlReader.h and holds no DOCTYPE or other declaration. Finds some of
 // what is not well-formed, leaves the rest to the parser, and takes time in proportion to the length.
 bool xmlKeepsLimits(std::string_view text);

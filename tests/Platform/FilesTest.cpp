@@ -42,6 +42,18 @@ TEST(FilesTest, ReplacedFileReadsBackByteByByte) {
     EXPECT_EQ(entries(folder.path()), 3u) << "nothing temporary stays";
 }
 
+TEST(FilesTest, AFileWithTheLongestNameIsReplaced) {
+    const TemporaryFolder folder;
+    std::string name = "a.bnk";
+    while (name.size() <= 252)
+        name = "\xE3\x83\x94" + name;
+    const std::string path = folder.file(name);
+    ASSERT_TRUE(Files::replace(path, "1"));
+    ASSERT_TRUE(Files::replace(path, "2"));
+    EXPECT_EQ(Files::read(path), "2");
+    EXPECT_EQ(entries(folder.path()), 1u);
+}
+
 TEST(FilesTest, ReadRefusesWhatIsTooLargeOrNoPlainFile) {
     const TemporaryFolder folder;
     const std::string path = folder.file("a");
@@ -141,9 +153,11 @@ TEST(FilesTest, ListGivesPlainFilesOfTheExtensionInByteOrder) {
     }
     ASSERT_TRUE(Files::createFolders(folder.file("folder.seq")));
     std::vector<std::string> expected = {"a.x.seq", "b.seq", UNICODE_NAME};
-    // Where case does not count, "b.seq" and "B.seq" are one file.
+    // Where case does not count, "b.seq" and "B.seq" are one file, and ".SEQ" is the same extension.
     if (entries(folder.path()) == 8)
         expected.insert(expected.begin(), "B.seq");
+    else
+        expected.insert(expected.end() - 1, "c.SEQ");
     EXPECT_EQ(Files::list(folder.path(), ".seq"), expected);
     EXPECT_TRUE(Files::list(folder.file("missing"), ".seq").empty());
     EXPECT_TRUE(Files::list(folder.file("b.seq"), ".seq").empty());

@@ -273,6 +273,7 @@ TEST(XmlReaderTest, AMillionSiblingsAreRead) {
 TEST(XmlReaderTest, NodesOfADocumentAreLimited) {
     EXPECT_EQ(readXml("<a>" + repeated("<b/>", XML_MAX_NODES) + "</a>"), nullptr);
     EXPECT_EQ(readXml("<a>" + repeated("<b c=''/>", XML_MAX_NODES / 2) + "</a>"), nullptr);
+    EXPECT_NE(readXml("<a>" + repeated("<b></b>", XML_MAX_NODES - 1) + "</a>"), nullptr) << "end tags don't count";
 }
 
 TEST(XmlReaderTest, LengthOfARunIsLimited) {

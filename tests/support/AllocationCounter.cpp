@@ -10,13 +10,20 @@ thread_local std::size_t t_count = 0;
 
 }
 
-// The heap of all test programs, so that it can be counted. The array and sized forms come here as well.
+// The heap of all test programs, so that it can be counted. The array and sized forms come here as well. The form that
+// does not throw is the library's own for sorting, and must match.
 void* operator new(std::size_t size) {
     if (t_isCounting)
         ++t_count;
     if (void* memory = std::malloc(size == 0 ? 1 : size))
         return memory;
     throw std::bad_alloc();
+}
+
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    if (t_isCounting)
+        ++t_count;
+    return std::malloc(size == 0 ? 1 : size);
 }
 
 void operator delete(void* memory) noexcept {

@@ -3,7 +3,7 @@
 #include "Backend/core/XmlDocument.h"
 #include "Backend/functions/FunctionFactory.h"
 #include "Backend/functions/NoFunction.h"
-#include "tests/support/TableFile.h"
+#include "tests/support/DataTable.h"
 
 #include <sstream>
 
@@ -21,9 +21,10 @@ std::string element(const std::string& tag, const std::string& attributes) {
 
 std::vector<FunctionRow> readFunctionRows() {
     std::vector<FunctionRow> rows;
-    for (const auto& cells : readTable("functions.txt", 9))
-        rows.push_back({cells[0], cells[1], cells[2], cells[3], std::stoi(cells[4]), cells[5],
-                        element(cells[2], cells[6]), element(cells[2], cells[7]), element(cells[2], cells[8])});
+    for (const auto& cells : readTable("functions.txt"))
+        rows.push_back({cells.at(0), cells.at(1), cells.at(2), cells.at(3), std::stoi(cells.at(4)), cells.at(5),
+                        element(cells.at(2), cells.at(6)), element(cells.at(2), cells.at(7)),
+                        element(cells.at(2), cells.at(8))});
     return rows;
 }
 

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 
@@ -17,8 +18,9 @@ public:
     TemporaryFolder() {
         const auto* test = testing::UnitTest::GetInstance()->current_test_info();
         const std::string base = Platform::utf8Path(std::filesystem::temp_directory_path());
-        const std::string name = std::string("mirel-") + test->test_suite_name() + "-" + test->name() + "-Zo\xC3\xAB-" +
-                                 std::to_string(Platform::currentThreadId());
+        std::string name = std::string("mirel-") + test->test_suite_name() + "-" + test->name() + "-Zo\xC3\xAB-" +
+                           std::to_string(Platform::currentThreadId());
+        std::replace(name.begin(), name.end(), '/', '-');  // In names of tests with parameters.
         m_path = Platform::Files::join(base, name);
         removeAll();
         EXPECT_TRUE(Platform::Files::createFolders(m_path));

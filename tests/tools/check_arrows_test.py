@@ -11,6 +11,7 @@ GOOD = {
     "Platform/win32/Files.cpp": '#include "Platform/Files.h"\n#include <windows.h>\n#ifdef _WIN64\n#endif\n',
     "Backend/core/Mirel.cpp": '#include "Platform/Files.h"\n#include "Gui/MirelGuiIF.h"\n',
     "Gui/Layers/Panel.cpp": '#include "Backend/core/MirelIF.h"\n#include "Gui/Utils/Panel.h"\n#include <windows.h>\n',
+    "Host/common/win32/Midi.cpp": '#include "Host/common/win32/Midi.h"\n#include <windows.h>\n#ifdef _WIN64\n#endif\n',
     "Host/cli/main.cpp": '#include "Gui/MirelGui.h"\n#include "Backend/midi/MidiEngine.h"\n',
 }
 # What a file holds, and what is said of it.
@@ -20,6 +21,8 @@ BAD = {
     "Backend/midi/Zone.cpp": ("#include <windows.h>\n", "windows.h belongs in"),
     "Platform/Thread.cpp": ("#  if defined(_WIN32)\n", "shared code asks which system it is on"),
     "Gui/Zones/Panel.cpp": ('#include "Gui/Layers/Panel.h"\n', "one screen must not know another's Gui/Layers/Panel.h"),
+    "Host/common/Ports.cpp": ("#ifdef __linux__\n", "shared code asks which system it is on"),
+    "Host/common/Player.cpp": ('#include "Host/common/posix/Midi.h"\n', "Host/common/posix/Midi.h is for one system alone"),
     "Gui/MirelGui.cpp": ('#include "Host/common/Host.h"\n', "Gui must not know Host/common/Host.h"),
 }
 

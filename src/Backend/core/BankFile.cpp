@@ -16,6 +16,12 @@ constexpr std::string_view PROGRAM_END = "</Program>";
 constexpr std::string_view BANK_END = "</Bank>";
 constexpr std::string_view EMPTY_PROGRAM = "<Program name=\"Empty\">\n</Program>\n";
 
+// What is added has lines of its own, also where the last line of the bank has no end.
+void addLines(std::string& bank, std::string_view lines) {
+    const bool isLineOpen = !bank.empty() && bank.back() != '\n';
+    bank += Platform::Files::withSystemLineEnds(isLineOpen ? "\n" + std::string(lines) : lines);
+}
+
 // Takes the first line off the text, with its line end.
 std::string_view takeLine(std::string_view& text) {
     const std::size_t end = text.find('\n');
@@ -64,12 +70,14 @@ std::string wrapProgram(const std::string& rootTag, const std::string& programBl
 
 std::string replaceProgram(std::string_view bank, int index, std::string_view programBlock) {
     std::string text = copyUpToProgram(bank, index);
-    text += Platform::Files::withSystemLineEnds(programBlock);
+    addLines(text, programBlock);
     text += getAfterProgram(bank, index);
     return text;
 }
 
-std::string resize(std::string_view bank, int count, int size) {
+std::optional<std::string> resize(std::string_view bank, int count, int size) {
+    if (static_cast<std::int64_t>(size) - count > MAX_ADDED_PROGRAMS)
+        return std::nullopt;
     std::string text;
     for (int programs = 0; !bank.empty();) {
         const std::string_view line = takeLine(bank);
@@ -82,7 +90,8 @@ std::string resize(std::string_view bank, int count, int size) {
     for (int i = count; i < size; ++i)
         added += EMPTY_PROGRAM;
     added += getEndTag(BANK_TAG) + "\n";
-    return text + Platform::Files::withSystemLineEnds(added);
+    addLines(text, added);
+    return text;
 }
 
 }

@@ -2,6 +2,7 @@
 // stay as they are, byte for byte. Every tag of a program block has a line to itself.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,7 +24,10 @@ std::string wrapProgram(const std::string& rootTag, const std::string& programBl
 // stands behind everything.
 std::string replaceProgram(std::string_view bank, int index, std::string_view programBlock);
 
-// [any] The bank with its first size programs, or with empty ones after its count.
-std::string resize(std::string_view bank, int count, int size);
+// More programs than this are not added at once: the bank must remain one that can be read.
+inline constexpr int MAX_ADDED_PROGRAMS = 100000;
+
+// [any] The bank with its first size programs, or with empty ones after its count; nothing if those would be too many.
+std::optional<std::string> resize(std::string_view bank, int count, int size);
 
 }

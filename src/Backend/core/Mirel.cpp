@@ -65,13 +65,6 @@ void Mirel::end() {
     m_registrySettings.saveToRegistry(getSettingsKey());
 }
 
-void Mirel::processMidiInputEvent(const MirelMidiMessage& message) {
-    const int input = message.getInput();
-    if (input >= 0 && static_cast<std::size_t>(input) < m_midiInputPorts.size() &&
-        m_midiInputPorts[static_cast<std::size_t>(input)].enabled)
-        m_display.postAddInputEvent(message);
-}
-
 void Mirel::playMidi(const MirelMidiMessage& message) {
     m_midiEngine.getMessageManager().postPlayMidi(message);
 }

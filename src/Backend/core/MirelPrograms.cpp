@@ -181,7 +181,9 @@ void Mirel::saveToBankFile(const std::string& target, int index, HWND notify) {
     if (!source)
         return;
     // Without the new file the old one is whole, and is what the desk shows again.
-    Files::replace(target, BankFile::replaceProgram(*source, index, writeProgram()));
+    const std::string bank = BankFile::replaceProgram(*source, index, writeProgram());
+    if (bank.size() <= Files::MAX_SIZE)
+        Files::replace(target, bank);
     loadBank(target);
     notifyDone(notify, SAVE_TO_BANK_DONE);
 }
@@ -196,7 +198,9 @@ void Mirel::changeBankSize(int size, HWND notify) {
     const auto bank = Files::read(path);
     if (!bank)
         return;
-    Files::replace(path, BankFile::resize(*bank, count, size));
+    const auto resized = BankFile::resize(*bank, count, size);
+    if (resized && resized->size() <= Files::MAX_SIZE)
+        Files::replace(path, *resized);
     loadBank(path);
     notifyDone(notify, CHANGE_BANK_SIZE_DONE);
 }

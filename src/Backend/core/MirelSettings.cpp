@@ -201,6 +201,12 @@ void Mirel::changeDefaultMidiOutput(const SelectType& type) {
         setDefaultMidiOutput(static_cast<int>(index));
 }
 
+void Mirel::processMidiInputEvent(const MidiEngine::MirelMidiMessage& message) {
+    const char input = message.getInput();
+    if (isPort(m_midiInputPorts, input) && m_midiInputPorts[static_cast<unsigned char>(input)].enabled)
+        m_display.postAddInputEvent(message);
+}
+
 void Mirel::enableMidiInput(int index, bool enabled) {
     if (!isPort(m_midiInputPorts, index))
         return;

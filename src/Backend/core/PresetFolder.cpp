@@ -55,7 +55,10 @@ void PresetFolder::renamePreset(const std::string& oldName, const std::string& n
         return;
     // The list shows the new name even if a file of that name stood in the way.
     Files::move(getPresetPath(oldName), getPresetPath(newName));
-    preset->name = newName;
+    if (find(newName) == m_presets.end())
+        preset->name = newName;
+    else if (newName != oldName)
+        m_presets.erase(preset);
     sort();
 }
 

@@ -4,8 +4,11 @@ namespace Backend {
 
 namespace {
 
+// No system has this many ports; an index beyond is a mistake that must not cost all the memory.
+constexpr int MAX_PORTS = 1 << 16;
+
 void setFlag(std::vector<bool>& flags, int index, bool flag) {
-    if (index < 0)
+    if (index < 0 || index >= MAX_PORTS)
         return;
     const auto place = static_cast<std::size_t>(index);
     flags.resize(place + 1);

@@ -77,7 +77,8 @@ public:
     // Every value by its name, in words.
     std::map<std::string, std::string> describe() const;
 
-    // Also makes the list end with this index, from 0. A negative one changes nothing.
+    // Also makes the list end with this index, from 0. A negative one changes nothing, nor does one of
+    // 65,536 or more.
     void setMidiInputEnabled(int index, bool enabled);
     void setMidiOutputEnabled(int index, bool enabled);
 

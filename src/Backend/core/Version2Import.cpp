@@ -85,20 +85,28 @@ void replaceText(const std::string& path, const std::string& text) {
 }
 
 Version2Import::Components Version2Import::createComponents() {
-    Components components{.keys = {},
-                          .controls = {},
-                          .layers = {},
-                          .tempo = Program::DEFAULT_TEMPO,
-                          .tempoSource = Program::NO_TEMPO_SOURCE};
-    bool useKeyUpMod = false;
-    m_mirel.getComputerInput().readPreset(BASE_PRESET, components.keys, useKeyUpMod);
-    return components;
+    return {.keys = {},
+            .controls = {},
+            .layers = {},
+            .tempo = Program::DEFAULT_TEMPO,
+            .tempoSource = Program::NO_TEMPO_SOURCE};
+}
+
+const ComputerInput::KeyConfigurationMap& Version2Import::getBaseKeys() {
+    if (!m_baseKeys) {
+        m_baseKeys.emplace();
+        bool useKeyUpMod = false;
+        m_mirel.getComputerInput().readPreset(BASE_PRESET, *m_baseKeys, useKeyUpMod);
+    }
+    return *m_baseKeys;
 }
 
 bool Version2Import::readSection(Version2Reader& reader, Components& components) {
     if (reader.isAt(KEYS)) {
-        readVersion2Keys(reader, m_mirel, components.keys);
+        if (!components.hasKeys)
+            components.keys = getBaseKeys();
         components.hasKeys = true;
+        readVersion2Keys(reader, m_mirel, components.keys);
     } else if (reader.isAt(CONTROLS)) {
         readVersion2Controls(reader, components.controls);
     } else if (reader.isAt(LAYERS)) {
@@ -116,8 +124,6 @@ void Version2Import::convertProgram(Version2Reader& reader, std::ostream& stream
     do
         reader.skipBlankLines();
     while (readSection(reader, components));
-    if (!components.hasKeys)
-        components.keys.clear();
     stream << getStartTagBegin(BankFile::PROGRAM_TAG) << getAttributeText("name", header.name)
            << getAttributeText("tempo", components.tempo) << getAttributeText("tempoSource", components.tempoSource)
            << getStartTagEnd() << '\n';
@@ -129,21 +135,24 @@ void Version2Import::convertProgram(Version2Reader& reader, std::ostream& stream
 }
 
 void Version2Import::importBank(const std::string& from, const std::string& to) {
-    auto text = Files::read(from);
+    const auto text = Files::read(from);
     if (!text)
         return;
-    Version2Reader reader(std::move(*text));
+    Version2Reader reader(*text);
     std::ostringstream programs;
-    for (reader.skipBlankLines(); reader.isAt(PROGRAM); reader.skipBlankLines())
+    for (reader.skipBlankLines(); reader.isAt(PROGRAM); reader.skipBlankLines()) {
         convertProgram(reader, programs);
+        if (static_cast<std::uintmax_t>(programs.tellp()) > Files::MAX_SIZE)
+            return;
+    }
     replaceText(to, BankFile::wrapProgram(BankFile::BANK_TAG, programs.str()));
 }
 
 void Version2Import::importProgram(const std::string& from, const std::string& to) {
-    auto text = Files::read(from);
+    const auto text = Files::read(from);
     if (!text)
         return;
-    Version2Reader reader(std::move(*text));
+    Version2Reader reader(*text);
     std::ostringstream program;
     reader.skipBlankLines();
     if (reader.isAt(PROGRAM))
@@ -152,17 +161,15 @@ void Version2Import::importProgram(const std::string& from, const std::string& t
 }
 
 void Version2Import::importPreset(const std::string& from, const std::string& to) {
-    auto text = Files::read(from);
+    const auto text = Files::read(from);
     if (!text || !isUsableFileName(to))
         return;
-    Version2Reader reader(std::move(*text));
+    Version2Reader reader(*text);
     reader.nextLine();
     reader.nextLine();
     Components components = createComponents();
     reader.skipBlankLines();
     readSection(reader, components);
-    if (!components.hasKeys)
-        components.keys.clear();
 
     std::ostringstream preset;
     preset << getXmlHeader() << "\n\n";

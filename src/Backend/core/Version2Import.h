@@ -5,6 +5,7 @@
 #include "Backend/input/KeyConfigurationMap.h"
 #include "Backend/midi/LayerList.h"
 
+#include <optional>
 #include <ostream>
 #include <string>
 
@@ -12,8 +13,8 @@ namespace Backend {
 
 class MirelIF;
 
-// Turns files of version 2 into those of this one. A file that can't be read or written changes nothing; what can't be
-// understood in it takes its default. [backend]
+// Turns files of version 2 into those of this one. A file that can't be read or written, or that would become larger
+// than one that can be read, changes nothing; what can't be understood in it takes its default. [backend]
 class Version2Import {
 public:
     Version2Import(MirelIF& mirel, const SequenceManagement::SequencePresetManager& sequences)
@@ -38,6 +39,9 @@ private:
 
     Components createComponents();
 
+    // Those of the preset on which the keys of a file stand; none if there is no such preset.
+    const ComputerInput::KeyConfigurationMap& getBaseKeys();
+
     // Reads one section, if the reader is at one.
     bool readSection(Version2Reader& reader, Components& components);
 
@@ -45,6 +49,7 @@ private:
 
     MirelIF& m_mirel;
     const SequenceManagement::SequencePresetManager& m_sequences;
+    std::optional<ComputerInput::KeyConfigurationMap> m_baseKeys;  // Once they were read.
 };
 
 }

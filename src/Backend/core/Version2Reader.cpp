@@ -1,6 +1,7 @@
 #include "Backend/core/Version2Reader.h"
 
 #include "Backend/core/Text.h"
+#include "Platform/XmlText.h"
 
 #include <algorithm>
 
@@ -11,6 +12,10 @@ namespace {
 constexpr std::string_view WHITE_SPACE = " \t\r\n\v\f";
 constexpr std::string_view EMPTY_TEXT = "-";
 
+}
+
+Version2Reader::Version2Reader(std::string_view bytes) : m_text(Platform::utf8OrWindows1252(bytes)), m_rest(m_text) {
+    readLine();
 }
 
 void Version2Reader::readLine() {

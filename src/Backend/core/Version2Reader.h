@@ -6,10 +6,10 @@
 
 namespace Backend {
 
-// The lines of a version 2 file.
+// The lines of a version 2 file. Those programs knew no UTF-8; bytes that are none are windows-1252.
 class Version2Reader {
 public:
-    explicit Version2Reader(std::string text) : m_text(std::move(text)), m_rest(m_text) { readLine(); }
+    explicit Version2Reader(std::string_view bytes);
 
     Version2Reader(const Version2Reader&) = delete;
     Version2Reader& operator=(const Version2Reader&) = delete;

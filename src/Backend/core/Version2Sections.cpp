@@ -83,10 +83,12 @@ NoteToggle readToggle(Version2Fields& fields) {
                                                                     : NoteToggle();
 }
 
-// A number or a name.
+// A number or a name; what begins as neither is no note.
 Note readNote(Version2Fields& fields, const Note& defaultNote) {
+    constexpr std::string_view FIRST_CHARACTERS = "0123456789ABCDEFGabcdefg";
     const std::string text = fields.nextText();
-    return text.empty() ? defaultNote : Note(std::string_view(text));
+    const bool isNote = !text.empty() && FIRST_CHARACTERS.find(text.front()) != std::string_view::npos;
+    return isNote ? Note(std::string_view(text)) : defaultNote;
 }
 
 RelativeFixedValue readAmount(Version2Fields& fields) {
@@ -121,10 +123,15 @@ Layers::Layer readLayer(Version2Fields& fields, const SequenceManagement::Sequen
     return layer;
 }
 
+// A section of more records is none that was ever meant; those beyond are passed over.
+constexpr int MAX_RECORDS = 10000;
+
 // Calls read with the fields of each line of a section behind its letter.
 template <class Read>
 void readSection(Version2Reader& reader, char letter, Read read) {
-    for (; reader.isAt(letter); reader.nextLine()) {
+    for (int records = 0; reader.isAt(letter); reader.nextLine()) {
+        if (++records > MAX_RECORDS)
+            continue;
         Version2Fields fields(reader.getLine());
         const std::string_view tag = fields.next();
         read(tag, fields);

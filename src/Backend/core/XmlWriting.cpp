@@ -1,6 +1,7 @@
 #include "Backend/core/XmlWriting.h"
 
 #include "Backend/core/XmlItem.h"
+#include "Platform/XmlText.h"
 
 namespace Backend {
 
@@ -8,6 +9,20 @@ namespace {
 
 std::string attribute(const std::string& name, const std::string& value) {
     return " " + name + "=\"" + value + "\"";
+}
+
+std::string withSpaceReferences(const std::string& text) {
+    std::string result;
+    result.reserve(text.size());
+    for (const char character : text) {
+        switch (character) {
+            case '\t': result += "&#9;"; break;
+            case '\n': result += "&#10;"; break;
+            case '\r': result += "&#13;"; break;
+            default: result += character;
+        }
+    }
+    return result;
 }
 
 }
@@ -61,7 +76,7 @@ std::string getAttributeText(const std::string& name, int value) {
 }
 
 std::string getAttributeText(const std::string& name, const std::string& value) {
-    return attribute(name, escape(value));
+    return attribute(name, withSpaceReferences(escape(Platform::withXmlCharacters(value))));
 }
 
 std::string getAttributeText(const std::string& name, const char* value) {

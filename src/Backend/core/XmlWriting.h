@@ -23,7 +23,8 @@ std::string getEmptyTagEnd();
 std::string getEndTag(const std::string& name);
 
 // A blank and name="value". Numbers are decimal, that of a character the value of its byte with its sign. Strings are
-// escaped, items are not.
+// escaped, items are not. In strings, tabs and line ends become references, which alone survive a reader and leave the
+// tag on one line, and what no document can hold (other control characters, bytes that are no UTF-8) becomes U+FFFD.
 std::string getAttributeText(const std::string& name, bool value);
 std::string getAttributeText(const std::string& name, char value);
 std::string getAttributeText(const std::string& name, signed char value);

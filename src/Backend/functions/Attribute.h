@@ -9,16 +9,23 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 
 namespace Backend::FunctionManagement {
 
 // One parameter: the attribute's name and the member that holds the value.
 template <class Owner, class Value>
 struct Attribute {
+    // missingValue: what a number reads as if the attribute is missing. An optional attribute is left out of the file
+    // when its value is that.
+    Attribute(const char* attributeName, Value Owner::*valueMember, Value missingValue = Value(),
+              bool isLeftOut = false)
+        : name(attributeName), member(valueMember), missing(std::move(missingValue)), isOptional(isLeftOut) {}
+
     const char* name;
     Value Owner::*member;
-    Value missing{};          // What a number reads as if the attribute is missing.
-    bool isOptional = false;  // Left out of the file when it is as if missing.
+    Value missing;
+    bool isOptional;
 };
 
 // Values that are items read a missing attribute as an empty text. Numbers keep their low bits.

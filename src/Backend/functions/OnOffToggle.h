@@ -18,7 +18,6 @@ public:
 
     State getState() const { return m_state; }
 
-    // A state from outside that is none of the three toggles as well.
     bool applyTo(bool present) const { return m_state == on || (m_state != off && !present); }
 
     std::string toXmlString() const override { return m_state == on ? "on" : m_state == off ? "off" : "toggle"; }

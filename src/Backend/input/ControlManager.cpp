@@ -169,7 +169,8 @@ void ControlManager::moveGroup(const Control& source, std::int64_t delta, std::i
     if (delta < 0 && lowest + delta < LOWEST_VALUE) {
         m_groupOvershoot = static_cast<std::int32_t>(lowest - value + delta);
         delta = -lowest;
-    } else if (delta > 0 && highest + delta > HIGHEST_VALUE) {
+    }
+    if (delta > 0 && highest + delta > HIGHEST_VALUE) {
         m_groupOvershoot = static_cast<std::int32_t>(value - highest - delta + HIGHEST_VALUE);
         delta = HIGHEST_VALUE - highest;
     }

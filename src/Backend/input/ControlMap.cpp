@@ -13,6 +13,7 @@ namespace {
 template <class Pointer, class Map>
 std::vector<Pointer> sortByCell(Map& controls) {
     std::vector<Pointer> sorted;
+    sorted.reserve(controls.size());
     for (auto& [cell, control] : controls)
         sorted.push_back(&control);
     std::sort(sorted.begin(), sorted.end(), [](Pointer left, Pointer right) { return left->cell < right->cell; });

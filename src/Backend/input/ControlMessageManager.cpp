@@ -14,8 +14,13 @@ using MidiEngine::MirelMidiMessage;
 
 namespace {
 
-constexpr LPARAM NOTIFY_GUI = 1;
-constexpr LPARAM GUI_FLAG = 1 << 16;
+// Two flags in one word, each a half of it.
+constexpr LPARAM NOTIFY_GUI = 0xffff;
+constexpr LPARAM GUI_FLAG = 0xffff0000;
+
+LPARAM packFlags(bool notifyGui, bool guiFlag) {
+    return (notifyGui ? 1 : 0) | (guiFlag ? 1 << 16 : 0);
+}
 
 }
 
@@ -23,8 +28,7 @@ ControlMessageManager::ControlMessageManager(MessageManagerMaster& master, Contr
     : MessageManager(master), m_controls(controls) {}
 
 void ControlMessageManager::postUpdateControls(const std::vector<Control>& controls, bool notifyGui, bool guiFlag) {
-    m_master.postMessage(UPDATE_CONTROLS, releaseCopy<WPARAM>(controls),
-                         (notifyGui ? NOTIFY_GUI : 0) | (guiFlag ? GUI_FLAG : 0));
+    m_master.postMessage(UPDATE_CONTROLS, releaseCopy<WPARAM>(controls), packFlags(notifyGui, guiFlag));
 }
 
 void ControlMessageManager::postLoadPreset(const std::string& name) {

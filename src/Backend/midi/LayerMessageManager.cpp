@@ -14,11 +14,11 @@ LayerMessageManager::LayerMessageManager(MessageManagerMaster& master, LayerMana
     : MessageManager(master), m_layers(layers) {}
 
 void LayerMessageManager::postUpdateLayers(const std::vector<Layer>& layers, bool notifyGui) {
-    m_master.postMessage(UPDATE_LAYERS, notifyGui, releaseCopy<LPARAM>(layers));
+    m_master.postMessage(UPDATE_LAYERS, releaseCopy<WPARAM>(layers), notifyGui);
 }
 
 void LayerMessageManager::postSetLayerList(const LayerList& layers, bool notifyGui) {
-    m_master.postMessage(Messages::SET_LAYER_LIST, notifyGui, releaseCopy<LPARAM>(layers));
+    m_master.postMessage(Messages::SET_LAYER_LIST, releaseCopy<WPARAM>(layers), notifyGui);
 }
 
 void LayerMessageManager::postLoadPreset(const std::string& name) {
@@ -38,7 +38,7 @@ void LayerMessageManager::postSavePreset(const std::string& name, const std::vec
 }
 
 void LayerMessageManager::postSelectLayers(const std::vector<LayerId>& ids) {
-    m_master.postMessage(SELECT_LAYERS, 0, releaseCopy<LPARAM>(ids));
+    m_master.postMessage(SELECT_LAYERS, releaseCopy<WPARAM>(ids), 0);
 }
 
 bool LayerMessageManager::wantMessage(unsigned int message) {
@@ -47,27 +47,28 @@ bool LayerMessageManager::wantMessage(unsigned int message) {
 
 void LayerMessageManager::handleMessage(const MSG& message) {
     const auto takeText = [](auto word) { return *takePayload<std::string>(word); };
-    const auto takeIds = [&] { return *takePayload<std::vector<LayerId>>(message.lParam); };
     switch (message.message) {
         case UPDATE_LAYERS:
-            m_layers.updateLayers(*takePayload<std::vector<Layer>>(message.lParam), message.wParam != 0);
+            m_layers.updateLayers(*takePayload<std::vector<Layer>>(message.wParam), message.lParam != 0);
             break;
         case Messages::SET_LAYER_LIST:
-            m_layers.setLayerList(*takePayload<LayerList>(message.lParam), message.wParam != 0);
+            m_layers.setLayerList(*takePayload<LayerList>(message.wParam), message.lParam != 0);
             break;
         case LOAD_PRESET: m_layers.loadPreset(takeText(message.lParam)); break;
         case RENAME_PRESET: m_layers.renamePreset(takeText(message.wParam), takeText(message.lParam)); break;
         case DELETE_PRESET: m_layers.deletePreset(takeText(message.lParam)); break;
-        case SAVE_PRESET: m_layers.savePreset(takeText(message.wParam), takeIds()); break;
-        case SELECT_LAYERS: m_layers.selectLayers(takeIds()); break;
+        case SAVE_PRESET:
+            m_layers.savePreset(takeText(message.wParam), *takePayload<std::vector<LayerId>>(message.lParam));
+            break;
+        case SELECT_LAYERS: m_layers.selectLayers(*takePayload<std::vector<LayerId>>(message.wParam)); break;
         default: break;
     }
 }
 
 void LayerMessageManager::disposeMessage(const MSG& message) {
     switch (message.message) {
-        case UPDATE_LAYERS: takePayload<std::vector<Layer>>(message.lParam); break;
-        case Messages::SET_LAYER_LIST: takePayload<LayerList>(message.lParam); break;
+        case UPDATE_LAYERS: takePayload<std::vector<Layer>>(message.wParam); break;
+        case Messages::SET_LAYER_LIST: takePayload<LayerList>(message.wParam); break;
         case LOAD_PRESET:
         case DELETE_PRESET: takePayload<std::string>(message.lParam); break;
         case RENAME_PRESET:
@@ -78,7 +79,7 @@ void LayerMessageManager::disposeMessage(const MSG& message) {
             takePayload<std::string>(message.wParam);
             takePayload<std::vector<LayerId>>(message.lParam);
             break;
-        case SELECT_LAYERS: takePayload<std::vector<LayerId>>(message.lParam); break;
+        case SELECT_LAYERS: takePayload<std::vector<LayerId>>(message.wParam); break;
         default: break;
     }
 }

@@ -9,13 +9,13 @@ namespace Backend::Layers {
 namespace Messages {
 
 enum Number : UINT {
-    UPDATE_LAYERS = 34719,   // w: whether to tell the window; l: heap vector of Layer.
-    SET_LAYER_LIST = 34720,  // w: whether to tell the window; l: heap LayerList.
+    UPDATE_LAYERS = 34719,   // w: heap vector of Layer; l: whether to tell the window.
+    SET_LAYER_LIST = 34720,  // w: heap LayerList; l: whether to tell the window.
     LOAD_PRESET = 34721,     // l: heap string.
     RENAME_PRESET = 34722,   // w: heap string, the old name; l: heap string, the new one.
     DELETE_PRESET = 34723,   // l: heap string.
     SAVE_PRESET = 34724,     // w: heap string; l: heap vector of LayerId, the selected ones.
-    SELECT_LAYERS = 34725,   // l: heap vector of LayerId.
+    SELECT_LAYERS = 34725,   // w: heap vector of LayerId.
 };
 
 }

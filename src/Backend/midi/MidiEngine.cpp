@@ -80,7 +80,8 @@ void MidiEngine::setZoneMap(const Zones::ZoneMap& zones) {
     for (auto& zone : m_zones)
         zone.reset();
     for (const auto& [id, zone] : zones)
-        m_zones[static_cast<unsigned char>(id)] = std::make_unique<PlayingZone>(zone);
+        if (id != MirelMidiMessage::DEFAULT_ZONE)  // Events without a zone are not transposed.
+            m_zones[static_cast<unsigned char>(id)] = std::make_unique<PlayingZone>(zone);
 }
 
 void MidiEngine::setZone(const Zones::Zone& zone) {

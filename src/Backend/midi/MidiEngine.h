@@ -57,11 +57,11 @@ public:
     // [backend] Starts the engine's thread.
     void initialize(int defaultOutput, bool midiThru);
 
-    // [backend] Stops it. Requests that come later are not carried out.
+    // [backend] Stops it. A request that comes later waits for another start.
     void end();
 
     // [player] Plays what is due from one time up to, but not including, another, in ppq. A window that runs backwards
-    // plays a few ticks at both of its ends; one of MAX_TIME_SLICE or more plays nothing.
+    // plays a few ticks at both of its ends; one of 5000 ppq or more plays nothing.
     void playTimeSlice(std::int32_t from, std::int32_t to);
 
     // [any] The ppq time of a host clock at a tempo in beats per minute. Far above 0, as negative times mean none; a
@@ -111,8 +111,9 @@ public:
     // [any; not locked] The same, and then silences the default output.
     void sendHardReset();
 
-    // [any] Whether a reset waits for a slice at this moment.
+    // [any] Whether a reset waits for a slice at this moment, and how many threads are in a call that resets.
     bool isSliceAwaited() const { return m_isSliceAwaited; }
+    int getResetCallers() const { return m_resetCallers; }
 
     // [locked] Queues an event for the next slice.
     void postPlayMidi(const MirelMidiMessage& message);
@@ -190,6 +191,7 @@ private:
     std::mutex m_resetSenders;  // One sender at a time waits for the events below.
     std::atomic<bool> m_hardResetRequested = false;
     std::atomic<bool> m_isSliceAwaited = false;
+    std::atomic<int> m_resetCallers = 0;
     Platform::AutoResetEvent m_resetEvent;
     Platform::AutoResetEvent m_hardResetEvent;
     std::atomic<bool> m_midiPlayerRunning = false;

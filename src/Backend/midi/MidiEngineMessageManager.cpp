@@ -110,11 +110,8 @@ bool MidiEngineMessageManager::currentThreadIsManagerThread() const {
 
 void MidiEngineMessageManager::handleMessage(const MSG& message) {
     // Waits for a time slice, which needs the lock.
-    if (message.message == SET_LAYER_LIST || message.message == RESET_ONLY) {
-        m_isWaitingForReset = true;
+    if (message.message == SET_LAYER_LIST || message.message == RESET_ONLY)
         m_midiEngine.sendReset();
-        m_isWaitingForReset = false;
-    }
 
     CriticalSectionLock lock(m_midiEngine.getCriticalSection());
     if (message.message >= FIRST_REQUEST && message.message <= LAST_REQUEST)

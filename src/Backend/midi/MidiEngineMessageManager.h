@@ -5,7 +5,6 @@
 #include "Backend/midi/Zone.h"
 #include "Platform/MessageThread.h"
 
-#include <atomic>
 #include <vector>
 
 namespace Backend::Layers {
@@ -36,7 +35,8 @@ public:
     // [backend]
     void start();
 
-    // [backend] Returns when the thread has ended. What was posted after this call is dropped.
+    // [backend] Returns when the thread has ended. What was posted after this call is dropped; a post after the end
+    // waits for another start.
     void stop();
 
     // [any] Queues an event for the next time slice, or for its own time if it has one.
@@ -88,9 +88,6 @@ public:
     // [any] Whether there is nothing to do at this moment.
     bool isIdle() const { return m_thread.isIdle(); }
 
-    // [any] Whether its thread waits for a reset, before which it does nothing else.
-    bool isWaitingForReset() const { return m_isWaitingForReset; }
-
     // [engine] Carries one request out. Numbers that are none of its requests are ignored.
     void handleMessage(const MSG& message);
 
@@ -118,7 +115,6 @@ private:
     static void discard(const MSG& message);
 
     MidiEngine& m_midiEngine;
-    std::atomic<bool> m_isWaitingForReset = false;
     Platform::MessageThread m_thread;
 };
 

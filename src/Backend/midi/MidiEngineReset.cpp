@@ -32,11 +32,15 @@ void MidiEngine::hardReset() {
 }
 
 void MidiEngine::sendReset() {
+    ++m_resetCallers;
     sendResetOfKind(ResetKind::Soft);
+    --m_resetCallers;
 }
 
 void MidiEngine::sendHardReset() {
+    ++m_resetCallers;
     sendResetOfKind(ResetKind::Hard);
+    --m_resetCallers;
 }
 
 void MidiEngine::sendResetOfKind(ResetKind kind) {

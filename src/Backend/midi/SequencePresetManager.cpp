@@ -34,7 +34,7 @@ void SequencePresetManager::removeName(const std::string& name) {
 }
 
 Sequence SequencePresetManager::load(const std::string& name) const {
-    if (!isUsableFileName(name))
+    if (m_folder.empty() || !isUsableFileName(name))
         return {};
     const XmlDocument document(filePath(name), true);
     const XmlElement root = document.getRootElement();
@@ -46,7 +46,8 @@ void SequencePresetManager::addSequencePreset(const std::string& name, const std
         return;
     const std::string content = getXmlHeader() + "\n" + getStartTag(Sequence::TAG) + escape(Sequence(text).toString()) +
                                 getEndTag(Sequence::TAG) + "\n";
-    if (Platform::Files::createFolders(m_folder) && Platform::Files::replace(filePath(name), content))
+    if (Platform::Files::createFolders(m_folder) &&
+        Platform::Files::replace(filePath(name), Platform::Files::withSystemLineEnds(content)))
         insertName(name);
 }
 

@@ -16,7 +16,8 @@ class SequencePresetManager {
 public:
     static constexpr const char* EXTENSION = ".seq";
 
-    // The folder that holds the files; its list is read at once. A folder that is missing holds none.
+    // The folder that holds the files; its list is read at once. A folder that is missing holds none, and one without a
+    // name neither holds nor takes any.
     explicit SequencePresetManager(std::string folder);
 
     const SequencePresetList& getSequencePresetList() const { return m_names; }

@@ -24,6 +24,7 @@ namespace {
 
 constexpr std::int32_t BYTE_LOW = -128;
 constexpr std::int32_t BYTE_HIGH = 127;
+constexpr std::int32_t DEFAULT_CHANNEL = -1;
 
 Cell takeCell(ScriptArguments& arguments) {
     const std::string& word = arguments.takeWord("a cell ROW,COL");
@@ -206,7 +207,7 @@ void runMidiIn(const ScriptContext& context) {
     const auto status = context.arguments.takeNumber("the status", 0x80, 0xff);
     const auto d1 = static_cast<char>(context.arguments.takeNumber("the first data byte", 0, BYTE_HIGH));
     const auto d2 = static_cast<char>(context.arguments.takeNumber("the second data byte", 0, BYTE_HIGH));
-    std::int32_t channel = MirelMidiMessage::DEFAULT_CHANNEL;
+    std::int32_t channel = DEFAULT_CHANNEL;
     if (context.arguments.hasMore()) {
         const std::string& word = context.arguments.takeWord("ch=");
         if (!word.starts_with("ch="))

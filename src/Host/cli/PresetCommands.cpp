@@ -11,14 +11,14 @@ using namespace Backend;
 namespace {
 
 Key toId(const std::string& word, const ScriptArguments& arguments, const Key*) {
-    const Key key{std::string_view(word)};
+    Key key{std::string_view(word)};
     if (key.getCode() == Key::NO_KEY)
         arguments.fail("there is no key \"" + word + "\"");
     return key;
 }
 
 Cell toId(const std::string& word, const ScriptArguments& arguments, const Cell*) {
-    const Cell cell{std::string_view(word)};
+    Cell cell{std::string_view(word)};
     if (cell.getRow() < 0 || cell.getColumn() < 0)
         arguments.fail("a cell is ROW,COL, not \"" + word + "\"");
     return cell;

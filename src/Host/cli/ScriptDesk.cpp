@@ -8,6 +8,7 @@
 #include <chrono>
 #include <future>
 #include <thread>
+#include <utility>
 
 namespace Host::Cli {
 
@@ -54,7 +55,7 @@ public:
 
     using MessageManager::MessageManager;
 
-    void post(Action action) { m_master.postMessage(CALL, releaseCopy<WPARAM>(action), 0); }
+    void post(const Action& action) { m_master.postMessage(CALL, releaseCopy<WPARAM>(action), 0); }
 
     bool wantMessage(unsigned int message) override { return message == CALL; }
     void handleMessage(const MSG& message) override { (*takePayload<Action>(message.wParam))(); }
@@ -84,7 +85,9 @@ ScriptDesk::~ScriptDesk() {
 std::unique_ptr<ObservedMirel> ScriptDesk::createMirel() {
     return std::make_unique<ObservedMirel>(PRODUCT, m_player, [this](const MirelMidiMessage& message) {
         m_player.tellUpdate(message);
-        return m_isStarted.load();
+        if (m_isStarted)
+            m_updates.push_back(message);
+        return false;
     });
 }
 
@@ -180,21 +183,31 @@ void ScriptDesk::postEvent(const MirelMidiMessage& event) {
 }
 
 void ScriptDesk::playSlice(std::int32_t from, std::int32_t to) {
-    m_player.setSliceFrom(from);
-    m_mirel->playTimeSlice(from, to);
     m_clock = to;
+    playTimeSlice(from, to);
     waitUntilResting();
 }
 
+void ScriptDesk::playTimeSlice(std::int32_t from, std::int32_t to) {
+    m_player.setSliceFrom(from);
+    m_mirel->playTimeSlice(from, to);
+    // During the slice they would be heard of between its events, or after them, as it happens.
+    for (const MirelMidiMessage& update : std::exchange(m_updates, {}))
+        m_mirel->getControls().getMessageManager().postUpdateControl(update);
+}
+
 void ScriptDesk::reset() {
-    // On a thread of its own, as the slices that it waits for are played here.
-    const auto done = std::async(std::launch::async, [this] { engine().sendReset(); });
-    playUntil([&done] { return done.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
+    runReset([this] { engine().sendReset(); });
 }
 
 void ScriptDesk::hardReset() {
-    const auto done = std::async(std::launch::async, [this] { engine().sendHardReset(); });
-    playUntil([&done] { return done.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
+    runReset([this] { engine().sendHardReset(); });
+}
+
+void ScriptDesk::runReset(const std::function<void()>& request) {
+    // On a thread of its own, as the slices that it waits for are played here.
+    const auto done = std::async(std::launch::async, request);
+    playUntil(1, [&done] { return done.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
 }
 
 void ScriptDesk::post(const std::function<void(MirelIF&)>& request) {
@@ -232,17 +245,24 @@ bool ScriptDesk::isResting() {
 }
 
 void ScriptDesk::waitUntilResting() {
-    playUntil([this] { return isResting(); });
+    playUntil(0, [this] { return isResting(); });
+}
+
+// Whether a slice is all that anybody waits for. Only then the order of things is the same in every run.
+bool ScriptDesk::isSliceNeeded(int ownCallers) {
+    const MidiEngine::MidiEngine& midiEngine = m_mirel->getMidiEngine();
+    if (!midiEngine.isSliceAwaited())
+        return false;
+    const bool isBackendBusy = m_isStarted && !m_mirel->getMessageManagerMaster().isIdle();
+    const int busyThreads = (isBackendBusy ? 1 : 0) + (engine().isIdle() ? 0 : 1) + ownCallers;
+    return midiEngine.getResetCallers() == busyThreads;
 }
 
 template <typename Condition>
-void ScriptDesk::playUntil(Condition isDone) {
+void ScriptDesk::playUntil(int ownCallers, Condition isDone) {
     while (!isDone()) {
-        // Only when nothing else goes on, so that a script always finds the same order of things.
-        if (m_mirel->getMidiEngine().isSliceAwaited() && (engine().isIdle() || engine().isWaitingForReset())) {
-            m_player.setSliceFrom(m_clock);
-            m_mirel->playTimeSlice(m_clock, m_clock);
-        }
+        if (isSliceNeeded(ownCallers))
+            playTimeSlice(m_clock, m_clock);
         std::this_thread::yield();
     }
 }

@@ -76,20 +76,25 @@ private:
     bool isResting();
     void waitUntilResting();
 
-    // Plays empty slices where the clock stands until isDone; what waits for the player's thread needs them.
-    template <typename Condition>
-    void playUntil(Condition isDone);
+    // A slice alone. What the controls hear of they hear after it, so that a script always finds the same order.
+    void playTimeSlice(std::int32_t from, std::int32_t to);
 
-    void sendLayers();
-    void sendInputs();
-    void sendOutputs();
+    bool isSliceNeeded(int ownCallers);
+
+    // Plays empty slices where the clock stands until isDone; what waits for the player's thread needs them.
+    // ownCallers: how many threads of this object wait for a reset.
+    template <typename Condition>
+    void playUntil(int ownCallers, Condition isDone);
+
+    void runReset(const std::function<void()>& request);
 
     ScriptPlayer m_player;
     std::vector<Backend::MidiEngine::MidiInputPort> m_inputs;
     std::vector<Backend::MidiEngine::MidiOutputPort> m_outputs;
     std::unique_ptr<ObservedMirel> m_mirel;
-    std::unique_ptr<BackendCalls> m_calls;  // Of the desk that was started.
-    Backend::Layers::LayerList m_layers;    // Of the engine alone.
+    std::unique_ptr<BackendCalls> m_calls;                         // Of the desk that was started.
+    Backend::Layers::LayerList m_layers;                           // Of the engine alone.
+    std::vector<Backend::MidiEngine::MirelMidiMessage> m_updates;  // Of the slice that plays, on its thread.
     std::atomic<bool> m_isStarted = false;
     std::int32_t m_clock = 0;
 };

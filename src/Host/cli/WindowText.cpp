@@ -77,9 +77,9 @@ std::string takeSize(LPARAM word, const char* what) {
     return std::to_string(takePayload<Collection>(word)->size()) + " " + what;
 }
 
-std::string cellOf(std::int64_t word) {
+Cell cellOf(std::int64_t word) {
     constexpr int COLUMN_BITS = 16;
-    return Cell(static_cast<std::int16_t>(word >> COLUMN_BITS), static_cast<std::int16_t>(word)).toXmlString();
+    return Cell(static_cast<std::int16_t>(word >> COLUMN_BITS), static_cast<std::int16_t>(word));
 }
 
 std::string takeMirelText(UINT message, WPARAM w, LPARAM l) {
@@ -140,10 +140,9 @@ std::string takeControlText(UINT message, WPARAM w, LPARAM l) {
         case CONTROLS_CHANGED:
             return takeList<Control>(l, [](const Control& control) { return control.cell.toXmlString(); });
         case ALL_CONTROLS_CHANGED: return takeSize<ControlMap>(l, "controls");
-        case VALUE_CHANGED: return cellOf(static_cast<std::int64_t>(w)) + " value=" + std::to_string(l);
-        case SELECTED_CHANGED: return cellOf(static_cast<std::int64_t>(w)) + " " + onOff(l != 0);
-        case SET_FOCUS:
-            return SelectControlType(static_cast<SelectControlType::Mode>(w)).toXmlString() + " " + cellOf(l);
+        case VALUE_CHANGED: return cellOf(static_cast<std::int64_t>(w)).toXmlString() + " value=" + std::to_string(l);
+        case SELECTED_CHANGED: return cellOf(static_cast<std::int64_t>(w)).toXmlString() + " " + onOff(l != 0);
+        case SET_FOCUS: return SelectControlType(static_cast<SelectControlType::Mode>(w), cellOf(l)).toXmlString();
         default: return {};
     }
 }

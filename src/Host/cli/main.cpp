@@ -1,6 +1,8 @@
 // The desk without a window.
 #include "Host/cli/ExitStatus.h"
+#include "Host/cli/PortsCommand.h"
 #include "Host/cli/RenderCommand.h"
+#include "Host/cli/RunCommand.h"
 #include "Host/cli/ScriptCommand.h"
 #include "Platform/StandardStreams.h"
 
@@ -19,7 +21,9 @@ struct Command {
 };
 
 constexpr std::array COMMANDS = {
+    Command{"ports", Host::Cli::runPorts, "lists the MIDI inputs and outputs"},
     Command{"render", Host::Cli::runRender, "plays a MIDI file through layers and zones into another MIDI file"},
+    Command{"run", Host::Cli::runRun, "plays in real time on MIDI ports"},
     Command{"script", Host::Cli::runScript, "drives a desk from a text file and prints what it plays"},
 };
 

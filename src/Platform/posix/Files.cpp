@@ -57,12 +57,12 @@ private:
     int m_number;
 };
 
-// A name beside the target that nothing else uses.
+// A path beside the target that nothing else uses. Its name is short, whatever the target's: names have a limit.
 fs::path temporaryPath(const fs::path& target) {
     static std::atomic<unsigned> counter{0};
     for (;;) {
-        const std::string mark = "." + std::to_string(::getpid()) + "-" + std::to_string(counter.fetch_add(1)) + ".tmp";
-        fs::path path = target.native() + mark;
+        const std::string name = "." + std::to_string(::getpid()) + "-" + std::to_string(counter.fetch_add(1)) + ".tmp";
+        fs::path path = target.parent_path() / name;
         std::error_code error;
         if (fs::symlink_status(path, error).type() != fs::file_type::regular)
             return path;

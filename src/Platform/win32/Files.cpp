@@ -58,12 +58,13 @@ private:
     HANDLE m_handle;
 };
 
-// A name beside the target that nothing else uses.
+// A path beside the target that nothing else uses. Its name is short, whatever the target's: names have a limit.
 fs::path temporaryPath(const fs::path& target) {
     static std::atomic<unsigned> counter{0};
     for (;;) {
-        const fs::path path = target.native() + L"." + std::to_wstring(GetCurrentProcessId()) + L"-" +
-                              std::to_wstring(counter.fetch_add(1)) + L".tmp";
+        const std::wstring name =
+            L"." + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(counter.fetch_add(1)) + L".tmp";
+        const fs::path path = target.parent_path() / name;
         if (GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES)
             return path;
     }

@@ -1,5 +1,7 @@
 #include "Backend/core/RegistrySettings.h"
 
+#include "tests/support/TemporaryFolder.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -158,11 +160,102 @@ TEST(RegistrySettingsTest, EachChangedValueIsWrittenUnderItsNameAndReadBack) {
 
     RegistrySettings read(store);
     read.loadFromRegistry(KEY);
-    EXPECT_EQ(read.getDefaultBank(), settings.getDefaultBank());
-    EXPECT_EQ(read.getLastWindowPosition(), settings.getLastWindowPosition());
-    EXPECT_EQ(read.getMidiThru(), settings.getMidiThru());
-    EXPECT_EQ(read.getDefaultMidiOutput(), settings.getDefaultMidiOutput());
-    EXPECT_EQ(read.getClickZoneChannelTranspose(), settings.getClickZoneChannelTranspose());
+    EXPECT_EQ(read.getDefaultBank(), "DefaultBank text");
+    EXPECT_EQ(read.getGlobalKeyboard(), true);
+    EXPECT_EQ(read.getMidiThru(), false);
+    EXPECT_EQ(read.isRetroRecordEnabled(), true);
+    EXPECT_EQ(read.getRetroRecordBufferSize(), 1005);
+    EXPECT_EQ(read.getMidiBufferDir(), "MidiBufferDir text");
+    EXPECT_EQ(read.getLargeDisplayFont(), true);
+    EXPECT_EQ(read.getMouseSensitivity(), 1008);
+    EXPECT_EQ(read.getDockToBottomEdge(), true);
+    EXPECT_EQ(read.getDisplayMidiInputEvents(), true);
+    EXPECT_EQ(read.getDisplayMidiOutputEvents(), false);
+    EXPECT_EQ(read.getDisplayNumbers(), true);
+    EXPECT_EQ(read.getDisplayHeight(), 1013);
+    EXPECT_EQ(read.getLastWindowPosition(), (Rect{1, -2, 3, 40000}));
+    EXPECT_EQ(read.getAlwaysOnTop(), true);
+    EXPECT_EQ(read.getUseSkinBorder(), false);
+    EXPECT_EQ(read.getDefaultMidiOutput(), 1017);
+    EXPECT_EQ(read.getLiteVelocity(), 1018);
+    EXPECT_EQ(read.getLiteChannel(), 1019);
+    EXPECT_EQ(read.getLiteStackNotes(), false);
+    EXPECT_EQ(read.getClickZoneChannelTranspose(), true);
+}
+
+struct Flag {
+    const char* name;
+    bool (RegistrySettings::*get)() const;
+    void (RegistrySettings::*set)(bool);
+};
+
+constexpr Flag FLAGS[] = {
+    {"GlobalKeyboard", &RegistrySettings::getGlobalKeyboard, &RegistrySettings::setGlobalKeyboard},
+    {"MidiThru", &RegistrySettings::getMidiThru, &RegistrySettings::setMidiThru},
+    {"RetroRecordEnabled", &RegistrySettings::isRetroRecordEnabled, &RegistrySettings::setRetroRecordEnabled},
+    {"LargeDisplayFont", &RegistrySettings::getLargeDisplayFont, &RegistrySettings::setLargeDisplayFont},
+    {"DockToBottomEdge", &RegistrySettings::getDockToBottomEdge, &RegistrySettings::setDockToBottomEdge},
+    {"DisplayMidiInputEvents", &RegistrySettings::getDisplayMidiInputEvents,
+     &RegistrySettings::setDisplayMidiInputEvents},
+    {"DisplayMidiOutputEvents", &RegistrySettings::getDisplayMidiOutputEvents,
+     &RegistrySettings::setDisplayMidiOutputEvents},
+    {"DisplayNumbers", &RegistrySettings::getDisplayNumbers, &RegistrySettings::setDisplayNumbers},
+    {"AlwaysOnTop", &RegistrySettings::getAlwaysOnTop, &RegistrySettings::setAlwaysOnTop},
+    {"UseSkinBorder", &RegistrySettings::getUseSkinBorder, &RegistrySettings::setUseSkinBorder},
+    {"LiteStackNotes", &RegistrySettings::getLiteStackNotes, &RegistrySettings::setLiteStackNotes},
+    {"ClickZoneChannelTranspose", &RegistrySettings::getClickZoneChannelTranspose,
+     &RegistrySettings::setClickZoneChannelTranspose},
+};
+
+TEST(RegistrySettingsTest, EachFlagChangesOnItsOwn) {
+    for (const Flag& flag : FLAGS) {
+        MemoryStore store;
+        RegistrySettings settings(store);
+        const bool flipped = !(settings.*flag.get)();
+        (settings.*flag.set)(flipped);
+        settings.saveToRegistry(KEY);
+        EXPECT_EQ(store.keys[KEY], (MemoryStore::Values{{"EnabledMidiInputs", "text "},
+                                                        {"EnabledMidiOutputs", "text "},
+                                                        {flag.name, flipped ? "number 1" : "number 0"}}));
+        RegistrySettings read(store);
+        read.loadFromRegistry(KEY);
+        const RegistrySettings untouched(store);
+        for (const Flag& other : FLAGS)
+            EXPECT_EQ((read.*other.get)(), (untouched.*other.get)() != (other.name == flag.name))
+                << flag.name << ' ' << other.name;
+    }
+}
+
+TEST(RegistrySettingsTest, TheListsOfPortsAreReadEachFromItsOwnText) {
+    MemoryStore store;
+    store.keys[KEY] = {{"EnabledMidiInputs", "text YN"}, {"EnabledMidiOutputs", "text NYY"}};
+    RegistrySettings settings(store);
+    settings.loadFromRegistry(KEY);
+    EXPECT_EQ(settings.getEnabledMidiInputs(), (std::vector<bool>{true, false}));
+    EXPECT_EQ(settings.getEnabledMidiOutputs(), (std::vector<bool>{false, true, true}));
+}
+
+TEST(RegistrySettingsTest, WhatWasSavedOutlivesTheStoreThatTookIt) {
+    const TestSupport::TemporaryFolder folder;
+    {
+        const auto store = Platform::createFileSettingsStore(folder.file("settings"));
+        RegistrySettings settings(*store);
+        settings.loadFromRegistry(KEY);
+        settings.setDefaultBank("a.bnk");
+        settings.setLiteVelocity(5);
+        settings.setAlwaysOnTop(true);
+        settings.setLastWindowPosition(Rect{1, -2, 3, 40000});
+        settings.setMidiInputEnabled(1, true);
+        settings.saveToRegistry(KEY);
+    }
+    const auto store = Platform::createFileSettingsStore(folder.file("settings"));
+    RegistrySettings settings(*store);
+    settings.loadFromRegistry(KEY);
+    EXPECT_EQ(settings.getDefaultBank(), "a.bnk");
+    EXPECT_EQ(settings.getLiteVelocity(), 5);
+    EXPECT_TRUE(settings.getAlwaysOnTop());
+    EXPECT_EQ(settings.getLastWindowPosition(), (Rect{1, -2, 3, 40000}));
+    EXPECT_EQ(settings.getEnabledMidiInputs(), (std::vector<bool>{false, true}));
 }
 
 TEST(RegistrySettingsTest, ARunThatChangesNothingWritesTheTwoListsOfPorts) {

@@ -100,7 +100,6 @@ TEST(TraceTest, LinesGoToTheFileTooWhenAsked) {
         EXPECT_NE(text.find(whole), std::string::npos) << line;
     }
     EXPECT_EQ(debug.texts().size(), 3u);
-    Platform::Files::remove(Platform::debugFilePath());
 }
 
 TEST(TraceTest, LinesOfSeveralThreadsStayWhole) {

@@ -1,5 +1,7 @@
 #include "Backend/core/XmlWriting.h"
 
+#include "Backend/core/XmlDocument.h"
+#include "Backend/core/XmlElement.h"
 #include "Backend/core/XmlItem.h"
 
 #include <gtest/gtest.h>
@@ -58,6 +60,30 @@ TEST(XmlWritingTest, EscapeReplacesFiveCharactersAndKeepsAllOtherBytes) {
     }
     EXPECT_EQ(escape(bytes), bytes);
     EXPECT_EQ(escape(""), "");
+}
+
+TEST(XmlWritingTest, TabsAndLineEndsInAttributesAreReferences) {
+    EXPECT_EQ(getAttributeText("a", std::string("\t1\r\n2\n")), " a=\"&#9;1&#13;&#10;2&#10;\"");
+}
+
+TEST(XmlWritingTest, WhatNoDocumentCanHoldBecomesTheReplacementCharacterInAttributes) {
+    const std::string replacement = "\xEF\xBF\xBD";
+    EXPECT_EQ(getAttributeText("a", std::string("1\0\x01\x1f\x7f", 5)),
+              " a=\"1" + replacement + replacement + replacement + "\x7f\"");
+    EXPECT_EQ(getAttributeText("a", std::string("Zo\xEB\xC3\xAB")), " a=\"Zo" + replacement + "\xC3\xAB\"");
+    EXPECT_EQ(getAttributeText("a", std::string("\xEF\xBF\xBF<\xF0\x9F\x8E\xB9\xF0\x9F")),
+              " a=\"" + replacement + "&lt;\xF0\x9F\x8E\xB9" + replacement + replacement + "\"");
+    EXPECT_EQ(getAttributeText("a", std::string("\xED\xA0\x80")), " a=\"" + replacement + "\"") << "half a pair";
+}
+
+TEST(XmlWritingTest, EveryAttributeThatWasWrittenIsReadBack) {
+    for (int byte = 1; byte < 256; ++byte) {
+        const std::string value(1, static_cast<char>(byte));
+        const XmlDocument document("<A" + getAttributeText("a", value) + "/>", false);
+        ASSERT_TRUE(document.hasRoot()) << byte;
+        const bool canBeHeld = byte == '\t' || byte == '\n' || byte == '\r' || (byte >= ' ' && byte < 0x80);
+        EXPECT_EQ(document.getRootElement().getAttribute("a"), canBeHeld ? value : "\xEF\xBF\xBD") << byte;
+    }
 }
 
 TEST(XmlWritingTest, PiecesMakeAnElement) {

@@ -29,6 +29,12 @@ TEST(SelectTypeTest, AnythingElseIsAnIndex) {
     EXPECT_EQ(SelectType(std::string_view("-3x")).getValue(), -3);
 }
 
+TEST(SelectTypeTest, EqualityComparesModeAndIndex) {
+    EXPECT_EQ(SelectType(SelectType::specific, 7), SelectType(SelectType::specific, 7));
+    EXPECT_NE(SelectType(SelectType::specific, 7), SelectType(SelectType::specific, 8));
+    EXPECT_NE(SelectType(SelectType::up), SelectType(SelectType::down));
+}
+
 TEST(SelectControlTypeTest, EachModeHasItsText) {
     const char* const names[] = {"up", "down", "left", "right", "selected", nullptr, "all"};
     for (int mode = 0; mode <= 6; ++mode) {
@@ -86,6 +92,24 @@ TEST(RelativeFixedValueTest, AppliesAsOffsetOrValue) {
     EXPECT_EQ(RelativeFixedValue(true, INT32_MAX).applyTo(1), INT32_MIN);
 }
 
+TEST(RelativeFixedValueTest, EqualityComparesKindAndAmount) {
+    EXPECT_EQ(RelativeFixedValue(true, 5), RelativeFixedValue(true, 5));
+    EXPECT_NE(RelativeFixedValue(true, 5), RelativeFixedValue(false, 5));
+    EXPECT_NE(RelativeFixedValue(true, 5), RelativeFixedValue(true, 6));
+    EXPECT_EQ(RelativeFixedValue(), RelativeFixedValue(true, 0));
+}
+
+TEST(OnOffToggleTest, ADefaultOneToggles) {
+    EXPECT_EQ(OnOffToggle().getState(), 2);
+}
+
+TEST(OnOffToggleTest, EqualityComparesTheState) {
+    constexpr OnOffToggle::State STATES[] = {OnOffToggle::on, OnOffToggle::off, OnOffToggle::toggle};
+    for (const auto left : STATES)
+        for (const auto right : STATES)
+            EXPECT_EQ(OnOffToggle(left) == OnOffToggle(right), left == right) << left << ' ' << right;
+}
+
 TEST(OnOffToggleTest, AnythingButOnAndOffToggles) {
     EXPECT_EQ(OnOffToggle(std::string_view("on")).getState(), 0);
     EXPECT_EQ(OnOffToggle(std::string_view("off")).getState(), 1);
@@ -102,6 +126,17 @@ TEST(OnOffToggleTest, AppliesToAFlag) {
         EXPECT_EQ(OnOffToggle(OnOffToggle::toggle).applyTo(flag), !flag);
         EXPECT_EQ(OnOffToggle(static_cast<OnOffToggle::State>(7)).applyTo(flag), !flag);
     }
+}
+
+TEST(NoteToggleTest, ADefaultOneIsOff) {
+    EXPECT_EQ(NoteToggle().getState(), 0);
+}
+
+TEST(NoteToggleTest, EqualityComparesTheState) {
+    constexpr NoteToggle::State STATES[] = {NoteToggle::off, NoteToggle::type1, NoteToggle::type2};
+    for (const auto left : STATES)
+        for (const auto right : STATES)
+            EXPECT_EQ(NoteToggle(left) == NoteToggle(right), left == right) << left << ' ' << right;
 }
 
 TEST(NoteToggleTest, AnythingButTheTwoTypesIsOff) {

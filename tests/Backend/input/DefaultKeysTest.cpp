@@ -2,9 +2,9 @@
 #include "Backend/core/XmlDocument.h"
 #include "Backend/input/DefaultXml.h"
 #include "Backend/input/KeyConfigurationMap.h"
+#include "tests/support/DataTable.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/FunctionRows.h"
-#include "tests/support/TableFile.h"
 
 #include <gtest/gtest.h>
 
@@ -31,11 +31,12 @@ protected:
 };
 
 TEST_F(DefaultKeysTest, EachKeyDoesWhatTheTableSays) {
-    const auto rows = TestSupport::readTable("default-keys.txt", 4);
+    const auto rows = TestSupport::readTable("default-keys.txt");
     ASSERT_EQ(rows.size(), KEYS);
     ASSERT_EQ(m_keys.size(), KEYS);
     for (const auto& row : rows) {
         SCOPED_TRACE(row[0]);
+        ASSERT_EQ(row.size(), 4u);
         const KeyConfiguration* key = m_keys.find(Key(std::string_view(row[0])));
         ASSERT_TRUE(key);
         EXPECT_TRUE(key->isGlobal());
@@ -67,7 +68,7 @@ TEST_F(DefaultKeysTest, TheElementReplacesAndIgnoresModifiersOfReleases) {
 }
 
 TEST_F(DefaultKeysTest, AllNamedKeysReachTheDesk) {
-    for (const auto& row : TestSupport::readTable("default-keys.txt", 4))
+    for (const auto& row : TestSupport::readTable("default-keys.txt"))
         EXPECT_TRUE(row[0].empty() || Key(std::string_view(row[0])).isAvailable()) << row[0];
 }
 

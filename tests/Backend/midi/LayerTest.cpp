@@ -125,6 +125,29 @@ TEST(LayerTest, CopiesAreDeep) {
     EXPECT_EQ(assigned.arpeggio->toString(), layer.arpeggio->toString());
 }
 
+TEST(LayerTest, CopiesAreSelectedAndSoloedLikeTheOriginal) {
+    for (const bool flag : {false, true}) {
+        Layer layer;
+        layer.selected = flag;
+        layer.solo = !flag;
+        const Layer copy(layer);
+        EXPECT_EQ(copy.selected, flag);
+        EXPECT_EQ(copy.solo, !flag);
+    }
+}
+
+TEST(LayerTest, SelectionAndSoloAreNeitherReadNorWritten) {
+    const Layer read = readLayer("<Layer selected='true' solo='true' id='5'/>");
+    EXPECT_FALSE(read.selected);
+    EXPECT_FALSE(read.solo);
+    EXPECT_EQ(read.id, 0);
+    LayerList layers = TestSupport::readLayers("<Layers><Layer/></Layers>");
+    const std::string plain = write(layers);
+    layers.find(LayerId{0})->selected = true;
+    layers.find(LayerId{0})->solo = true;
+    EXPECT_EQ(write(layers), plain);
+}
+
 TEST(LayerTest, DescribingTextHasAPartForEachThingThatIsSet) {
     struct Row {
         const char* layer;

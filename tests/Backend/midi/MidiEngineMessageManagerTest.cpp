@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <thread>
 
 namespace Backend::MidiEngine {
@@ -78,13 +79,14 @@ TEST_F(MidiEngineMessageManagerTest, RequestsForTheHostReachIt) {
     manager().postEnableMidiInput(1, true);
     manager().postEnableMidiInput(0, false);
     manager().postEnableMidiOutput(2, true);
+    manager().postEnableMidiOutput(3, false);
     manager().postSetTempo(19);
     manager().postSetTempo(251);
     manager().postSetTempoSource(-1);
     manager().postSetTempoSource(3);
     manager().waitUntilIdle();
-    EXPECT_EQ(host.calls,
-              (std::vector<std::string>{"input 1 on", "input 0 off", "output 2 on", "tempo 19", "tempo 251"}));
+    EXPECT_EQ(host.calls, (std::vector<std::string>{"input 1 on", "input 0 off", "output 2 on", "output 3 off",
+                                                    "tempo 19", "tempo 251"}));
     EXPECT_EQ(host.tempoSource, 3);
     EXPECT_EQ(host.tempoSourceChanges, 2);
 }
@@ -139,6 +141,18 @@ TEST_F(MidiEngineMessageManagerTest, TheReservedNumberIsAResetAndNothingElse) {
 
 TEST_F(MidiEngineMessageManagerTest, OnlyItsThreadIsTheManagersThread) {
     EXPECT_FALSE(manager().currentThreadIsManagerThread());
+    struct AskingHost : TestSupport::FakeHost {
+        void setTempo(int) override { answer = asked->currentThreadIsManagerThread(); }
+        MidiEngineMessageManager* asked = nullptr;
+        std::optional<bool> answer;
+    } otherHost;
+    const auto other = std::make_unique<MidiEngine>(otherHost.mirel(), otherHost);
+    otherHost.asked = &other->getMessageManager();
+    other->initialize(0, false);
+    other->getMessageManager().postSetTempo(100);
+    other->end();
+    EXPECT_EQ(otherHost.answer, true);
+    EXPECT_FALSE(other->getMessageManager().currentThreadIsManagerThread());
 }
 
 TEST_F(MidiEngineMessageManagerTest, PostsBeforeTheStartAreCarriedOutAfterIt) {

@@ -36,6 +36,39 @@ TEST_F(MidiEngineTest, FirstStartTimeWins) {
     EXPECT_EQ(engine->getStartTime(), -1);
 }
 
+TEST_F(MidiEngineTest, AResetClearsTheStartTime) {
+    engine->setStartTime(50);
+    engine->sendReset();
+    EXPECT_EQ(engine->getStartTime(), -1);
+}
+
+TEST_F(MidiEngineTest, ThruIsWhatItWasStartedWith) {
+    for (const bool thru : {true, false}) {
+        engine->end();
+        engine->initialize(0, thru);
+        host.played.clear();
+        post(MirelMidiMessage(MidiMessage::NoteOn, 60, 100, 3, 0, -1, 0, -1));
+        engine->playTimeSlice(0, 1);
+        engine->playTimeSlice(1, 2);
+        EXPECT_EQ(host.played.size(), thru ? 1u : 0u);
+    }
+}
+
+TEST_F(MidiEngineTest, ChannelsBeyondTheLastPlayNothingButTheByteOfNone) {
+    setLayers("<Layers><Layer/></Layers>");
+    constexpr std::int64_t NO_ROUTING = 0xFFFF00FF;       // No output, zone or input, yet a channel of its own.
+    constexpr std::int64_t DEFAULT_ROUTING = 0xFFFF01FF;  // Not even that, so it goes through the layers.
+    for (const std::int64_t routing : {NO_ROUTING, DEFAULT_ROUTING}) {
+        for (std::uint64_t channel = 0; channel < 256; ++channel) {
+            host.played.clear();
+            post(MirelMidiMessage(channel << 24 | 0x643C90, routing));
+            engine->playTimeSlice(0, 1);
+            engine->playTimeSlice(1, 2);
+            EXPECT_EQ(host.played.size(), channel < 16 || channel == 255 ? 1u : 0u) << channel;
+        }
+    }
+}
+
 TEST_F(MidiEngineTest, StartTimeStaysWhileAnArpeggioPlays) {
     setLayers("<Layers><Layer><Arpeggio><UpArpeggio/></Arpeggio></Layer></Layers>");
     post(MidiMessage::NoteOn, 60, 100);
@@ -189,14 +222,38 @@ TEST_F(MidiEngineTest, EventsOfManyThreadsAllArriveInTheOrderOfEach) {
     EXPECT_EQ(host.played.size(), std::size_t{THREADS} * EVENTS);
 }
 
+// A window that takes what is shown to it.
+struct Window : Platform::WindowSink {
+    void windowMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
+        EXPECT_EQ(message, 33254u);
+        shown.emplace_back(std::uint64_t{wParam}, std::int64_t{lParam});
+    }
+    std::vector<MirelMidiMessage> shown;
+};
+
+TEST_F(MidiEngineTest, OnlyALayerWithoutAChannelPlaysOnTheDefaultChannel) {
+    Window window;
+    host.setWindow(window.handle());
+    setLayers("<Layers><Layer channel='-1'/><Layer channel='0'/></Layers>");
+    post(MidiMessage::NoteOn, 60, 100);                                                 // Through the layers.
+    post(MirelMidiMessage(MidiMessage::NoteOn, 61, 100, -1, 1, -1, -1, -1));            // Past them by its output.
+    post(MirelMidiMessage(MidiMessage::NoteOn, 62, 100, 0, -1, -1, -1, -1));            // By its channel.
+    post(MirelMidiMessage(MidiMessage::ControllerChange, 7, 100, -1, -1, -1, -1, -1));  // Once for both layers.
+    engine->playTimeSlice(0, 1);
+    engine->playTimeSlice(1, 2);
+    const bool expected[] = {true, false, false, false, true};
+    ASSERT_EQ(host.played.size(), std::size(expected));
+    ASSERT_EQ(window.shown.size(), std::size(expected));
+    for (std::size_t i = 0; i < std::size(expected); ++i) {
+        EXPECT_EQ(host.played[i].isDefaultChannel(), expected[i]) << i;
+        EXPECT_EQ(host.played[i].getChannel(), 0) << i;
+        EXPECT_EQ(window.shown[i].isDefaultChannel(), expected[i]) << i;
+    }
+    host.setWindow(nullptr);
+}
+
 TEST_F(MidiEngineTest, ShownEventsGoToTheWindowAsTheyGoTo) {
-    struct Window : Platform::WindowSink {
-        void windowMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
-            EXPECT_EQ(message, 33254u);
-            shown.emplace_back(std::uint64_t{wParam}, std::int64_t{lParam});
-        }
-        std::vector<MirelMidiMessage> shown;
-    } window;
+    Window window;
     host.setWindow(window.handle());
     setLayers("<Layers><Layer channel='4' output='1'/></Layers>");
     post(MidiMessage::NoteOn, 60, 100);
@@ -206,7 +263,18 @@ TEST_F(MidiEngineTest, ShownEventsGoToTheWindowAsTheyGoTo) {
     EXPECT_EQ(window.shown[0].getChannel(), 4);
     EXPECT_EQ(window.shown[0].getOutput(), 1);
     host.setWindow(nullptr);
-    engine->playTimeSlice(2, 3);
+}
+
+TEST_F(MidiEngineTest, NothingIsShownWithoutAWindow) {
+    Window window;
+    host.setWindow(window.handle());
+    setLayers("<Layers><Layer/></Layers>");
+    post(MidiMessage::NoteOn, 60, 100);
+    host.setWindow(nullptr);
+    engine->playTimeSlice(0, 1);
+    engine->playTimeSlice(1, 2);
+    EXPECT_EQ(host.played.size(), 1u);
+    EXPECT_TRUE(window.shown.empty());
 }
 
 TEST_F(MidiEngineTest, KeysThatNeverGoUpDoNotFillTheMemory) {

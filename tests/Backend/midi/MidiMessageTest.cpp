@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <iterator>
@@ -159,6 +160,40 @@ TEST(MidiMessageTest, TestsTellTheKind) {
     EXPECT_FALSE(message(0xB0, 1).isBankMsb());
 }
 
+TEST(MidiMessageTest, EachTestIsTrueForItsStatusOnly) {
+    struct Row {
+        bool (MidiMessage::*test)() const;
+        std::vector<std::uint32_t> statuses;
+    };
+    const Row rows[] = {
+        {&MidiMessage::isNote, {0x80, 0x90}},    {&MidiMessage::isNoteOff, {0x80}},
+        {&MidiMessage::isNoteOn, {0x90}},        {&MidiMessage::isControllerChange, {0xB0}},
+        {&MidiMessage::isProgramChange, {0xC0}}, {&MidiMessage::isChannelPressure, {0xD0}},
+        {&MidiMessage::isPitchBend, {0xE0}},     {&MidiMessage::isSongPosition, {0xF2}},
+        {&MidiMessage::isSongSelect, {0xF3}},    {&MidiMessage::isUnofficialBusSelect, {0xF5}},
+        {&MidiMessage::isTimingTick, {0xF8}},    {&MidiMessage::isSystemReset, {0xFF}},
+    };
+    for (std::size_t i = 0; i < std::size(rows); ++i)
+        for (const EventRow& event : EVENTS)
+            EXPECT_EQ((message(event.status).*rows[i].test)(),
+                      std::count(rows[i].statuses.begin(), rows[i].statuses.end(), event.status) == 1)
+                << i << ' ' << event.name;
+}
+
+TEST(MidiMessageTest, ControllersWithTestsAreToldByStatusAndNumber) {
+    struct Row {
+        bool (MidiMessage::*test)() const;
+        int number;
+    };
+    for (const Row& row :
+         {Row{&MidiMessage::isBankMsb, 0}, Row{&MidiMessage::isBankLsb, 32}, Row{&MidiMessage::isAllSoundOff, 120}}) {
+        for (int number = 0; number < 256; ++number)
+            EXPECT_EQ((message(0xB0, number).*row.test)(), number == row.number) << number;
+        for (const EventRow& event : EVENTS)
+            EXPECT_EQ((message(event.status, row.number).*row.test)(), event.status == 0xB0) << event.name;
+    }
+}
+
 TEST(MidiMessageTest, WordHoldsChannelD2D1Status) {
     MidiMessage event = message(0x90, 60, 100, 3);
     EXPECT_EQ(event.getWparam(), 0x03643C90u);
@@ -216,7 +251,11 @@ TEST(MidiMessageTest, TextReadsBack) {
 }
 
 TEST(MidiMessageTest, TextThatMakesNoSenseGivesDefaults) {
-    EXPECT_EQ(MidiMessage(std::string("note on,60")).getStatus(), 0u);
+    // An unknown name makes no event, whatever its number says.
+    const MidiMessage unknown(std::string("note on,60"));
+    EXPECT_EQ(unknown.getStatus(), 0u);
+    EXPECT_EQ(unknown.getD1(), 60);
+    EXPECT_FALSE(unknown.isValid());
     EXPECT_EQ(MidiMessage(std::string("")).getStatus(), 0u);
     EXPECT_EQ(MidiMessage(std::string("Note On ,60")).getStatus(), 0u);
     EXPECT_EQ(MidiMessage(std::string("Note On,x")).getD1(), 0);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
+
 namespace Backend::MidiEngine {
 namespace {
 
@@ -51,6 +53,60 @@ TEST(MirelMidiMessageTest, SetChannelKeepsAnyChannelAndFollowsItsSign) {
     EXPECT_TRUE(message.isDefaultChannel());
     message.setChannel(0);
     EXPECT_FALSE(message.isDefaultChannel());
+}
+
+TEST(MirelMidiMessageTest, SetDefaultChannelChangesOnlyTheFlag) {
+    MirelMidiMessage message(MidiMessage::NoteOn, 60, 100, 3, 4, 5, 6, 700);
+    message.setDefaultChannel(true);
+    EXPECT_TRUE(message.isDefaultChannel());
+    EXPECT_EQ(message.getChannel(), 3);
+    message.setDefaultChannel(false);
+    EXPECT_FALSE(message.isDefaultChannel());
+    EXPECT_EQ(message.getMidiMessage(), MidiMessage(MidiMessage::NoteOn, 60, 100, 3));
+    EXPECT_EQ(message.getLparam(), 0x05060004);
+}
+
+TEST(MirelMidiMessageTest, OutputIsDefaultAtMinusOneOnly) {
+    MirelMidiMessage message;
+    for (int output = -128; output < 128; ++output) {
+        message.setOutput(static_cast<char>(output));
+        EXPECT_EQ(message.isDefaultOutput(), output == -1) << output;
+    }
+}
+
+TEST(MirelMidiMessageTest, QuestionsAboutTheEventAreAnsweredByIt) {
+    using Outer = bool (MirelMidiMessage::*)() const;
+    using Inner = bool (MidiMessage::*)() const;
+    struct Row {
+        Outer outer;
+        Inner inner;
+    };
+    const Row rows[] = {
+        {&MirelMidiMessage::hasParameters, &MidiMessage::hasParameters},
+        {&MirelMidiMessage::isNote, &MidiMessage::isNote},
+        {&MirelMidiMessage::isNoteOn, &MidiMessage::isNoteOn},
+        {&MirelMidiMessage::isNoteOff, &MidiMessage::isNoteOff},
+        {&MirelMidiMessage::isControllerChange, &MidiMessage::isControllerChange},
+        {&MirelMidiMessage::isProgramChange, &MidiMessage::isProgramChange},
+        {&MirelMidiMessage::isChannelPressure, &MidiMessage::isChannelPressure},
+        {&MirelMidiMessage::isPitchBend, &MidiMessage::isPitchBend},
+        {&MirelMidiMessage::isSongSelect, &MidiMessage::isSongSelect},
+        {&MirelMidiMessage::isUnofficialBusSelect, &MidiMessage::isUnofficialBusSelect},
+        {&MirelMidiMessage::isTimingTick, &MidiMessage::isTimingTick},
+    };
+    for (std::uint32_t status = 0x80; status <= 0xFF; ++status) {
+        const MidiMessage event(static_cast<MidiMessage::MessageType>(status), 60, 100, 0);
+        MirelMidiMessage message;
+        message.setMidiMessage(event);
+        for (std::size_t i = 0; i < std::size(rows); ++i)
+            EXPECT_EQ((message.*rows[i].outer)(), (event.*rows[i].inner)()) << i << ' ' << status;
+        EXPECT_EQ(message.getMessageType(), event.getStatus());
+        EXPECT_EQ(message.getStatus(), event.getStatus());
+        EXPECT_EQ(message.getEventName(), event.getEventName());
+        EXPECT_EQ(message.getStatusWithChannel(), event.getStatusWithChannel());
+        EXPECT_EQ(message.getMidiOutShortMsg(), event.getMidiOutShortMsg());
+        EXPECT_EQ(message.getWparam(), event.getWparam());
+    }
 }
 
 TEST(MirelMidiMessageTest, SetStatusStoresItsArgumentUnchanged) {
@@ -133,6 +189,7 @@ TEST(MirelMidiMessageTest, ResetRequestsAreMarked) {
     EXPECT_TRUE(MirelMidiMessage::createMirelReset().isMirelReset());
     EXPECT_FALSE(MirelMidiMessage::createMirelReset().isMirelHardReset());
     EXPECT_TRUE(MirelMidiMessage::createMirelHardReset().isMirelHardReset());
+    EXPECT_FALSE(MirelMidiMessage::createMirelHardReset().isMirelReset());
 }
 
 TEST(MirelMidiMessageTest, TimedFromZeroOn) {

@@ -1,14 +1,17 @@
 #include "Backend/midi/SequencePresetManager.h"
 
+#include "Backend/core/XmlDocument.h"
+#include "Backend/core/XmlElement.h"
 #include "Backend/midi/OldPresets.h"
 #include "Backend/midi/SequencePresetNames.h"
 #include "Backend/midi/SequenceSetting.h"
 #include "Platform/Files.h"
+#include "tests/support/CurrentFolder.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <set>
+#include <sstream>
 
 namespace Backend::SequenceManagement {
 namespace {
@@ -17,6 +20,11 @@ class SequencePresetManagerTest : public testing::Test {
 protected:
     std::string content(const std::string& name) const {
         return Platform::Files::read(m_folder.file(name + ".seq")).value_or("(none)");
+    }
+
+    SequenceSetting readSetting(const std::string& xml) const {
+        const XmlDocument document(xml, false);
+        return SequenceSetting(document.getRootElement(), m_presets);
     }
 
     TestSupport::TemporaryFolder m_folder;
@@ -28,7 +36,8 @@ TEST_F(SequencePresetManagerTest, AddedPresetsAreFilesInASortedList) {
     m_presets.addSequencePreset("a", "0,12|7 V5");
     m_presets.addSequencePreset("b", "0,12");
     EXPECT_EQ(m_presets.getSequencePresetList(), (SequencePresetList{"a", "b"}));
-    EXPECT_EQ(content("a"), "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<Sequence>0,12|7 V5</Sequence>\n");
+    EXPECT_EQ(content("a"), Platform::Files::withSystemLineEnds(
+                                "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<Sequence>0,12|7 V5</Sequence>\n"));
     EXPECT_EQ(m_presets.load("b").toString(), "0,12");
     EXPECT_EQ(SequencePresetManager(m_folder.path()).getSequencePresetList(), (SequencePresetList{"a", "b"}));
 }
@@ -76,6 +85,42 @@ TEST_F(SequencePresetManagerTest, NamesThatLeadElsewhereAreRefused) {
     EXPECT_TRUE(Platform::Files::list(m_folder.path(), ".seq").empty());
 }
 
+TEST_F(SequencePresetManagerTest, TheListIsSortedByNameNotByFile) {
+    m_presets.addSequencePreset("a", "0");
+    m_presets.addSequencePreset("a b", "1");  // "a b.seq" stands before "a.seq".
+    SequencePresetManager reopened(m_folder.path());
+    EXPECT_EQ(reopened.getSequencePresetList(), (SequencePresetList{"a", "a b"}));
+    reopened.deleteSequencePreset("a");
+    EXPECT_EQ(content("a"), "(none)");
+    reopened.deleteSequencePreset("a b");
+    EXPECT_EQ(content("a b"), "(none)");
+    EXPECT_TRUE(reopened.getSequencePresetList().empty());
+}
+
+TEST_F(SequencePresetManagerTest, NamesThatLeadElsewhereAreNotRead) {
+    const std::string inside = m_folder.file("inside");
+    ASSERT_TRUE(Platform::Files::createFolders(Platform::Files::join(inside, "a")));
+    for (const char* file : {"outside.seq", "inside/a/b.seq"})
+        ASSERT_TRUE(Platform::Files::replace(m_folder.file(file), "<Sequence>0</Sequence>"));
+    EXPECT_TRUE(SequencePresetManager(m_folder.path()).load("outside").hasNodes());
+    const SequencePresetManager presets(inside);
+    for (const char* name : {"../outside", "..\\outside", "a/b", "a\\b"})
+        EXPECT_FALSE(presets.load(name).hasNodes()) << name;
+}
+
+TEST_F(SequencePresetManagerTest, AFolderWithoutANameHoldsAndTakesNone) {
+    m_presets.addSequencePreset("a", "0");
+    const TestSupport::CurrentFolder there(m_folder.path());
+    SequencePresetManager presets("");
+    EXPECT_TRUE(presets.getSequencePresetList().empty());
+    EXPECT_FALSE(presets.load("a").hasNodes());
+    presets.addSequencePreset("b", "0");
+    presets.deleteSequencePreset("a");
+    EXPECT_TRUE(presets.getSequencePresetList().empty());
+    EXPECT_EQ(content("b"), "(none)");
+    EXPECT_NE(content("a"), "(none)");
+}
+
 TEST_F(SequencePresetManagerTest, NamesBeyondAsciiSurvive) {
     const std::string name = "Zo\xC3\xAB \xE2\x80\x93 \xE3\x83\x94\xE3\x82\xA2\xE3\x83\x8E \xF0\x9F\x8E\xB9";
     m_presets.addSequencePreset(name, "0,3");
@@ -106,6 +151,50 @@ TEST_F(SequencePresetManagerTest, ASettingOfAPresetHasItsSequence) {
     EXPECT_TRUE(SequenceSetting().getUseNote());
     EXPECT_TRUE(SequenceSetting().getUseVelocity());
     EXPECT_FALSE(SequenceSetting().getUseLength());
+}
+
+TEST_F(SequencePresetManagerTest, AnElementWithAPresetTakesItsFileAndIgnoresItsChild) {
+    m_presets.addSequencePreset("a", "0,12");
+    const SequenceSetting setting =
+        readSetting("<SequenceSetting preset=' a '><Sequence>7</Sequence></SequenceSetting>");
+    EXPECT_EQ(setting.getPreset(), "a");
+    EXPECT_EQ(setting.getSequence().toString(), "0,12");
+    EXPECT_FALSE(readSetting("<SequenceSetting preset='none'><Sequence>7</Sequence></SequenceSetting>")
+                     .getSequence()
+                     .hasNodes());
+    const SequenceSetting own = readSetting("<SequenceSetting preset='  '><Sequence>7</Sequence></SequenceSetting>");
+    EXPECT_EQ(own.getPreset(), "");
+    EXPECT_EQ(own.getSequence().toString(), "7");
+}
+
+TEST_F(SequencePresetManagerTest, AnElementsFlagsAreSetUnlessItSaysOtherwise) {
+    const SequenceSetting plain = readSetting("<SequenceSetting/>");
+    EXPECT_TRUE(plain.getUseNote());
+    EXPECT_TRUE(plain.getUseVelocity());
+    EXPECT_TRUE(plain.getUseLength());
+    EXPECT_FALSE(readSetting("<SequenceSetting useNote='false'/>").getUseNote());
+    EXPECT_FALSE(readSetting("<SequenceSetting useVelocity='false'/>").getUseVelocity());
+    EXPECT_FALSE(readSetting("<SequenceSetting useLength='false'/>").getUseLength());
+}
+
+TEST_F(SequencePresetManagerTest, ASettingIsWrittenWithItsPresetOrItsSequence) {
+    const auto write = [](const SequenceSetting& setting) {
+        std::ostringstream stream;
+        setting.writeXml(stream, 1);
+        return stream.str();
+    };
+    m_presets.addSequencePreset("a", "0,12");
+    SequenceSetting setting("a", m_presets);
+    ASSERT_TRUE(setting.getSequence().hasNodes());
+    EXPECT_EQ(write(setting),
+              "\t<SequenceSetting preset=\"a\" useNote=\"true\" useVelocity=\"true\" useLength=\"true\">\n"
+              "\t</SequenceSetting>\n");
+    setting.setPreset("");
+    setting.setUseNote(false);
+    EXPECT_EQ(write(setting),
+              "\t<SequenceSetting preset=\"\" useNote=\"false\" useVelocity=\"true\" useLength=\"true\">\n"
+              "\t\t<Sequence>0,12</Sequence>\n"
+              "\t</SequenceSetting>\n");
 }
 
 TEST_F(SequencePresetManagerTest, OldNumbersHaveTheirPresets) {

@@ -2,6 +2,7 @@
 #include "Host/common/MidiFileReader.h"
 #include "Host/common/MidiFileWriter.h"
 #include "Platform/Files.h"
+#include "tests/support/CurrentFolder.h"
 #include "tests/support/ProjectFolder.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -93,6 +94,22 @@ TEST_F(RenderTest, APlainFileComesOutInItsOwnTime) {
     writeInput({event(0, NOTE_ON, 0, 60, 100), event(7, CONTROLLER, 0, 7, 50), event(480, NOTE_OFF, 0, 60, 30)});
     ASSERT_EQ(render(), 0) << m_complained;
     EXPECT_EQ(output(), (std::vector<std::string>{"0 on ch0 60 100", "7 other ch0 7 50", "480 off ch0 60 30"}));
+}
+
+TEST_F(RenderTest, PresetsComeFromTheDataFolderAndNeverFromTheCurrentOne) {
+    writeInput({event(0, NOTE_ON, 0, 60, 100), event(400, NOTE_OFF, 0, 60, 30)});
+    for (const char* file : {"p.seq", "Sequences/p.seq"}) {
+        ASSERT_TRUE(Platform::Files::createFolders(path("Sequences")));
+        ASSERT_TRUE(Platform::Files::replace(path(file), "<Sequence>7</Sequence>"));
+    }
+    const std::string layers =
+        "<Layers><Layer><Arpeggio><UpArpeggio beat='480' length='120'/></Arpeggio>"
+        "<SequenceSetting preset='p'/></Layer></Layers>";
+    ASSERT_EQ(renderWithLayers(layers, {"--data", m_folder.path()}), 0) << m_complained;
+    EXPECT_EQ(output(), (std::vector<std::string>{"0 on ch0 67 100", "120 off ch0 67 100"}));
+    const TestSupport::CurrentFolder there(m_folder.path());
+    ASSERT_EQ(renderWithLayers(layers), 0) << m_complained;
+    EXPECT_EQ(output(), (std::vector<std::string>{"0 on ch0 60 100", "120 off ch0 60 100"}));
 }
 
 TEST_F(RenderTest, ItSaysWhatItReadPlayedAndDropped) {

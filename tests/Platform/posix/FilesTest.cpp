@@ -1,41 +1,17 @@
 #include "Platform/Files.h"
 
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/posix/FileSizeLimit.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include <csignal>
 
 namespace Platform {
 namespace {
 
+using TestSupport::FileSizeLimit;
 using TestSupport::TemporaryFolder;
-
-// Files of this process can't grow beyond a size while this object lives: the disk is full.
-class FileSizeLimit {
-public:
-    explicit FileSizeLimit(rlim_t bytes) : m_oldHandler(std::signal(SIGXFSZ, SIG_IGN)) {
-        EXPECT_EQ(::getrlimit(RLIMIT_FSIZE, &m_old), 0);
-        rlimit limit = m_old;
-        limit.rlim_cur = bytes;
-        EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
-    }
-
-    ~FileSizeLimit() {
-        ::setrlimit(RLIMIT_FSIZE, &m_old);
-        std::signal(SIGXFSZ, m_oldHandler);
-    }
-
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
-private:
-    void (*m_oldHandler)(int);
-    rlimit m_old = {};
-};
 
 mode_t modeOf(const std::string& path) {
     struct stat state = {};

@@ -1,0 +1,65 @@
+#include "Host/cli/PortsCommand.h"
+
+#include "Host/cli/ExitStatus.h"
+#include "Host/common/MidiSystem.h"
+#include "Host/common/PortFiles.h"
+#include "Host/common/Recorder.h"
+
+#include <cstdio>
+
+namespace Host::Cli {
+
+namespace {
+
+constexpr const char* USAGE =
+    "usage: mirel ports [--data DIR]\n"
+    "\n"
+    "lists the MIDI inputs and outputs with the numbers that they have for the desk. With --data also those that\n"
+    "the desk of that folder remembers and that are absent now.\n";
+
+void printList(const char* title, const PortList& list) {
+    std::printf("%s:\n", title);
+    if (list.rows().empty())
+        std::printf("  none\n");
+    for (std::size_t i = 0; i < list.rows().size(); ++i) {
+        const PortRow& row = list.rows()[i];
+        std::string name = row.id.name;
+        if (row.id.copy > 1)
+            name += " (" + std::to_string(row.id.copy) + ")";
+        std::printf("%3zu  %-9s  %-8s  %s\n", i + 1, row.available ? "available" : "absent",
+                    row.settings.enabled ? "enabled" : "disabled", name.c_str());
+    }
+}
+
+void list(const std::string& dataFolder) {
+    const auto system = createMidiSystem("Mirel");
+    MidiPortIds ids = system->list();
+    const bool hasPorts = !ids.inputs.empty() || !ids.outputs.empty();
+    ids.outputs.push_back({Recorder::NAME, PortList::BUILT_IN});
+    PortList inputs = readPortFile(dataFolder, INPUTS_FILE);
+    PortList outputs = readPortFile(dataFolder, OUTPUTS_FILE);
+    inputs.update(ids.inputs);
+    outputs.update(ids.outputs);
+    std::printf("MIDI system: %s\n", system->name().c_str());
+    printList("inputs", inputs);
+    printList("outputs", outputs);
+    if (!hasPorts)
+        std::printf("This computer has no MIDI port now; the %s keeps what is played in memory.\n", Recorder::NAME);
+}
+
+}
+
+int runPorts(const std::vector<std::string>& arguments) {
+    if (arguments.size() == 1 && arguments.front() == "--help") {
+        std::fputs(USAGE, stdout);
+        return DONE;
+    }
+    if (!arguments.empty() && (arguments.size() != 2 || arguments.front() != "--data" || arguments.back().empty())) {
+        std::fprintf(stderr, "mirel: ports takes nothing but --data DIR\n%s", USAGE);
+        return FAILED;
+    }
+    list(arguments.empty() ? std::string() : arguments.back());
+    return DONE;
+}
+
+}

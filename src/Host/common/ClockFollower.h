@@ -1,0 +1,54 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+namespace Host {
+
+// Follows the timing ticks of a clock master, 24 to the quarter, and tells the position at any moment in ppq: between
+// the ticks by interpolation, with the jitter of their arrival smoothed out, never backwards. It reads no clock: times
+// are handed in, in milliseconds, and should not run backwards.
+//
+// A stop holds the position, whatever ticks still come, until a start or continue. A start does not move it: the first
+// tick after it stands where the last one before the stop stood. A clock that never said either is taken to run. When
+// ticks stay away the position stands within two ticks, and goes on from there when they come again.
+class ClockFollower {
+public:
+    static constexpr int PPQ_PER_TICK = 20;
+    // So long without a tick, and longer than four of them, and the clock stands.
+    static constexpr double SILENCE_MILLISECONDS = 500;
+
+    void tick(double milliseconds);
+    void start(double milliseconds);
+    void resume(double milliseconds) { start(milliseconds); }
+    void stop(double milliseconds);
+
+    // The position at this time; 0 in the beginning. What was told once is never taken back.
+    double position(double milliseconds);
+
+    // Whether the clock runs at this time.
+    bool isRunning(double milliseconds) const;
+
+    // In beats per minute, smoothed; 120 before it is known.
+    double tempo() const;
+
+private:
+    void lock(double milliseconds);
+    void follow(double milliseconds);
+    double silence() const;
+
+    // Ticks that a tempo is guessed from, when nothing is known of it.
+    static constexpr std::size_t GUESSED_FROM = 3;
+
+    bool m_mayRun = true;         // Not stopped.
+    bool m_isLocked = false;      // At least one tick came since it runs.
+    std::size_t m_intervals = 0;  // Between ticks since the lock, up to GUESSED_FROM.
+    int m_farOff = 0;             // Ticks in a row that came far too early (negative) or far too late.
+    double m_period = 60000.0 / (24 * 120);
+    std::array<double, GUESSED_FROM> m_lastTicks{};  // When they really came, the newest first.
+    double m_smoothTick = 0;                         // When the newest should have come.
+    double m_tickPosition = 0;
+    double m_told = 0;
+};
+
+}

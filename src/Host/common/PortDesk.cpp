@@ -1,0 +1,91 @@
+#include "Host/common/PortDesk.h"
+
+#include "Backend/core/MessageManagerMaster.h"
+#include "Backend/core/MirelFactory.h"
+#include "Backend/core/MirelMessageManager.h"
+#include "Backend/midi/MidiEngineMessageManager.h"
+#include "Host/common/InputEvent.h"
+
+namespace Host {
+
+using Backend::MidiEngine::MirelMidiMessage;
+
+PortDesk::PortDesk(std::shared_ptr<MidiSystem> system, const Options& options)
+    : m_recordsAll(options.recordsAll),
+      m_ports(std::move(system), {options.dataFolder, options.virtualPort},
+              [this](const MirelMidiMessage& event) { receiveInputEvent(*m_mirel, event); }),
+      m_player(*this),
+      m_mirel(Backend::MirelFactory::createMirel(options.product, m_player, false)) {
+    m_ports.setListener([this] {
+        if (m_isRunning)
+            postPorts();
+    });
+}
+
+PortDesk::~PortDesk() {
+    stop();
+}
+
+void PortDesk::start() {
+    auto& manager = m_mirel->getMessageManager();
+    m_mirel->start();
+    manager.sendInitialize();
+    m_ports.update();
+    m_recorder = findRecorder();
+    manager.sendSetMidiInputPorts(m_ports.inputPorts());
+    manager.sendSetMidiOutputPorts(m_ports.outputPorts());
+    m_player.start([this](std::int32_t from, std::int32_t to) { m_mirel->playTimeSlice(from, to); });
+    manager.sendEndInitialize();
+    m_isRunning = true;
+    m_watcher = std::make_unique<PortWatcher>([this] { m_ports.update(); });
+}
+
+bool PortDesk::stop() {
+    if (!m_isRunning.exchange(false))
+        return true;
+    const bool watchEnded = m_watcher->stop();
+    // The player goes on until the desk has ended, which may wait for a slice.
+    m_mirel->getMessageManager().sendEnd();
+    m_mirel->stop();
+    m_player.stop();
+    return m_ports.close() && watchEnded;
+}
+
+void PortDesk::waitUntilIdle() {
+    m_mirel->getMessageManagerMaster().waitUntilIdle();
+    m_mirel->getMidiEngineMessageManager().waitUntilIdle();
+}
+
+char PortDesk::findRecorder() const {
+    const auto outputs = m_ports.outputs();
+    for (std::size_t i = 0; i < outputs.size(); ++i)
+        if (outputs[i].id == MidiPortId{Recorder::NAME, PortList::BUILT_IN})
+            return static_cast<char>(i);
+    return MirelMidiMessage::DEFAULT_OUTPUT;
+}
+
+void PortDesk::postPorts() {
+    m_mirel->getMessageManager().postSetMidiInputPorts(m_ports.inputPorts());
+    m_mirel->getMessageManager().postSetMidiOutputPorts(m_ports.outputPorts());
+}
+
+void PortDesk::Player::playMidi(const MirelMidiMessage& message) {
+    PortPlayer::playMidi(message);
+    if (!m_desk.m_recordsAll || message.getOutput() == m_desk.m_recorder)
+        return;
+    MirelMidiMessage copy(message);
+    copy.setOutput(m_desk.m_recorder);
+    PortPlayer::playMidi(copy);
+}
+
+void PortDesk::Player::enableMidiInput(int port, bool enable) {
+    PortPlayer::enableMidiInput(port, enable);
+    m_desk.m_mirel->getMessageManager().postSetMidiInputPorts(m_desk.m_ports.inputPorts());
+}
+
+void PortDesk::Player::enableMidiOutput(int port, bool enable) {
+    PortPlayer::enableMidiOutput(port, enable);
+    m_desk.m_mirel->getMessageManager().postSetMidiOutputPorts(m_desk.m_ports.outputPorts());
+}
+
+}

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "Backend/core/MirelIF.h"
+#include "Host/common/MidiPorts.h"
+#include "Host/common/PortPlayer.h"
+#include "Host/common/PortWatcher.h"
+
+#include <memory>
+#include <string>
+
+namespace Host {
+
+// A desk that plays in real time on the computer's MIDI ports. It keeps the order of the start and of the end.
+class PortDesk {
+public:
+    struct Options {
+        std::string product;      // The product's name, for the key of the settings.
+        std::string dataFolder;   // Where the lists of ports are kept.
+        std::string virtualPort;  // The name of ports of the desk's own; empty: none.
+        bool recordsAll = false;  // The Recorder gets what is played on the other outputs too.
+    };
+
+    PortDesk(std::shared_ptr<MidiSystem> system, const Options& options);
+
+    // As stop.
+    ~PortDesk();
+    PortDesk(const PortDesk&) = delete;
+    PortDesk& operator=(const PortDesk&) = delete;
+
+    // [main] Starts the threads, opens the ports and hands them to the desk, which then plays its defaults.
+    void start();
+
+    // [main] Ends all that sounds, saves the settings and closes the ports. False if a port hung and was left behind.
+    bool stop();
+
+    Backend::MirelIF& mirel() { return *m_mirel; }
+    MidiPorts& ports() { return m_ports; }
+
+    // [any] Whether the player's thread has ended by itself, as it does when something fails in a slice.
+    bool hasFailed() const { return m_isRunning && m_player.hasEnded(); }
+
+    // [main] Waits until the desk has done what was posted to it.
+    void waitUntilIdle();
+
+private:
+    // The desk's host: real ports, of which the desk hears anew when it switches one on or off.
+    class Player : public PortPlayer {
+    public:
+        explicit Player(PortDesk& desk) : PortPlayer(desk.m_ports), m_desk(desk) {}
+
+        void playMidi(const Backend::MidiEngine::MirelMidiMessage& message) override;
+        void enableMidiInput(int port, bool enable) override;
+        void enableMidiOutput(int port, bool enable) override;
+
+    private:
+        PortDesk& m_desk;
+    };
+
+    // The index of the recorder among the outputs.
+    char findRecorder() const;
+    void postPorts();
+
+    const bool m_recordsAll;
+    MidiPorts m_ports;
+    Player m_player;
+    char m_recorder = -1;
+    std::unique_ptr<Backend::MirelIF> m_mirel;
+    std::unique_ptr<PortWatcher> m_watcher;
+    std::atomic<bool> m_isRunning{false};
+};
+
+}

@@ -1,0 +1,272 @@
+#include "Host/common/posix/JackServer.h"
+
+#include "Host/common/MidiByteParser.h"
+#include "Host/common/OutputQueue.h"
+#include "Platform/MonotonicClock.h"
+#include "Platform/Sleep.h"
+
+#include <jack/jack.h>
+#include <jack/midiport.h>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace Host {
+
+namespace {
+
+constexpr int MAX_DESKS = 20;
+// So long a working server never takes for a cycle, or to send what is queued.
+constexpr std::int64_t PATIENCE_MICROSECONDS = 500000;
+
+void ignoreText(const char*) {}
+
+// The library keeps state for the whole process that a second server must not meet; see JackServer::connect. So all
+// places of the process are known here.
+struct Places {
+    std::mutex mutex;
+    std::vector<JackServer*> all;
+};
+
+Places& places() {
+    static Places known;
+    return known;
+}
+
+enum class Use { FREE, INPUT, OUTPUT, RETIRED };
+
+}
+
+struct JackServer::Slot {
+    std::atomic<Use> use{Use::FREE};
+    // What follows changes only while the slot is free.
+    jack_port_t* port = nullptr;
+    MidiReceiver receiver;
+    OutputQueue queue;
+};
+
+class JackServer::Port : public OpenMidiPort {
+public:
+    Port(std::shared_ptr<JackServer> server, Slot& slot, bool isInput)
+        : m_server(std::move(server)), m_slot(slot), m_isInput(isInput) {}
+
+    ~Port() override {
+        const std::int64_t limit = Platform::monotonicMicroseconds() + PATIENCE_MICROSECONDS;
+        while (!m_slot.queue.isEmpty() && m_server->isAlive() && Platform::monotonicMicroseconds() < limit)
+            Platform::sleepMilliseconds(1);
+        m_slot.use = Use::RETIRED;
+        // Until the server's thread has certainly left the slot. If that never happens, the slot is lost.
+        if (!m_server->waitForCycles(2))
+            return;
+        if (m_server->isAlive())
+            jack_port_unregister(m_server->m_client, m_slot.port);
+        m_slot.receiver = nullptr;
+        OutputEvent left;
+        while (m_slot.queue.pop(left)) {
+        }
+        m_slot.use = Use::FREE;
+    }
+
+    Port(const Port&) = delete;
+    Port& operator=(const Port&) = delete;
+
+    bool send(const std::uint8_t* bytes, std::size_t count, std::int64_t microseconds) override {
+        std::uint32_t word = 0;
+        for (std::size_t i = 0; i < std::min<std::size_t>(count, 3); ++i)
+            word |= std::uint32_t{bytes[i]} << 8 * i;
+        while (m_server->isAlive() && !m_isInput) {
+            if (m_slot.queue.push({word, microseconds}))
+                return true;
+            Platform::sleepMilliseconds(1);
+        }
+        return false;
+    }
+
+private:
+    const std::shared_ptr<JackServer> m_server;
+    Slot& m_slot;
+    const bool m_isInput;
+};
+
+std::shared_ptr<JackServer> JackServer::connect(const std::string& clientName) {
+    const std::lock_guard lock(places().mutex);
+    // With a client of a server that has gone still there, the library would mix up the two.
+    const auto& all = places().all;
+    if (std::any_of(all.begin(), all.end(), [](const JackServer* place) { return !place->isAlive(); }))
+        return nullptr;
+    // A computer without the server is nothing to complain of.
+    jack_set_error_function(ignoreText);
+    jack_set_info_function(ignoreText);
+    for (int number = 1; number <= MAX_DESKS; ++number) {
+        const std::string name = number == 1 ? clientName : clientName + " " + std::to_string(number);
+        jack_status_t status = {};
+        jack_client_t* client =
+            jack_client_open(name.c_str(), static_cast<jack_options_t>(JackNoStartServer | JackUseExactName), &status);
+        if (client) {
+            std::shared_ptr<JackServer> place(new JackServer(client, name), leave);
+            places().all.push_back(place.get());
+            return place;
+        }
+        // The server that refuses a name in use says only that something went wrong.
+        if ((status & JackServerFailed) != 0)
+            break;
+    }
+    return nullptr;
+}
+
+JackServer::JackServer(jack_client_t* client, std::string name)
+    : m_client(client), m_name(std::move(name)), m_slots(MAX_SLOTS) {
+    jack_on_shutdown(m_client, goneCallback, this);
+    jack_set_process_callback(m_client, processCallback, this);
+    if (jack_activate(m_client) != 0)
+        m_isAlive = false;
+}
+
+void JackServer::leave(JackServer* place) {
+    // A server that hangs would hold up the end of the program. As it may wake up again and call back, all stays there.
+    if (!place->waitForCycles(1))
+        return;
+    const std::lock_guard lock(places().mutex);
+    std::erase(places().all, place);
+    delete place;
+}
+
+JackServer::~JackServer() {
+    jack_client_close(m_client);
+    for (const auto& slot : m_slots)
+        delete slot.load();
+}
+
+void JackServer::goneCallback(void* self) {
+    static_cast<JackServer*>(self)->m_isAlive = false;
+}
+
+int JackServer::processCallback(std::uint32_t frames, void* self) {
+    static_cast<JackServer*>(self)->process(frames);
+    return 0;
+}
+
+void JackServer::process(std::uint32_t frames) {
+    for (const auto& entry : m_slots) {
+        Slot* slot = entry.load(std::memory_order_acquire);
+        if (!slot)
+            break;
+        switch (slot->use.load(std::memory_order_acquire)) {
+            case Use::INPUT: processInput(*slot, frames); break;
+            case Use::OUTPUT: processOutput(*slot, frames); break;
+            case Use::FREE:
+            case Use::RETIRED: break;
+        }
+    }
+    m_cycles.fetch_add(1, std::memory_order_release);
+}
+
+void JackServer::processInput(const Slot& slot, std::uint32_t frames) {
+    void* buffer = jack_port_get_buffer(slot.port, frames);
+    const std::uint32_t count = buffer ? jack_midi_get_event_count(buffer) : 0;
+    if (count == 0)
+        return;
+    // When it came by the server's clock, told by the desk's. What is heard now came during the cycle before.
+    const auto serverNow = static_cast<std::int64_t>(jack_get_time());
+    const std::int64_t toDesk = Platform::monotonicMicroseconds() - serverNow;
+    const jack_nframes_t before = jack_last_frame_time(m_client) - frames;
+    for (std::uint32_t i = 0; i < count; ++i) {
+        jack_midi_event_t event = {};
+        if (jack_midi_event_get(&event, buffer, i) != 0)
+            continue;
+        const auto came = static_cast<std::int64_t>(jack_frames_to_time(m_client, before + event.time));
+        slot.receiver(event.buffer, event.size, std::min(came, serverNow) + toDesk);
+    }
+}
+
+void JackServer::processOutput(Slot& slot, std::uint32_t frames) {
+    void* buffer = jack_port_get_buffer(slot.port, frames);
+    if (!buffer)
+        return;
+    jack_midi_clear_buffer(buffer);
+    OutputEvent event;
+    std::array<jack_midi_data_t, 3> bytes{};
+    while (jack_midi_max_event_size(buffer) >= bytes.size() && slot.queue.pop(event)) {
+        bytes = {event.status(), event.d1(), event.d2()};
+        jack_midi_event_write(buffer, 0, bytes.data(), 1 + MidiByteParser::dataBytesOf(event.status()));
+    }
+}
+
+// False if the server works no more cycles. A server that has gone has certainly left every slot.
+bool JackServer::waitForCycles(std::uint32_t count) const {
+    const std::uint32_t first = m_cycles;
+    const std::int64_t limit = Platform::monotonicMicroseconds() + PATIENCE_MICROSECONDS;
+    while (m_isAlive && m_cycles - first < count) {
+        if (Platform::monotonicMicroseconds() > limit)
+            return false;
+        Platform::sleepMilliseconds(1);
+    }
+    return true;
+}
+
+std::vector<std::string> JackServer::otherPorts(unsigned long flags) {
+    if (!m_isAlive)
+        return {};
+    const char** found = jack_get_ports(m_client, nullptr, JACK_DEFAULT_MIDI_TYPE, flags);
+    std::vector<std::string> names;
+    for (const char** name = found; name && *name; ++name)
+        if (const std::string text = *name; !text.starts_with(m_name + ":"))
+            names.push_back(text);
+    jack_free(found);
+    return names;
+}
+
+MidiPortIds JackServer::list() {
+    return {numberCopies(otherPorts(JackPortIsOutput)), numberCopies(otherPorts(JackPortIsInput))};
+}
+
+JackServer::Slot* JackServer::takeFreeSlot() {
+    for (auto& entry : m_slots) {
+        Slot* slot = entry.load();
+        if (!slot) {
+            slot = new Slot;
+            entry.store(slot, std::memory_order_release);
+        }
+        if (slot->use == Use::FREE)
+            return slot;
+    }
+    return nullptr;
+}
+
+std::unique_ptr<OpenMidiPort> JackServer::open(const std::string& name, const std::string& other, MidiReceiver receiver,
+                                               bool isInput) {
+    const std::lock_guard lock(m_mutex);
+    Slot* slot = m_isAlive ? takeFreeSlot() : nullptr;
+    if (!slot)
+        return nullptr;
+    const std::size_t room = static_cast<std::size_t>(jack_port_name_size()) - m_name.size() - 2;
+    std::string portName = name.substr(0, room);
+    std::replace(portName.begin(), portName.end(), ':', ' ');  // That divides clients and ports.
+    slot->port = jack_port_register(m_client, portName.c_str(), JACK_DEFAULT_MIDI_TYPE,
+                                    isInput ? JackPortIsInput : JackPortIsOutput, 0);
+    if (!slot->port)
+        return nullptr;
+    slot->receiver = std::move(receiver);
+    slot->use = isInput ? Use::INPUT : Use::OUTPUT;
+    auto port = std::make_unique<Port>(shared_from_this(), *slot, isInput);
+    const std::string own = jack_port_name(slot->port);
+    const bool isConnected = other.empty() || jack_connect(m_client, isInput ? other.c_str() : own.c_str(),
+                                                           isInput ? own.c_str() : other.c_str()) == 0;
+    if (!isConnected)
+        return nullptr;
+    // The server makes changes between two cycles; what is sent before is lost.
+    waitForCycles(2);
+    return port;
+}
+
+std::unique_ptr<OpenMidiPort> JackServer::openInput(const std::string& name, const std::string& from,
+                                                    MidiReceiver receiver) {
+    return open(name, from, std::move(receiver), true);
+}
+
+std::unique_ptr<OpenMidiPort> JackServer::openOutput(const std::string& name, const std::string& to) {
+    return open(name, to, nullptr, false);
+}
+
+}

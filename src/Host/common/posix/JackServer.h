@@ -1,0 +1,76 @@
+#pragma once
+
+#include "Host/common/MidiSystem.h"
+
+#include <jack/types.h>
+
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <vector>
+
+namespace Host {
+
+// The desk's place at a running JACK server, with all of its ports in one client.
+//
+// RtMidi's ports for JACK are not used: they wait without end for a server that has stopped, can't be closed once it
+// has gone, and take a client for each port.
+class JackServer : public std::enable_shared_from_this<JackServer> {
+public:
+    // [any] A place under this name, or with a number behind it if another desk has that. Null if no server runs; none
+    // is started. As long as a place of this process at a server that has gone is in use there is no new one. At the
+    // end of its last user the place is given up; a server that hangs is not waited for.
+    static std::shared_ptr<JackServer> connect(const std::string& clientName);
+
+    JackServer(const JackServer&) = delete;
+    JackServer& operator=(const JackServer&) = delete;
+
+    // [any] False from the moment the server has gone, or has thrown the desk out.
+    bool isAlive() const { return m_isAlive; }
+
+    // [any] The name that the desk has there, which no other one has.
+    const std::string& name() const { return m_name; }
+
+    // [any] The ports of all other programs.
+    MidiPortIds list();
+
+    // [any] A port of the desk under a name of its own, connected to another program's unless that is empty text. Null
+    // if there is no such other port.
+    std::unique_ptr<OpenMidiPort> openInput(const std::string& name, const std::string& from, MidiReceiver receiver);
+    std::unique_ptr<OpenMidiPort> openOutput(const std::string& name, const std::string& to);
+
+private:
+    struct Slot;
+    class Port;
+
+    JackServer(jack_client_t* client, std::string name);
+    ~JackServer();
+    static void leave(JackServer* place);
+
+    static int processCallback(std::uint32_t frames, void* self);
+    static void goneCallback(void* self);
+
+    void process(std::uint32_t frames);
+    void processInput(const Slot& slot, std::uint32_t frames);
+    static void processOutput(Slot& slot, std::uint32_t frames);
+    Slot* takeFreeSlot();
+    std::unique_ptr<OpenMidiPort> open(const std::string& name, const std::string& other, MidiReceiver receiver,
+                                       bool isInput);
+    bool waitForCycles(std::uint32_t count) const;
+    std::vector<std::string> otherPorts(unsigned long flags);
+
+    static constexpr std::size_t MAX_SLOTS = 512;
+
+    jack_client_t* m_client;
+    const std::string m_name;
+    std::atomic<bool> m_isAlive{true};
+    std::atomic<std::uint32_t> m_cycles{0};  // How often the server has had the ports processed; wraps.
+    std::mutex m_mutex;                      // Of who opens ports; not of the server's thread.
+    // Slots are used again and live as long as the client.
+    std::vector<std::atomic<Slot*>> m_slots;
+};
+
+}

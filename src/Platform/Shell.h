@@ -1,0 +1,29 @@
+// What a program without windows of its own asks of the user's system.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace Platform {
+
+// [any] Tells the user something and waits until it was read. Where there are no message boxes it goes to standard
+// error.
+void showMessage(const std::string& text, const std::string& title);
+
+// [any] Replaces what showMessage does, so that a test can see it; an empty one brings the system's back.
+void setMessageSink(std::function<void(const std::string& text, const std::string& title)> sink);
+
+// [any] What showMessage does without a sink.
+void showSystemMessage(const std::string& text, const std::string& title);
+
+// [any] Opens a file with the user's program for it. A file that is missing is ignored.
+void openWithUsersProgram(const std::string& path);
+
+// [any] The names of the MIDI inputs that the system itself lists; none where it keeps no such list.
+std::vector<std::string> getSystemMidiInputNames();
+
+// [any] The module that this code is in; null where modules have no handle.
+void* getModuleInstance();
+
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Platform/SystemPath.h"
+
+#include <filesystem>
+#include <string>
+
+namespace TestSupport {
+
+// Works in another folder while it lives.
+class CurrentFolder {
+public:
+    explicit CurrentFolder(const std::string& path) : m_before(std::filesystem::current_path()) {
+        std::filesystem::current_path(*Platform::systemPath(path));
+    }
+    ~CurrentFolder() {
+        std::error_code error;
+        std::filesystem::current_path(m_before, error);
+    }
+    CurrentFolder(const CurrentFolder&) = delete;
+    CurrentFolder& operator=(const CurrentFolder&) = delete;
+
+private:
+    std::filesystem::path m_before;
+};
+
+}
