@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr const char* PRESETS[] = {"key", "control", "layer"};
+
 void expectRoot(const std::string& path, const std::string& tag) {
     if (Backend::XmlDocument(path, true).getRootElement().getName() != tag)
         std::abort();
@@ -17,7 +19,6 @@ void expectRoot(const std::string& path, const std::string& tag) {
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
     static DeskFiles desk;
-    constexpr const char* PRESETS[] = {"key", "control", "layer"};
     desk.write("old", data, size);
     for (const char* kind : PRESETS)
         desk.write(kind, data, size);

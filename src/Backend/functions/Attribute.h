@@ -28,6 +28,10 @@ struct Attribute {
     bool isOptional;
 };
 
+// Not every compiler deduces these of an aggregate on its own.
+template <class Owner, class Value, class... More>
+Attribute(const char*, Value Owner::*, More...) -> Attribute<Owner, Value>;
+
 // Values that are items read a missing attribute as an empty text. Numbers keep their low bits.
 template <class Owner, class Value>
 Value readAttribute(const XmlElement& element, const Attribute<Owner, Value>& attribute) {

@@ -8,6 +8,13 @@
 
 namespace Backend::Layers {
 
+namespace {
+
+// More come from a file only by mistake; each takes room in the engine.
+constexpr std::size_t MAX_LAYERS = 1 << 16;
+
+}
+
 const char* const LayerList::DEFAULT_XML =
     "\t<Layers merge=\"false\">"
     "\t\t<Layer mute=\"false\" mono=\"false\" toggle=\"off\" useNoteStack=\"true\" minNote=\"C-1\" maxNote=\"G9\" "
@@ -35,7 +42,7 @@ void LayerList::readXml(const XmlElement& element, const SequenceManagement::Seq
     if (!element.getBoolAttribute("merge", false))
         clear();
     for (auto child = element.begin(); child != element.end(); child.next())
-        if (child.getName() == Layer::TAG)
+        if (child.getName() == Layer::TAG && m_layers.size() < MAX_LAYERS)
             add(Layer(child, presets));
 }
 

@@ -34,7 +34,7 @@ public:
     // Appends a layer and gives it the id of its place.
     void add(Layer layer);
 
-    // Reads the layers of an element. Its attribute merge says whether they are appended or replace the list.
+    // Reads the layers of an element, whose merge says if they are appended or replace the list; at most 65536 in all.
     void readXml(const XmlElement& element, const SequenceManagement::SequencePresetManager& presets);
 
     // The element on lines of its own, indent tabs deep: all layers to replace others, or the selected ones to be

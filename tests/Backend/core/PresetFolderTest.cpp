@@ -1,5 +1,6 @@
 #include "Backend/core/PresetFolder.h"
 
+#include "Backend/core/XmlDocument.h"
 #include "Backend/core/XmlElement.h"
 #include "tests/support/FileDesk.h"
 
@@ -343,6 +344,18 @@ TEST_F(PresetsTest, AHugeOrDeepPresetEndsInNothing) {
     writePreset("Layer Presets", "huge", "<Layers>" + std::string((64u << 20) + 1, ' ') + "</Layers>");
     m_desk.run([](Mirel& mirel) { mirel.getLayers().loadPreset("huge"); });
     EXPECT_EQ(layers(), "<Layers merge=\"false\">\n</Layers>\n");
+}
+
+TEST_F(PresetsTest, LayersBeyondAllSenseAreLeftOut) {
+    std::string xml = "<Layers>";
+    for (int i = 0; i < 70000; ++i)
+        xml += "<Layer/>";
+    const XmlDocument document(xml + "</Layers>", false);
+    m_desk.run([&](Mirel& mirel) {
+        Layers::LayerList layers;
+        layers.readXml(document.getRootElement(), mirel.getSequencePresets());
+        EXPECT_EQ(layers.size(), 65536u);
+    });
 }
 
 TEST_F(PresetsTest, SavingKeysWritesThemEvenIfTheyAreThoseOfAPreset) {
