@@ -171,18 +171,28 @@ class ProgramsTest(unittest.TestCase):
             lines = (DEFAULTS / "Layer Presets" / f"{preset}.pst").read_text().splitlines()[2:]
             self.assertIn("\n".join(f"\t{line}" for line in lines), block(name), name)
 
-    # Presses a key of a program once more after some others, and returns what begins.
-    def heardAfter(self, name, keys, last, wait=40):
-        take = self.take(name)
-        for key in keys:
-            take.press(key)
+    # Loads a program afresh for each row, presses and releases its keys one after the other, then holds the last one.
+    # Compares what begins then, as (channel, note).
+    def checkHeardAfter(self, name, rows):
+        take = listening.Take("outputs 1", f"bank {BANK}")
+        starts = []
+        for keys, last, _ in rows:
+            take.add(f"select {number(name)}")
             take.wait(100)
-            take.release(key)
+            for key in keys:
+                take.press(key)
+                take.wait(50)
+                take.release(key)
+                take.wait(50)
+            take.press(last)
+            starts.append(take.now)
             take.wait(100)
-        start = take.now + listening.STEP
-        take.press(last)
-        take.wait(listening.STEP + wait)
-        return [note[1:] for note in listening.onsets(listening.between(self.play(take), start, take.now), start)]
+            take.release(last)
+        played = self.play(take)
+        for (keys, last, expected), start in zip(rows, starts):
+            with self.subTest(keys=keys, last=last):
+                heard = listening.onsets(listening.between(played, start, start + 100), start)
+                self.assertEqual(expected, sorted(note[1:] for note in heard))
 
     def testShiftPlaysSoft(self):
         take = self.take("Soft and Loud by Shift")
@@ -214,65 +224,86 @@ class ProgramsTest(unittest.TestCase):
         self.assertEqual([], listening.hanging(played))
 
     def testPositionKeysMoveTheKeyboards(self):
-        name = "Positions on F5 to F11"
+        rows = []
         for keys, left, right in ((["F6"], 50, 60), (["F11"], 59, 60), (["Shift F6"], 48, 62), (["Control F5"], 36, 60),
                                   (["Shift Control F11"], 48, 59), (["F9", "Shift F8"], 55, 65),
                                   (["F9", "F5"], 48, 60)):
-            with self.subTest(keys=keys):
-                self.assertEqual([(1, left)], self.heardAfter(name, keys, "Z"))
-                self.assertEqual([(0, right)], self.heardAfter(name, keys, "Q"))
+            rows += [(keys, "Z", [(1, left)]), (keys, "Q", [(0, right)])]
+        self.checkHeardAfter("Positions on F5 to F11", rows)
 
     def testStageKeysChangeWhatPlays(self):
-        name = "Stage Keys"
-        for keys, expected in ((["Control F5"], [(1, 60)]), (["Control F6"], [(0, 60)]),
-                               (["Control F5", "Control F5"], [(0, 60), (1, 60)]), (["Shift Control F6"], [(1, 60)]),
-                               (["Control F2"], [(0, 61), (1, 61)]), (["Control F1"], [(0, 59), (1, 59)]),
-                               (["F9"], [(0, 60)]), (["F11"], [(0, 60)]), (["F9", "F10"], [(0, 60), (1, 60)]),
-                               (["Escape"], [(0, 60), (1, 60)])):
-            with self.subTest(keys=keys):
-                self.assertEqual(sorted(expected), sorted(self.heardAfter(name, keys, "Q")))
+        both = [(0, 60), (1, 60)]
+        self.checkHeardAfter("Stage Keys", [
+            ([], "Q", both),
+            (["Control F5"], "Q", [(1, 60)]),
+            (["Control F6"], "Q", [(0, 60)]),
+            (["Control F5", "Control F5"], "Q", both),
+            (["Shift Control F6"], "Q", [(1, 60)]),
+            (["Shift Control F6", "Shift Control F6"], "Q", both),
+            (["Control F2"], "Q", [(0, 61), (1, 61)]),
+            (["Control F1"], "Q", [(0, 59), (1, 59)]),
+            (["F9"], "Z", [(1, 36)]),
+            (["F11"], "Z", [(0, 48)]),
+            (["F9", "F10"], "Q", both),
+            (["Escape"], "Q", both),
+        ])
 
-    def printed(self, name, keys, what):
-        lines = [f'key down "{key}"' for key in keys]
-        return "\n".join(self.data.run([f"bank {BANK}", f"select {number(name)}", *lines, f"print {what}"]))
+    # What the desk prints after keys of a program, for each row of keys.
+    def printed(self, name, rows, what):
+        texts = []
+        for keys in rows:
+            lines = [f'key down "{key}"' for key in keys]
+            texts.append("\n".join(self.data.run([f"bank {BANK}", f"select {number(name)}", *lines, f"print {what}"])))
+        return texts
 
     def testStageKeysStepThroughPrograms(self):
-        for key, step in (("F12", 1), ("Shift F12", -1)):
-            name = NAMES[number("Stage Keys") + step]
-            self.assertIn(f'<Program name="{name}"', self.printed("Stage Keys", [key], "program"))
+        steps = {"F12": 1, "Shift F12": -1}
+        for text, step in zip(self.printed("Stage Keys", [[key] for key in steps], "program"), steps.values()):
+            self.assertIn(f'<Program name="{NAMES[number("Stage Keys") + step]}"', text)
 
     def testStageKeysLoadControls(self):
-        for key, preset in (("Shift F9", "001 - Performance"), ("Shift F10", "005 - Synth Filter and Envelope"),
-                            ("Shift F11", "000 - Default")):
-            text = (DEFAULTS / "Control Presets" / f"{preset}.pst").read_text().split("\n", 2)[2].rstrip("\n")
-            self.assertEqual(text, self.printed("Stage Keys", [key], "controls"))
+        loaded = {"Shift F9": "001 - Performance", "Shift F10": "005 - Synth Filter and Envelope",
+                  "Shift F11": "000 - Default"}
+        for text, preset in zip(self.printed("Stage Keys", [[key] for key in loaded], "controls"), loaded.values()):
+            file = (DEFAULTS / "Control Presets" / f"{preset}.pst").read_text()
+            self.assertEqual(file.split("\n", 2)[2].rstrip("\n"), text)
 
     def testKeysChangeTheTempo(self):
-        for name, keys, tempo in (("Stage Keys", ["Control Page Up"], 121), ("Stage Keys", ["Control Page Down"], 119),
-                                  ("Stage Keys", ["Control Home"], 130), ("Stage Keys", ["Control End"], 110),
-                                  ("Tempo Keys on F5 to F11", ["F5"], 60), ("Tempo Keys on F5 to F11", ["F11"], 180),
-                                  ("Tempo Keys on F5 to F11", ["F7", "Control Page Up"], 101)):
-            self.assertIn(str(tempo), self.printed(name, keys, "tempo"), (name, keys))
+        rows = [("Stage Keys", ["Control Page Up"], 121), ("Stage Keys", ["Control Page Down"], 119),
+                ("Stage Keys", ["Control Home"], 130), ("Stage Keys", ["Control End"], 110)]
+        tempo_keys = "Tempo Keys on F5 to F11"
+        rows += [(tempo_keys, [f"F{5 + i}"], tempo) for i, tempo in enumerate([60, 80, 100, 120, 140, 160, 180])]
+        rows += [(tempo_keys, ["F7", "Control Page Up"], 101), (tempo_keys, ["F7", "Control Page Down"], 99)]
+        lines = [f"bank {BANK}"]
+        for name, keys, _ in rows:
+            lines += [f"select {number(name)}", *[f'key down "{key}"' for key in keys], "print tempo"]
+        tempos = [int(line.split()[0]) for line in self.data.run(lines)]
+        self.assertEqual([tempo for _, _, tempo in rows], tempos)
 
-    # The events that are not notes after a key went down.
-    def sentBy(self, name, keys):
-        take = self.take(name)
-        start = take.now
-        take.press(*keys)
-        take.wait(100)
-        return [event[1:] for event in listening.between(self.play(take), start, take.now)]
+    # Loads a program afresh for each row, presses its keys, and returns the events that each row sends.
+    def sentBy(self, name, rows):
+        take = listening.Take("outputs 1", f"bank {BANK}")
+        starts = []
+        for keys in rows:
+            take.add(f"select {number(name)}")
+            take.wait(100)
+            starts.append(take.now)
+            take.press(*keys)
+            take.wait(100)
+        played = self.play(take)
+        return [[event[1:] for event in listening.between(played, start, start + 100)] for start in starts]
 
     def testKeysSelectGeneralMidiSounds(self):
-        name = "General MIDI Sounds on F5 to F12"
-        for key, sound in zip([f"F{i}" for i in range(5, 13)], [0, 4, 16, 19, 24, 48, 56, 73]):
-            self.assertEqual([(0xc0, sound, 0, 0)], self.sentBy(name, [key]), key)
-        self.assertEqual([(0xc0, 4, 0, 0), (0xc0, 5, 0, 0)], self.sentBy(name, ["F6", "Control Page Up"]))
+        sounds = [0, 4, 16, 19, 24, 48, 56, 73]
+        rows = [[f"F{5 + i}"] for i in range(len(sounds))]
+        sent = self.sentBy("General MIDI Sounds on F5 to F12", [*rows, ["F6", "Control Page Up"]])
+        self.assertEqual([*[[(0xc0, sound, 0, 0)] for sound in sounds], [(0xc0, 4, 0, 0), (0xc0, 5, 0, 0)]], sent)
 
     def testSequencerRemoteDrivesASequencer(self):
-        name = "Sequencer Remote"
-        for key, status, d1 in (("Insert", 0xfa, 0), ("Delete", 0xfc, 0), ("Home", 0xfb, 0), ("End", 0xf2, 0),
-                                ("F5", 0xf3, 0), ("F11", 0xf3, 6)):
-            self.assertEqual([(status, d1, 0)], [event[:3] for event in self.sentBy(name, [key])], key)
+        rows = {"Insert": (0xfa, 0, 0), "Delete": (0xfc, 0, 0), "Home": (0xfb, 0, 0), "End": (0xf2, 0, 0)}
+        rows |= {f"F{5 + song}": (0xf3, song, 0) for song in range(7)}
+        sent = self.sentBy("Sequencer Remote", [[key] for key in rows])
+        self.assertEqual([[event] for event in rows.values()], [[event[:3] for event in events] for events in sent])
 
     def testDrawbarsBelongToTheirManuals(self):
         name = "Drawbar Organ, Two Manuals"
