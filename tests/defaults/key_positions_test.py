@@ -29,7 +29,7 @@ POSITIONS = [f"{first + position:03} - Zone {zone} Position {name}{suffix}"
 def played(lines):
     """The notes that were started and those that were ended."""
     notes = [re.match(r"@\S+ play 0x([89])0 (\d+) ", line).groups() for line in lines]
-    return [int(note) for status, note in notes if status == "9"], [int(note) for status, note in notes if status == "8"]
+    return tuple([int(note) for status, note in notes if status == wanted] for wanted in "98")
 
 
 class KeyPositionsTest(unittest.TestCase):

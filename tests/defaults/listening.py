@@ -45,7 +45,7 @@ class Take:
     def __init__(self, *lines):
         self.now = 0
         self.lines = [*lines]
-        self.wait(PAUSE)
+        self.wait(100)  # What the set-up sends of its own.
 
     def wait(self, ppq):
         self.lines.append(f"run {self.now} {self.now + ppq} {STEP}")

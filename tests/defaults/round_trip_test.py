@@ -10,6 +10,7 @@ import unittest
 from desk import DEFAULTS, PRESET_FOLDERS, DataFolder, presets, read_text
 
 PROGRAM = []
+HEADER = b'<?xml version="1.0" encoding="utf-8"?>\n\n'
 ELEMENT_ID = {"keys": r'^\t<Key id="([^"]*)"', "controls": r'^\t<Control cell="([^"]*)"'}
 
 
@@ -27,7 +28,7 @@ def merged_elements(kind, text):
 class RoundTripTest(unittest.TestCase):
     def checkSaved(self, folder, name, original, saved):
         self.assertTrue(saved.exists(), f"{name}: not saved")
-        self.assertEqual(original.decode(), read_text(saved).decode(), f"{name}: saved otherwise than it is in {folder}")
+        self.assertEqual(original.decode(), read_text(saved).decode(), f"{folder}: {name} is saved otherwise")
 
     def testPresetsAreSavedAsTheyAre(self):
         with DataFolder(PROGRAM) as data:
@@ -75,7 +76,7 @@ class RoundTripTest(unittest.TestCase):
                 data.run(lines)
                 for number, block in enumerate(blocks):
                     with self.subTest(bank=bank.name, program=number):
-                        file = b'<?xml version="1.0" encoding="utf-8"?>\n\n<ProgramFile>\n' + block + b"</ProgramFile>\n"
+                        file = HEADER + b"<ProgramFile>\n" + block + b"</ProgramFile>\n"
                         self.checkSaved(bank.name, number, file, data.path / f"saved{number}.prg")
                 self.checkSaved(DEFAULTS, bank.name, original, data.path / bank.name)
 
