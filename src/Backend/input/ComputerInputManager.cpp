@@ -11,12 +11,6 @@
 
 namespace Backend::ComputerInput {
 
-namespace {
-
-constexpr const char* PRESET_FOLDER = "Computer Input Presets";
-
-}
-
 ComputerInputManager::ComputerInputManager(MirelIF& mirel, MessageManagerMaster& master)
     : m_mirel(mirel), m_presets(PRESET_FOLDER), m_messageManager(master, *this) {}
 

@@ -1,4 +1,5 @@
 // The desk without a window.
+#include "Host/cli/CheckCommand.h"
 #include "Host/cli/ExitStatus.h"
 #include "Host/cli/PortsCommand.h"
 #include "Host/cli/RenderCommand.h"
@@ -20,6 +21,7 @@ struct Command {
 };
 
 constexpr std::array COMMANDS = {
+    Command{"check", Host::Cli::runCheck, "says what the desk would ignore in programs, banks, presets and sequences"},
     Command{"ports", Host::Cli::runPorts, "lists the MIDI inputs and outputs"},
     Command{"render", Host::Cli::runRender, "plays a MIDI file through layers and zones into another MIDI file"},
     Command{"script", Host::Cli::runScript, "drives a desk from a text file and prints what it plays"},
