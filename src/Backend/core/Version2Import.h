@@ -16,6 +16,9 @@ class MirelIF;
 // understood in it takes its default. [backend]
 class Version2Import {
 public:
+    // The preset on top of whose keys those of a file stand, and that a program without keys refers to.
+    static constexpr const char* BASE_PRESET = "000 - Default";
+
     Version2Import(MirelIF& mirel, const SequenceManagement::SequencePresetManager& sequences)
         : m_mirel(mirel), m_sequences(sequences) {}
 

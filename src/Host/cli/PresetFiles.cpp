@@ -5,8 +5,6 @@
 #include "Platform/Files.h"
 #include "Platform/SystemPath.h"
 
-#include <algorithm>
-
 namespace Host::Cli {
 
 namespace Files = Platform::Files;
@@ -41,14 +39,23 @@ bool PresetFiles::contains(const std::string& folder, const std::string& name, c
     const std::string fileName = name + extension;
     const auto [entry, isNew] = m_known.try_emplace(Files::join(folder, fileName), false);
     if (isNew)
-        entry->second = Backend::isUsableFileName(name) && isAnywhere(folder, fileName);
+        entry->second = Backend::isUsableFileName(name) && !find(folder, fileName).empty();
     return entry->second;
 }
 
-bool PresetFiles::isAnywhere(const std::string& folder, const std::string& fileName) const {
-    return std::any_of(m_places.begin(), m_places.end(), [&](const std::string& place) {
-        return Files::size(Files::join(Files::join(place, folder), fileName)).has_value();
-    });
+std::optional<std::string> PresetFiles::read(const std::string& folder, const std::string& name,
+                                             const std::string& extension) const {
+    const std::string path = find(folder, name + extension);
+    return path.empty() ? std::nullopt : Files::read(path);
+}
+
+std::string PresetFiles::find(const std::string& folder, const std::string& fileName) const {
+    for (const std::string& place : m_places) {
+        const std::string path = Files::join(Files::join(place, folder), fileName);
+        if (Files::size(path))
+            return path;
+    }
+    return {};
 }
 
 }

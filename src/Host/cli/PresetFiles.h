@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -16,8 +17,13 @@ public:
     // [any] Whether there is a preset of a name in a folder such as "Layer Presets". No file is read.
     bool contains(const std::string& folder, const std::string& name, const std::string& extension);
 
+    // [any] The content of a preset's file; nothing if there is none.
+    std::optional<std::string> read(const std::string& folder, const std::string& name,
+                                    const std::string& extension) const;
+
 private:
-    bool isAnywhere(const std::string& folder, const std::string& fileName) const;
+    // The path of the first file of a name; empty if there is none.
+    std::string find(const std::string& folder, const std::string& fileName) const;
 
     std::vector<std::string> m_places;
     std::unordered_map<std::string, bool> m_known;  // By folder and name.
