@@ -156,7 +156,9 @@ std::string judgeSelectType(const std::string& text, const std::string& missing,
 
 std::string judgeSelectControlType(const std::string& text, const std::string& missing, const AttributeRule& rule) {
     const SelectControlType type{std::string_view(text)};
-    return type.getMode() == SelectControlType::specific ? judgeCell(text, missing, rule) : std::string();
+    if (type.getMode() != SelectControlType::specific || text == Cell().toXmlString())
+        return {};  // The desk writes a cell that nobody has chosen yet as well.
+    return judgeCell(text, missing, rule);
 }
 
 std::string judgeMidiEvent(const std::string& text, const std::string&, const AttributeRule&) {

@@ -15,7 +15,6 @@ namespace {
 
 // What the desk looks for in lines.
 constexpr std::string_view PROGRAM_START = "<Program ";
-constexpr std::string_view PROGRAM_START_OF_LINE = "<Program";
 constexpr std::string_view PROGRAM_END = "</Program>";
 constexpr std::string_view BANK_END = "</Bank>";
 
@@ -58,7 +57,7 @@ private:
     }
 
     void checkOther(const XmlMarkup& markup) {
-        for (const std::string_view tag : {PROGRAM_START_OF_LINE, PROGRAM_END, BANK_END})
+        for (const std::string_view tag : {PROGRAM_START, PROGRAM_END, BANK_END})
             if (contains(markup.text, tag))
                 complain(markup, "\"" + std::string(tag) +
                                      "\" in a comment or the like is taken for a tag when the bank is changed");
@@ -70,8 +69,9 @@ private:
             m_isInProgram = isProgram && markup.kind == XmlMarkup::Kind::START_TAG;
         if (isProgram)
             checkProgramTag(markup);
-        else if (markup.isStart() && markup.text.starts_with(PROGRAM_START_OF_LINE))
-            complain(markup, "<" + std::string(markup.name()) + "> is taken for a program when the bank is changed");
+        else if (markup.name() == PROGRAM_TAG)
+            complain(markup,
+                     "an element Program that is no child of the bank is taken for one when the bank is changed");
         else if (level == BANK_LEVEL && markup.kind == XmlMarkup::Kind::END_TAG && markup.text != BANK_END)
             complain(markup, "the bank's end tag must be just " + std::string(BANK_END));
         if (isProgram || isEndOfBank(markup, level) || (level == COMPONENT_LEVEL && m_isInProgram))
