@@ -17,6 +17,7 @@ struct XmlNode {
     std::vector<std::pair<std::string, std::string>> attributes;  // In the order of the file.
     std::string text;  // Of a run of text alone; an element's text stands in its children.
     std::vector<XmlNode> children;
+    int line = 0;  // Of an element's start tag, from 1; 0 unless lines were asked for.
 };
 
 // Levels of elements, the root's included, that a document may have; a deeper one is malformed to us.
@@ -33,6 +34,9 @@ inline constexpr std::size_t XML_MAX_RUN = 8u << 20;
 // above. External entities are never read. Parsers differ in namespaces, so there are none: declarations of namespaces
 // are left out of the tree, and a name with a prefix other than "xml" is refused.
 std::unique_ptr<XmlNode> readXml(std::string_view document);
+
+// [any] The same, and the line of each element, for who tells a user what stands where.
+std::unique_ptr<XmlNode> readXmlWithLines(std::string_view document);
 
 // A thread that reads XML all the time keeps the system's parser ready between these two. Not required for readXml.
 void enterXmlThread();

@@ -241,25 +241,35 @@ std::optional<Encoding> encodingOfName(const std::string& name) {
     return std::nullopt;
 }
 
-// White space at the end is none of the parser's business; some count it against a limit of their own.
-std::optional<std::string> withoutTrailingSpace(std::optional<std::string> text) {
-    if (text)
-        text->erase(text->find_last_not_of(WHITE_SPACE) + 1);
-    return text;
+int countLineEnds(std::string_view text) {
+    int count = 0;
+    for (std::size_t i = 0; i < text.size(); ++i)
+        if (text[i] == '\n' || (text[i] == '\r' && text.substr(i + 1, 1) != "\n"))
+            ++count;
+    return count;
 }
 
-std::optional<std::string> withoutDeclaration(std::optional<std::string> text) {
+// White space at the end is none of the parser's business; some count it against a limit of their own.
+std::optional<DecodedXml> withoutTrailingSpace(std::optional<std::string> text, int firstLine) {
+    if (!text)
+        return std::nullopt;
+    text->erase(text->find_last_not_of(WHITE_SPACE) + 1);
+    return DecodedXml{std::move(*text), firstLine};
+}
+
+std::optional<DecodedXml> withoutDeclaration(const std::optional<std::string>& text) {
     if (!text)
         return std::nullopt;
     const auto declaration = DeclarationReader(*text).read();
     if (!declaration)
         return std::nullopt;
-    return withoutTrailingSpace(text->substr(declaration->length));
+    return withoutTrailingSpace(text->substr(declaration->length),
+                                1 + countLineEnds(std::string_view(*text).substr(0, declaration->length)));
 }
 
 }
 
-std::optional<std::string> decodeXml(std::string_view document) {
+std::optional<DecodedXml> decodeXml(std::string_view document) {
     using namespace std::string_view_literals;
     if (document.starts_with("\xEF\xBB\xBF"))
         return withoutDeclaration(toUtf8(document.substr(3), Encoding::UTF_8, false));
@@ -276,7 +286,8 @@ std::optional<std::string> decodeXml(std::string_view document) {
     // A declaration that can be read byte by byte contradicts an encoding of two bytes.
     if (!encoding || encoding == Encoding::UTF_16)
         return std::nullopt;
-    return withoutTrailingSpace(toUtf8(document.substr(declaration->length), *encoding, false));
+    return withoutTrailingSpace(toUtf8(document.substr(declaration->length), *encoding, false),
+                                1 + countLineEnds(document.substr(0, declaration->length)));
 }
 
 std::string withXmlCharacters(std::string_view text) {

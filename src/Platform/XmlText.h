@@ -7,10 +7,15 @@
 
 namespace Platform {
 
+struct DecodedXml {
+    std::string text;
+    int firstLine = 1;  // The line of the document on which the text begins.
+};
+
 // [any] The document as UTF-8 without byte order mark, XML declaration and white space at its end, with line ends as
 // newlines. A byte order mark wins over the declared encoding. Nothing if the declaration is malformed, the encoding is
 // unknown, or the bytes are not in it or hold a character that XML doesn't allow.
-std::optional<std::string> decodeXml(std::string_view document);
+std::optional<DecodedXml> decodeXml(std::string_view document);
 
 // [any] UTF-8 text with the replacement character (U+FFFD) for every byte that is none and every character that no
 // document can hold.

@@ -19,19 +19,14 @@ namespace Backend {
 using namespace WindowMessages;
 using MidiEngine::MirelMidiMessage;
 
-namespace {
-
-constexpr const char* SEQUENCE_FOLDER = "Sequences";
-
-}
-
 Mirel::Mirel(const std::string& name, MidiEngine::MidiPlayer& player)
     : m_name(name),
       m_messageManager(m_messageManagerMaster, *this),
       m_settingsStore(MirelUtils::createSettingsStore()),
       m_registrySettings(*m_settingsStore),
       m_midiEngine(*this, player),
-      m_sequencePresets(Platform::Files::join(MirelUtils::getMirelAppDataDir(), SEQUENCE_FOLDER)),
+      m_sequencePresets(
+          Platform::Files::join(MirelUtils::getMirelAppDataDir(), SequenceManagement::SequencePresetManager::FOLDER)),
       m_computerInput(*this, m_messageManagerMaster),
       m_controls(*this, m_messageManagerMaster),
       m_layers(*this, m_messageManagerMaster, m_sequencePresets),

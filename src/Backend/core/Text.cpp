@@ -1,5 +1,7 @@
 #include "Backend/core/Text.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 
 namespace Backend::Text {
@@ -7,6 +9,12 @@ namespace Backend::Text {
 namespace {
 
 constexpr std::string_view WHITE_SPACE = " \t\n\v\f\r";
+constexpr std::array<std::string_view, 4> TRUE_TEXTS = {"true", "TRUE", "yes", "YES"};
+constexpr std::array<std::string_view, 4> FALSE_TEXTS = {"false", "FALSE", "no", "NO"};
+
+bool isOneOf(const std::array<std::string_view, 4>& texts, std::string_view text) {
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
+}
 
 }
 
@@ -36,6 +44,14 @@ std::optional<std::int32_t> readInteger(std::string_view text) {
 
 std::int32_t readInteger(std::string_view text, std::int32_t defaultValue) {
     return readInteger(text).value_or(defaultValue);
+}
+
+std::optional<bool> readBool(std::string_view text) {
+    if (isOneOf(TRUE_TEXTS, text))
+        return true;
+    if (isOneOf(FALSE_TEXTS, text))
+        return false;
+    return std::nullopt;
 }
 
 }

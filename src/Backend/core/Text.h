@@ -17,6 +17,10 @@ std::optional<std::int32_t> readInteger(std::string_view text);
 // The same with a value for text that holds no such number.
 std::int32_t readInteger(std::string_view text, std::int32_t defaultValue);
 
+// The flag that a text stands for: "true", "TRUE", "yes", "YES" and their opposites, in just these spellings. Nothing
+// for any other text.
+std::optional<bool> readBool(std::string_view text);
+
 // The low byte of a number, as the fields of one byte keep it.
 constexpr char lowByte(std::int32_t number) {
     return static_cast<char>(static_cast<unsigned char>(number & 0xff));

@@ -27,7 +27,6 @@ constexpr char PROGRAM = 'P';
 constexpr char KEYS = 'K';
 constexpr char CONTROLS = 'C';
 constexpr char LAYERS = 'L';
-constexpr const char* BASE_PRESET = "000 - Default";
 constexpr int TRANSPOSES = 10;
 
 struct ProgramHeader {
@@ -127,7 +126,7 @@ void Version2Import::convertProgram(Version2Reader& reader, std::ostream& stream
     stream << getStartTagBegin(BankFile::PROGRAM_TAG) << getAttributeText("name", header.name)
            << getAttributeText("tempo", components.tempo) << getAttributeText("tempoSource", components.tempoSource)
            << getStartTagEnd() << '\n';
-    writeKeys(stream, 1, components.keys, components.keys.empty() ? BASE_PRESET : nullptr);
+    writeKeys(stream, 1, components.keys, components.keys.empty() ? Version2Import::BASE_PRESET : nullptr);
     components.controls.writeXml(stream, 1, {});
     components.layers.writeXml(stream, 1, {});
     makeZones(header.transposes).writeXml(stream, 1, false);

@@ -17,6 +17,9 @@ class MirelIF;
 // than one that can be read, changes nothing; what can't be understood in it takes its default. [backend]
 class Version2Import {
 public:
+    // The preset on top of whose keys those of a file stand, and that a program without keys refers to.
+    static constexpr const char* BASE_PRESET = "000 - Default";
+
     Version2Import(MirelIF& mirel, const SequenceManagement::SequencePresetManager& sequences)
         : m_mirel(mirel), m_sequences(sequences) {}
 

@@ -3,20 +3,9 @@
 #include "Backend/core/Text.h"
 #include "Platform/XmlReader.h"
 
-#include <algorithm>
-#include <array>
-#include <string_view>
-
 namespace Backend {
 
 namespace {
-
-constexpr std::array<std::string_view, 4> TRUE_TEXTS = {"true", "TRUE", "yes", "YES"};
-constexpr std::array<std::string_view, 4> FALSE_TEXTS = {"false", "FALSE", "no", "NO"};
-
-bool isOneOf(const std::array<std::string_view, 4>& texts, std::string_view text) {
-    return std::find(texts.begin(), texts.end(), text) != texts.end();
-}
 
 int childCount(const Platform::XmlNode* element) {
     return element ? static_cast<int>(element->children.size()) : 0;
@@ -48,12 +37,7 @@ std::string XmlElement::getAttribute(const std::string& name) const {
 }
 
 bool XmlElement::getBoolAttribute(const std::string& name, bool defaultValue) const {
-    const std::string text = getAttribute(name);
-    if (isOneOf(TRUE_TEXTS, text))
-        return true;
-    if (isOneOf(FALSE_TEXTS, text))
-        return false;
-    return defaultValue;
+    return Text::readBool(getAttribute(name)).value_or(defaultValue);
 }
 
 int XmlElement::getIntAttribute(const std::string& name, int defaultValue) const {

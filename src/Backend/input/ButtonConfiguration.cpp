@@ -14,9 +14,6 @@ using FunctionManagement::Functions::NoFunction;
 
 namespace {
 
-constexpr const char* FUNCTION_TAG = "Function";
-constexpr const char* DOWN_TAG = "Down";
-constexpr const char* UP_TAG = "Up";
 constexpr const char* KEEP_SENDING = "keepSending";
 
 // Only the first element inside counts. Comments and text are children too.
@@ -31,9 +28,9 @@ ButtonFunction readEntry(const XmlElement& element, MirelIF& mirel) {
     ButtonFunction entry;
     entry.keepSending = element.getBoolAttribute(KEEP_SENDING, false);
     for (auto child = element.begin(); child != element.end(); child.next()) {
-        if (child.getName() == DOWN_TAG && !entry.downFunction)
+        if (child.getName() == ButtonConfiguration::DOWN_TAG && !entry.downFunction)
             entry.downFunction = readSlot(child, mirel);
-        else if (child.getName() == UP_TAG && !entry.upFunction)
+        else if (child.getName() == ButtonConfiguration::UP_TAG && !entry.upFunction)
             entry.upFunction = readSlot(child, mirel);
     }
     return entry;

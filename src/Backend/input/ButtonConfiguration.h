@@ -17,6 +17,11 @@ class XmlElement;
 // count from 0.
 class ButtonConfiguration {
 public:
+    // The elements of an entry and of its two functions.
+    static constexpr const char* FUNCTION_TAG = "Function";
+    static constexpr const char* DOWN_TAG = "Down";
+    static constexpr const char* UP_TAG = "Up";
+
     virtual ~ButtonConfiguration() = default;
 
     // The button's element on lines of its own, indent tabs deep.

@@ -13,8 +13,6 @@ namespace Backend::ComputerInput {
 
 namespace {
 
-constexpr const char* PRESET_FOLDER = "Computer Input Presets";
-
 // Some keyboards send the code that a key without a name has the low byte of, for keys of their own.
 bool isNoKey(const Key& key) {
     constexpr std::int32_t LOW_BYTE = 0xff;

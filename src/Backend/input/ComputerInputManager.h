@@ -19,6 +19,9 @@ namespace Backend::ComputerInput {
 // The keys of the current program and what a key event does. [backend]
 class ComputerInputManager {
 public:
+    // The folder of its preset files below the one for the desk's data.
+    static constexpr const char* PRESET_FOLDER = "Computer Input Presets";
+
     ComputerInputManager(MirelIF& mirel, MessageManagerMaster& master);
 
     ComputerInputManager(const ComputerInputManager&) = delete;

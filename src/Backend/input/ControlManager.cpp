@@ -19,7 +19,6 @@ using MidiEngine::MirelMidiMessage;
 
 namespace {
 
-constexpr const char* PRESET_FOLDER = "Control Presets";
 constexpr int GRID_SIZE = 16;
 constexpr std::int32_t LOWEST_VALUE = 0;
 constexpr std::int32_t HIGHEST_VALUE = 127;

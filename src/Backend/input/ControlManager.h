@@ -22,6 +22,9 @@ namespace Backend::Controls {
 // The controls of the current program. [backend]
 class ControlManager {
 public:
+    // The folder of its preset files below the one for the desk's data.
+    static constexpr const char* PRESET_FOLDER = "Control Presets";
+
     ControlManager(MirelIF& mirel, MessageManagerMaster& master);
 
     ControlManager(const ControlManager&) = delete;

@@ -19,6 +19,9 @@ namespace Backend::ArpeggioManagement {
 // lock; until it is given an engine nothing plays and nothing is held.
 class Arpeggio {
 public:
+    // The element of a layer that holds the arpeggio's own.
+    static constexpr const char* TAG = "Arpeggio";
+
     static constexpr std::int32_t DEFAULT_PPQ = 480;
 
     // A note beyond this many is not taken, so that keys that never go up can't fill the memory.

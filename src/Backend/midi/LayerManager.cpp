@@ -15,12 +15,6 @@
 
 namespace Backend::Layers {
 
-namespace {
-
-constexpr const char* PRESET_FOLDER = "Layer Presets";
-
-}
-
 LayerManager::LayerManager(MirelIF& mirel, MessageManagerMaster& master,
                            const SequenceManagement::SequencePresetManager& sequences)
     : m_mirel(mirel), m_sequences(sequences), m_presets(PRESET_FOLDER), m_messageManager(master, *this) {}

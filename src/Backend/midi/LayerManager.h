@@ -24,6 +24,9 @@ namespace Backend::Layers {
 // ends, and the window. [backend]
 class LayerManager {
 public:
+    // The folder of its preset files below the one for the desk's data.
+    static constexpr const char* PRESET_FOLDER = "Layer Presets";
+
     LayerManager(MirelIF& mirel, MessageManagerMaster& master,
                  const SequenceManagement::SequencePresetManager& sequences);
 

@@ -9,8 +9,6 @@ namespace Backend::Layers {
 
 namespace {
 
-constexpr const char* ARPEGGIO_TAG = "Arpeggio";
-
 Note readNote(const XmlElement& element, const char* name, const Note& defaultNote) {
     const std::string text = element.getAttribute(name);
     return text.empty() ? defaultNote : Note(text);
@@ -59,7 +57,7 @@ Layer::Layer(const XmlElement& element, const SequenceManagement::SequencePreset
     velocity = readValue(element, "velocity");
     compress = Fraction(element.getAttribute("compress"));
     for (auto child = element.begin(); child != element.end(); child.next()) {
-        if (child.getName() == ARPEGGIO_TAG)
+        if (child.getName() == ArpeggioManagement::Arpeggio::TAG)
             arpeggio = readArpeggio(child);
         else if (child.getName() == SequenceManagement::SequenceSetting::TAG)
             sequenceSetting = SequenceManagement::SequenceSetting(child, presets);
@@ -84,9 +82,9 @@ void Layer::writeXml(std::ostream& stream, int indent) const {
            << getAttributeText("velocity", velocity)           //
            << getAttributeText("compress", compress) << getStartTagEnd() << '\n';
     if (arpeggio) {
-        stream << getIndentation(indent + 1) << getStartTag(ARPEGGIO_TAG) << '\n';
+        stream << getIndentation(indent + 1) << getStartTag(ArpeggioManagement::Arpeggio::TAG) << '\n';
         arpeggio->writeXml(stream, indent + 2);
-        stream << getIndentation(indent + 1) << getEndTag(ARPEGGIO_TAG) << '\n';
+        stream << getIndentation(indent + 1) << getEndTag(ArpeggioManagement::Arpeggio::TAG) << '\n';
     }
     if (sequenceSetting.getSequence().hasNodes())
         sequenceSetting.writeXml(stream, indent + 1);

@@ -14,6 +14,9 @@ using SequencePresetList = std::vector<std::string>;
 // threads that have an object of their own]
 class SequencePresetManager {
 public:
+    // The folder of the desk's files below the one for its data.
+    static constexpr const char* FOLDER = "Sequences";
+
     static constexpr const char* EXTENSION = ".seq";
 
     // The folder that holds the files; its list is read at once. A folder that is missing holds none, and one without a

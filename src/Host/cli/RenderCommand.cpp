@@ -59,9 +59,10 @@ XmlDocument readDocument(const std::string& path, const char* tag) {
 }
 
 Layers::LayerList readLayers(const RenderOptions& options) {
-    const std::string sequences =
-        options.dataFolder.empty() ? std::string() : Platform::Files::join(options.dataFolder, "Sequences");
-    const SequenceManagement::SequencePresetManager presets(sequences);
+    using SequenceManagement::SequencePresetManager;
+    const SequencePresetManager presets(options.dataFolder.empty()
+                                            ? std::string()
+                                            : Platform::Files::join(options.dataFolder, SequencePresetManager::FOLDER));
     const XmlDocument document = options.layersFile.empty() ? XmlDocument(Layers::LayerList::DEFAULT_XML, false)
                                                             : readDocument(options.layersFile, Layers::LayerList::TAG);
     Layers::LayerList layers;

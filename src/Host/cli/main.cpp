@@ -1,5 +1,7 @@
 // The desk without a window.
+#include "Host/cli/CheckCommand.h"
 #include "Host/cli/ExitStatus.h"
+#include "Host/cli/ImportCommand.h"
 #include "Host/cli/PortsCommand.h"
 #include "Host/cli/RenderCommand.h"
 #include "Host/cli/RunCommand.h"
@@ -21,6 +23,8 @@ struct Command {
 };
 
 constexpr std::array COMMANDS = {
+    Command{"check", Host::Cli::runCheck, "says what the desk would ignore in programs, banks, presets and sequences"},
+    Command{"import", Host::Cli::runImport, "converts a version 2 bank, program or preset"},
     Command{"ports", Host::Cli::runPorts, "lists the MIDI inputs and outputs"},
     Command{"render", Host::Cli::runRender, "plays a MIDI file through layers and zones into another MIDI file"},
     Command{"run", Host::Cli::runRun, "plays in real time on MIDI ports"},

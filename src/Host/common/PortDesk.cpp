@@ -43,12 +43,14 @@ void PortDesk::start() {
 bool PortDesk::stop() {
     if (!m_isRunning.exchange(false))
         return true;
+    // The ports first, as what comes in there would wait for a desk that has ended. The player goes on until the desk
+    // has ended, which may need a slice.
     const bool watchEnded = m_watcher->stop();
-    // The player goes on until the desk has ended, which may wait for a slice.
+    const bool portsClosed = m_ports.close();
     m_mirel->getMessageManager().sendEnd();
     m_mirel->stop();
     m_player.stop();
-    return m_ports.close() && watchEnded;
+    return watchEnded && portsClosed;
 }
 
 void PortDesk::waitUntilIdle() {

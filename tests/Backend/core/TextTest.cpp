@@ -23,6 +23,15 @@ TEST(TextTest, TextWithoutAReadableNumberGivesTheDefault) {
         EXPECT_EQ(readInteger(text, 42), 42) << text;
 }
 
+TEST(TextTest, ReadsFlagsInTheirSpellings) {
+    for (const char* text : {"true", "TRUE", "yes", "YES"})
+        EXPECT_EQ(readBool(text), true) << text;
+    for (const char* text : {"false", "FALSE", "no", "NO"})
+        EXPECT_EQ(readBool(text), false) << text;
+    for (const char* text : {"", "True", "1", "0", "on", " true"})
+        EXPECT_EQ(readBool(text), std::nullopt) << text;
+}
+
 TEST(TextTest, LowByteWraps) {
     EXPECT_EQ(lowByte(200), -56);
     EXPECT_EQ(lowByte(-1), -1);

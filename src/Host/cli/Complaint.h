@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace Host::Cli {
+
+// One thing to say of a file.
+struct Complaint {
+    int line;  // From 1.
+    std::string text;
+};
+
+using Complaints = std::vector<Complaint>;
+
+}
