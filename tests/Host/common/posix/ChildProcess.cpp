@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/ioctl.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -38,17 +39,41 @@ std::vector<std::string> environmentWith(const std::map<std::string, std::string
     return all;
 }
 
+// The near end, and the one for the other program.
+struct Ends {
+    int nearEnd;
+    int farEnd;
+};
+
+Ends openPipe() {
+    std::array<int, 2> pipe{};
+    if (::pipe2(pipe.data(), O_CLOEXEC) != 0)
+        throw std::runtime_error("no pipe");
+    return {pipe[0], pipe[1]};
+}
+
+Ends openTerminal() {
+    std::array<char, 128> name{};
+    const int nearEnd = ::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
+    if (nearEnd < 0 || ::grantpt(nearEnd) != 0 || ::unlockpt(nearEnd) != 0 ||
+        ::ptsname_r(nearEnd, name.data(), name.size()) != 0)
+        throw std::runtime_error("no terminal");
+    const int farEnd = ::open(name.data(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+    if (farEnd < 0)
+        throw std::runtime_error("no terminal");
+    return {nearEnd, farEnd};
+}
+
 }
 
 ChildProcess::ChildProcess(const std::vector<std::string>& arguments,
-                           const std::map<std::string, std::string>& environment) {
+                           const std::map<std::string, std::string>& environment, Streams streams) {
     std::vector<std::string> argumentTexts = arguments;
     std::vector<std::string> environmentTexts = environmentWith(environment);
     const std::vector<char*> argumentPointers = pointersTo(argumentTexts);
     const std::vector<char*> environmentPointers = pointersTo(environmentTexts);
-    std::array<int, 2> pipe{};
-    if (::pipe2(pipe.data(), O_CLOEXEC) != 0)
-        throw std::runtime_error("no pipe");
+    const bool hasTerminal = streams == Streams::TERMINAL;
+    const auto [nearEnd, farEnd] = hasTerminal ? openTerminal() : openPipe();
     const pid_t parent = ::getpid();
     m_pid = ::fork();
     if (m_pid == 0) {
@@ -56,13 +81,18 @@ ChildProcess::ChildProcess(const std::vector<std::string>& arguments,
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
         if (::getppid() != parent)
             ::_exit(COULD_NOT_START);
-        ::dup2(pipe[1], STDOUT_FILENO);
-        ::dup2(pipe[1], STDERR_FILENO);
+        if (hasTerminal) {
+            ::setsid();
+            ::ioctl(farEnd, TIOCSCTTY, 0);
+            ::dup2(farEnd, STDIN_FILENO);
+        }
+        ::dup2(farEnd, STDOUT_FILENO);
+        ::dup2(farEnd, STDERR_FILENO);
         ::execvpe(argumentPointers[0], argumentPointers.data(), environmentPointers.data());
         ::_exit(COULD_NOT_START);
     }
-    ::close(pipe[1]);
-    m_outputEnd = pipe[0];
+    ::close(farEnd);
+    m_outputEnd = nearEnd;
     if (m_pid < 0)
         throw std::runtime_error("no process");
     m_reader = std::thread([this] {
@@ -79,11 +109,32 @@ ChildProcess::~ChildProcess() {
     end();
 }
 
-void ChildProcess::waitForIt() {
-    ::waitpid(m_pid, nullptr, 0);
+int ChildProcess::waitForIt() {
+    int status = 0;
+    ::waitpid(m_pid, &status, 0);
     m_pid = -1;
     m_reader.join();
     ::close(m_outputEnd);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+}
+
+void ChildProcess::signal(int number) const {
+    if (m_pid > 0)
+        ::kill(m_pid, number);
+}
+
+bool ChildProcess::hasEnded() const {
+    siginfo_t info = {};
+    return m_pid < 0 || ::waitid(P_PID, static_cast<id_t>(m_pid), &info, WEXITED | WNOHANG | WNOWAIT) != 0 ||
+           info.si_pid != 0;
+}
+
+int ChildProcess::waitForExit() {
+    return m_pid < 0 ? -1 : waitForIt();
+}
+
+void ChildProcess::type(const std::string& bytes) const {
+    [[maybe_unused]] const auto written = ::write(m_outputEnd, bytes.data(), bytes.size());
 }
 
 void ChildProcess::end() {
@@ -92,8 +143,7 @@ void ChildProcess::end() {
     ::kill(m_pid, SIGCONT);
     ::kill(m_pid, SIGTERM);
     const auto limit = std::chrono::steady_clock::now() + PATIENCE;
-    siginfo_t info = {};
-    while (::waitid(P_PID, static_cast<id_t>(m_pid), &info, WEXITED | WNOHANG | WNOWAIT) == 0 && info.si_pid == 0) {
+    while (!hasEnded()) {
         if (std::chrono::steady_clock::now() > limit)
             ::kill(m_pid, SIGKILL);
         std::this_thread::yield();

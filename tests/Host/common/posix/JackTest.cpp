@@ -3,17 +3,14 @@
 #include "Host/common/PortPlayer.h"
 #include "Host/common/posix/JackServer.h"
 #include "tests/Host/common/posix/ChildProcess.h"
+#include "tests/Host/common/posix/JackTestServer.h"
 #include "tests/support/Eventually.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/file.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cstdlib>
 #include <mutex>
-#include <optional>
 
 namespace Host {
 namespace {
@@ -31,65 +28,18 @@ bool contains(const std::vector<MidiPortId>& ids, const std::string& name) {
     return std::find(ids.begin(), ids.end(), MidiPortId{name, 1}) != ids.end();
 }
 
-// A server name that no other test uses at the same time. JACK's list of servers on a computer is short, and one that
-// was killed stays on it until another one takes its name; so there are few names, and each test takes a free one.
-class JackServerName {
-public:
-    JackServerName() {
-        const bool isFound = eventually([this] {
-            for (int number = 1; number <= NAMES && m_lock < 0; ++number)
-                tryName(std::string("mirel-test-") + std::to_string(number));
-            return m_lock >= 0;
-        });
-        EXPECT_TRUE(isFound);
-    }
-
-    // The system takes the lock back also when the test dies.
-    ~JackServerName() { ::close(m_lock); }
-    JackServerName(const JackServerName&) = delete;
-    JackServerName& operator=(const JackServerName&) = delete;
-
-    const std::string& get() const { return m_name; }
-
-private:
-    static constexpr int NAMES = 4;
-
-    void tryName(const std::string& name) {
-        const int file = ::open(("/tmp/" + name + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
-        if (file >= 0 && ::flock(file, LOCK_EX | LOCK_NB) == 0) {
-            m_lock = file;
-            m_name = name;
-        } else if (file >= 0) {
-            ::close(file);
-        }
-    }
-
-    int m_lock = -1;
-    std::string m_name;
-};
-
 class JackTest : public testing::Test {
 protected:
-    JackTest() {
-        // Read by JACK's library in this process and in all that it starts.
-        ::setenv("JACK_DEFAULT_SERVER", m_serverName.c_str(), 1);
-        ::setenv("JACK_NO_AUDIO_RESERVATION", "1", 1);
-    }
-
     ~JackTest() override {
         m_ports = nullptr;
         m_programs.clear();
     }
 
-    // The server goes on without a client that is late, and what that one should have heard in the meantime is lost. So
-    // its cycles are long, and on a busy computer an event must be played more than once.
-    void startServer() {
-        m_server.emplace(
-            std::vector<std::string>{"jackd", "-n", m_serverName, "-r", "-d", "dummy", "-r", "48000", "-p", "1024"});
-        ASSERT_TRUE(eventually([] { return JackServer::connect("probe") != nullptr; })) << m_server->output();
-    }
+    // The server goes on without a client that is late, and what that one should have heard in the meantime is lost: on
+    // a busy computer an event must be played more than once.
+    void startServer() { ASSERT_TRUE(m_server.start()) << m_server.process()->output(); }
 
-    ChildProcess& server() { return *m_server; }
+    ChildProcess& server() { return *m_server.process(); }
 
     ChildProcess& start(const std::vector<std::string>& arguments) {
         return *m_programs.emplace_back(std::make_unique<ChildProcess>(arguments));
@@ -185,9 +135,7 @@ protected:
     std::unique_ptr<MidiPorts> m_ports;
 
 private:
-    const JackServerName m_name;
-    const std::string m_serverName = m_name.get();
-    std::optional<ChildProcess> m_server;
+    JackTestServer m_server;
     std::vector<std::unique_ptr<ChildProcess>> m_programs;
 };
 

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "Host/common/MidiPorts.h"
+#include "Host/common/ObservedMirel.h"
+#include "Host/common/PortPlayer.h"
+
+#include <atomic>
+#include <cstdint>
+#include <string>
+#include <thread>
+
+namespace Benchmarks {
+
+// A desk with all its threads, on a computer without ports: its one output is the Recorder. It keeps its settings in a
+// folder.
+class BenchDesk {
+public:
+    enum class Slices {
+        EVERY_MILLISECOND,  // The real player.
+        WITHOUT_PAUSE,      // One after the other, so that nobody waits for one.
+    };
+
+    BenchDesk(const std::string& dataFolder, Slices slices);
+    ~BenchDesk();
+    BenchDesk(const BenchDesk&) = delete;
+    BenchDesk& operator=(const BenchDesk&) = delete;
+
+    Backend::Mirel& mirel() { return m_mirel; }
+
+    // Waits asleep until the desk has done all that was posted.
+    void waitUntilIdle();
+
+    // The same without sleep, for what is shorter than a wake-up.
+    void spinUntilIdle();
+
+    // How many slices somebody waited for so far.
+    std::int64_t awaitedSlices() const { return m_awaitedSlices; }
+
+private:
+    void playTimeSlice(std::int32_t from, std::int32_t to);
+    void playWithoutPause();
+
+    const bool m_pauses;
+    Host::MidiPorts m_ports;
+    Host::PortPlayer m_player{m_ports};
+    Host::ObservedMirel m_mirel;
+    std::atomic<std::int64_t> m_awaitedSlices{0};
+    std::atomic<bool> m_isEnding{false};
+    std::thread m_restless;
+};
+
+}

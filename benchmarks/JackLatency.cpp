@@ -1,0 +1,97 @@
+// How long does a note take through a running desk, from another JACK program and back to it?
+//
+// The server has the dummy driver, 64 frames at 48000 a second. Frames are the server's own count: in it are the rest
+// of the cycle in which the note was sent, the slice that plays it and the wait for the cycle that carries it back, as
+// a loop of programs costs a cycle more than a chain. What a card would add for its buffers is not. The clock tells
+// when the program had the note in its hands, so there is in it what the system was late with waking the server and its
+// programs.
+#include "Platform/MonotonicClock.h"
+#include "Platform/Sleep.h"
+#include "Platform/TemporaryFolder.h"
+#include "benchmarks/Report.h"
+#include "benchmarks/RunningProgram.h"
+#include "tests/Host/common/posix/JackTestClient.h"
+#include "tests/Host/common/posix/JackTestServer.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <iterator>
+#include <random>
+
+namespace {
+
+using namespace Benchmarks;
+
+constexpr int NOTES = 3000;
+constexpr std::uint32_t FRAMES_IN_CYCLE = 64;
+constexpr double FRAMES_IN_MILLISECOND = 48;
+constexpr std::int64_t PATIENCE = 20000000;
+
+bool waitForHeard(const Host::JackTestClient& player, std::size_t count) {
+    const std::int64_t start = Platform::monotonicMicroseconds();
+    while (player.heard().size() < count) {
+        if (Platform::monotonicMicroseconds() - start > PATIENCE)
+            return false;
+        Platform::sleepMilliseconds(1);
+    }
+    return true;
+}
+
+// Plays until the first note comes back, and waits until all have.
+bool warmUp(Host::JackTestClient& player) {
+    const std::int64_t start = Platform::monotonicMicroseconds();
+    while (player.heard().empty()) {
+        player.send({0x90, 60, 100});
+        player.send({0x80, 60, 64});
+        Platform::sleepMilliseconds(10);
+        if (Platform::monotonicMicroseconds() - start > PATIENCE)
+            return false;
+    }
+    Platform::sleepMilliseconds(500);
+    return true;
+}
+
+}
+
+int main() {
+    const Platform::TemporaryFolder folder;
+    Host::JackTestServer server;
+    if (!server.start())
+        return 1;
+    Host::JackTestClient player("player");
+    RunningProgram program(folder.getPath(), {"--in", player.output(), "--out", player.input()});
+    if (!program.waitUntilPlaying() || !warmUp(player)) {
+        std::fprintf(stderr, "no note came through the desk: %s\n", program.output().c_str());
+        return 1;
+    }
+    std::mt19937 random(1);
+    std::vector<double> byFrames;
+    std::vector<double> byClock;
+    int lost = 0;
+    for (int i = 0; i < NOTES; ++i) {
+        const auto note = static_cast<std::uint8_t>(i % 2 == 0 ? 60 : 72);
+        const std::size_t before = player.heard().size();
+        const std::size_t sentBefore = player.sent().size();
+        player.send({0x90, note, 100}, static_cast<std::uint32_t>(random() % FRAMES_IN_CYCLE));
+        if (!waitForHeard(player, before + 1)) {
+            ++lost;  // A server that does not wait for its clients may lose one.
+        } else {
+            const auto sent = player.sent()[sentBefore];
+            const auto heard = player.heard()[before];
+            byFrames.push_back(static_cast<double>(heard.frame - sent.frame) / FRAMES_IN_MILLISECOND);
+            byClock.push_back(static_cast<double>(heard.microseconds - sent.microseconds) / 1000);
+        }
+        player.send({0x80, note, 64});
+        Platform::sleepMilliseconds(4 + static_cast<unsigned>(random() % 8));
+    }
+    const double typical = percentile(byFrames, 50);
+    std::vector<double> jitter;
+    std::transform(byFrames.begin(), byFrames.end(), std::back_inserter(jitter),
+                   [typical](double latency) { return std::abs(latency - typical); });
+    reportSpread("latency by frames", byFrames, "ms");
+    reportSpread("jitter by frames, from the median", jitter, "ms");
+    reportSpread("latency by the clock", byClock, "ms");
+    report("notes that were lost", lost, "");
+    return 0;
+}

@@ -1,0 +1,70 @@
+// How long does it take from the start of the process until the first note can be played?
+#include "Platform/MonotonicClock.h"
+#include "Platform/Sleep.h"
+#include "Platform/TemporaryFolder.h"
+#include "benchmarks/Report.h"
+#include "benchmarks/RunningProgram.h"
+#include "tests/Host/common/posix/JackTestClient.h"
+#include "tests/Host/common/posix/JackTestServer.h"
+
+#include <cstdio>
+
+namespace {
+
+using namespace Benchmarks;
+
+constexpr int STARTS = 30;
+constexpr double AIM_MILLISECONDS = 150;
+constexpr std::int64_t PATIENCE = 20000000;
+
+double millisecondsSince(std::int64_t start) {
+    return static_cast<double>(Platform::monotonicMicroseconds() - start) / 1000;
+}
+
+// On a computer without MIDI: until it says that it plays, at which moment a note would be played.
+bool measureAlone(const std::string& folder) {
+    std::vector<double> milliseconds;
+    for (int i = 0; i < STARTS; ++i) {
+        const std::int64_t start = Platform::monotonicMicroseconds();
+        RunningProgram program(folder);
+        if (!program.waitUntilPlaying())
+            return false;
+        milliseconds.push_back(millisecondsSince(start));
+    }
+    reportSpread("no MIDI system", milliseconds, "ms", AIM_MILLISECONDS);
+    return true;
+}
+
+// At a JACK server: until the first of the notes that another program plays all the time comes back to it.
+bool measureAtServer(const std::string& folder) {
+    Host::JackTestServer server;
+    if (!server.start())
+        return false;
+    std::vector<double> milliseconds;
+    for (int i = 0; i < STARTS; ++i) {
+        Host::JackTestClient player("player");
+        const std::int64_t start = Platform::monotonicMicroseconds();
+        RunningProgram program(folder, {"--in", player.output(), "--out", player.input()});
+        for (bool isOn = true; player.heard().empty(); isOn = !isOn) {
+            player.send({static_cast<std::uint8_t>(isOn ? 0x90 : 0x80), 60, 100});
+            Platform::sleepMilliseconds(1);
+            if (Platform::monotonicMicroseconds() - start > PATIENCE)
+                return false;
+        }
+        milliseconds.push_back(static_cast<double>(player.heard().front().microseconds - start) / 1000);
+    }
+    reportSpread("JACK, a note through the desk", milliseconds, "ms", AIM_MILLISECONDS);
+    return true;
+}
+
+}
+
+int main() {
+    const Platform::TemporaryFolder folder;
+    // The first of all makes its folders.
+    if (RunningProgram(folder.getPath()).waitUntilPlaying() && measureAlone(folder.getPath()) &&
+        measureAtServer(folder.getPath()))
+        return 0;
+    std::fprintf(stderr, "the desk did not play\n");
+    return 1;
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "tests/Host/common/posix/ChildProcess.h"
+
+#include <string>
+#include <vector>
+
+namespace Benchmarks {
+
+// "mirel run" as a process of its own, on a data folder of the caller's.
+class RunningProgram {
+public:
+    RunningProgram(const std::string& dataFolder, const std::vector<std::string>& options = {});
+
+    // Waits until it has said that it plays. False if it never does.
+    bool waitUntilPlaying();
+
+    int pid() const { return m_process.pid(); }
+    std::string output() const { return m_process.output(); }
+
+private:
+    Host::ChildProcess m_process;
+};
+
+}
