@@ -55,7 +55,7 @@ public:
 
     using MessageManager::MessageManager;
 
-    void post(Action action) { m_master.postMessage(CALL, releaseCopy<WPARAM>(action), 0); }
+    void post(const Action& action) { m_master.postMessage(CALL, releaseCopy<WPARAM>(action), 0); }
 
     bool wantMessage(unsigned int message) override { return message == CALL; }
     void handleMessage(const MSG& message) override { (*takePayload<Action>(message.wParam))(); }
