@@ -1,10 +1,15 @@
 // The start and the end of a desk, and its threads.
 #include "Backend/core/DisplayListener.h"
+#include "Backend/core/MirelFactory.h"
+#include "Backend/core/XmlDocument.h"
+#include "Backend/core/XmlElement.h"
 #include "Backend/functions/RelativeFixedValue.h"
+#include "tests/support/FakeHost.h"
 #include "tests/support/RunningDesk.h"
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <set>
 #include <string>
 #include <thread>
@@ -83,6 +88,41 @@ TEST(DeskLifeTest, TheStartReadsTheSettingsAndHandsThemOn) {
     desk.playSlice(10, 20);
     EXPECT_EQ(desk.takePlayed(), Strings{"0x90 64 77 ch=9 out=1"});
     EXPECT_EQ(desk.log(), "Mirel Console 3.2\r\n0  > In 1\t1\tNote On\t60 (C4)\t100\r\n");
+}
+
+TEST(DeskLifeTest, TheStartEndsWithTheControlsThatSendOnTheirOwn) {
+    RunningDesk desk;
+    desk.start();
+    desk.run([](Mirel& mirel) {
+        const XmlDocument document(
+            "<Controls merge='true'>"
+            "<Control cell='9,0' type='edit' value='5' autoSend='true'>"
+            "<Function midiEvent='Controller Change,20'/></Control>"
+            "<Control cell='9,1' type='edit' value='6'>"
+            "<Function midiEvent='Controller Change,21'/></Control></Controls>",
+            false);
+        mirel.getControls().readXml(document.getRootElement());
+    });
+    desk.playSlice(0, 0);
+    desk.playSlice(0, 1);
+    EXPECT_EQ(desk.takePlayed(), Strings{"0xb0 20 5 ch=0 out=0"});
+    desk.mirel().getMessageManager().sendEndInitialize();
+    desk.settle();
+    desk.playSlice(1, 1);
+    desk.playSlice(1, 2);
+    EXPECT_EQ(desk.takePlayed(), Strings{"0xb0 20 5 ch=0 out=0"});
+}
+
+TEST(DeskLifeTest, TheFactoryMakesADeskThatRestsUntilItIsStarted) {
+    TestSupport::FakeHost host;
+    const std::unique_ptr<MirelIF> mirel(MirelFactory::createMirel("Test", host, true));
+    EXPECT_EQ(mirel->getGuiWindowHandle(), nullptr);
+    EXPECT_EQ(mirel->getTempo(), 120);
+    EXPECT_EQ(mirel->getTempoSource(), -1);
+    EXPECT_EQ(mirel->getCurrentBank().getPath(), "");
+    EXPECT_TRUE(mirel->getMessageManagerMaster().isIdle());
+    mirel->playTimeSlice(0, 1);
+    EXPECT_TRUE(host.played.empty());
 }
 
 TEST(DeskLifeTest, TheEndSavesTheSettings) {

@@ -50,7 +50,7 @@ bool JackTestServer::start(Cycles cycles) {
     std::vector<std::string> command = {"jackd", "-n", m_name, "-r"};
     if (cycles == Cycles::COMPLETE)
         command.insert(command.end(), {"-S", "-t", "5000"});
-    command.insert(command.end(), {"-d", "dummy", "-r", "48000", "-p", "64"});
+    command.insert(command.end(), {"-d", "dummy", "-r", "48000", "-p", "1024"});
     m_process.emplace(command);
     return eventually([] { return JackServer::connect("probe") != nullptr; });
 }
