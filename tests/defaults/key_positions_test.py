@@ -4,12 +4,12 @@
 usage: key_positions_test.py PROGRAM...
 """
 import pathlib
-import re
 import subprocess
 import sys
 import tempfile
 import unittest
 
+import listening
 from desk import DEFAULTS, ROOT, DataFolder, presets, read_text
 
 PROGRAM = []
@@ -26,10 +26,14 @@ POSITIONS = [f"{first + position:03} - Zone {zone} Position {name}{suffix}"
              for position, name in enumerate(["I", "II", "III", "IV", "V", "VI", "VII"])]
 
 
-def played(lines):
+def zone_of(preset):
+    """The number of a preset's zone, as its name counts."""
+    return 2 if "Zone 2" in preset else 1
+
+
+def notes(played):
     """The notes that were started and those that were ended."""
-    notes = [re.match(r"@\S+ play 0x([89])0 (\d+) ", line).groups() for line in lines]
-    return tuple([int(note) for status, note in notes if status == wanted] for wanted in "98")
+    return tuple([event.d1 for event in played if event.status == status] for status in (0x90, 0x80))
 
 
 class KeyPositionsTest(unittest.TestCase):
@@ -50,56 +54,59 @@ class KeyPositionsTest(unittest.TestCase):
         for name, text in made.items():
             self.assertEqual(text.decode(), (FOLDER / f"{name}.pst").read_bytes().decode(), name)
 
-    # Presses all keys of a keyboard one after the other, from the left, and returns what each of them plays.
-    def play(self, data, preset, zone):
-        lines = [f'preset load keys "{preset}"']
-        keys = [*WHITE_KEYS[zone], *BLACK_KEYS[zone]]
-        layer = '<Layers><Layer zone="{}"/></Layers>'.format(zone - 1)
-        results = {}
-        for number, key in enumerate(keys):
-            start = 100 * number
-            lines += [f'key down "{key}"', f"run {start} {start + 50} 10", f'key up "{key}"',
-                      f"run {start + 50} {start + 100} 10"]
-        output = data.run(["desk", "layers", layer, ".", "slice 0 0", *lines])
-        for number, key in enumerate(keys):
-            times = [f"@{time} " for time in range(100 * number, 100 * number + 100, 10)]
-            results[key] = played([line for line in output if line.startswith(tuple(times))])
-        return results
+    # Loads one position after the other, presses all keys of its keyboard and returns what each of them starts and
+    # ends, by preset and key. Only that keyboard's zone plays.
+    def playAll(self):
+        take = listening.Take("desk")
+        starts = {}
+        for preset in POSITIONS:
+            zone = zone_of(preset)
+            take.lines += ["layers", f'<Layers><Layer zone="{zone - 1}"/></Layers>', "."]
+            take.add(f'preset load keys "{preset}"')
+            for key in [*WHITE_KEYS[zone], *BLACK_KEYS[zone]]:
+                starts[preset, key] = take.now
+                take.press(key)
+                take.wait(20)
+                take.release(key)
+                take.wait(20)
+        with DataFolder(PROGRAM) as data:
+            played = listening.events(data.run(take.lines))
+        return {each: notes(listening.between(played, start, start + 40)) for each, start in starts.items()}
 
     def testWhiteKeysWalkUpTheScale(self):
-        with DataFolder(PROGRAM) as data:
-            for index, preset in enumerate(POSITIONS):
-                zone = 2 if index < 14 else 1
-                first = index % 7 - (7 if "octave" in preset else 0)
-                with self.subTest(preset=preset):
-                    notes = self.play(data, preset, zone)
-                    for i, key in enumerate(WHITE_KEYS[zone]):
-                        octave, degree = divmod(first + i, 7)
-                        note = HOME[zone] + 12 * octave + C_MAJOR[degree]
-                        self.assertEqual(([note], [note]), notes[key], key)
+        heard = self.playAll()
+        for index, preset in enumerate(POSITIONS):
+            zone = zone_of(preset)
+            first = index % 7 - (7 if "octave" in preset else 0)
+            with self.subTest(preset=preset):
+                for i, key in enumerate(WHITE_KEYS[zone]):
+                    octave, degree = divmod(first + i, 7)
+                    note = HOME[zone] + 12 * octave + C_MAJOR[degree]
+                    self.assertEqual(([note], [note]), heard[preset, key], key)
 
     def testBlackKeysLieBetweenTheirWhiteKeys(self):
-        with DataFolder(PROGRAM) as data:
-            for index, preset in enumerate(POSITIONS):
-                zone = 2 if index < 14 else 1
-                with self.subTest(preset=preset):
-                    notes = self.play(data, preset, zone)
-                    for i, key in enumerate(BLACK_KEYS[zone]):
-                        left = WHITE_KEYS[zone][i - 1] if i > 0 else None
-                        note = notes[left][0][0] + 1 if left else notes[WHITE_KEYS[zone][0]][0][0] - 1
-                        expected = [] if note % 12 in C_MAJOR else [note]
-                        self.assertEqual((expected, expected), notes[key], key)
+        heard = self.playAll()
+        for preset in POSITIONS:
+            zone = zone_of(preset)
+            with self.subTest(preset=preset):
+                for i, key in enumerate(BLACK_KEYS[zone]):
+                    neighbour = heard[preset, WHITE_KEYS[zone][max(i - 1, 0)]][0][0]
+                    note = neighbour + 1 if i > 0 else neighbour - 1
+                    expected = [] if note % 12 in C_MAJOR else [note]
+                    self.assertEqual((expected, expected), heard[preset, key], key)
 
     def testTheOtherKeyboardStays(self):
+        lines = ["desk", "print keys"]
+        for preset in POSITIONS:
+            lines += [f'preset load keys "{preset}"', "print keys"]
         with DataFolder(PROGRAM) as data:
-            before = data.run(["desk", "print keys"])
-            for preset in POSITIONS:
-                other = "1" if "Zone 1" in preset else "0"
-                after = data.run(["desk", f'preset load keys "{preset}"', "print keys"])
-                own = f'zone="{1 - int(other)}"'
-                self.assertEqual([line for line in before if f'zone="{other}"' in line],
-                                 [line for line in after if f'zone="{other}"' in line], preset)
-                self.assertNotEqual([], [line for line in after if own in line], preset)
+            maps = "\n".join(data.run(lines)).split("</ComputerInput>\n")
+        self.assertEqual(len(POSITIONS) + 1, len(maps))
+        for preset, before, after in zip(POSITIONS, maps, maps[1:]):
+            other = f'zone="{2 - zone_of(preset)}"'
+            self.assertIn(other, before)
+            before, after = ([line for line in text.splitlines() if other in line] for text in (before, after))
+            self.assertEqual(before, after, preset)
 
     def testPositionIIsHome(self):
         with DataFolder(PROGRAM) as data:

@@ -95,46 +95,55 @@ class LayerPresetsTest(unittest.TestCase):
     def testEachPresetIsHeard(self):
         self.assertEqual(sorted({*HELD, *ARPEGGIOS, *TOGGLED}), presets("layers"))
 
+    # The presets are loaded one after the other in one desk; what one left behind would be heard in the next one.
     def testHeldKeys(self):
+        take = listening.Take("desk")
+        times = []
         for preset, rows in HELD.items():
-            take = self.take(preset)
-            times = []
-            for keys, _ in rows:
+            take.add(f'preset load layers "{preset}"')
+            for keys, expected in rows:
                 take.press(*keys.split())
                 take.wait(100)
-                times.append(take.now)
+                times.append((preset, keys, expected, take.now))
                 take.release(*keys.split())
                 take.wait(100)
-            played = self.play(take)
-            for (keys, expected), time in zip(rows, times):
-                with self.subTest(preset=preset, keys=keys):
-                    self.assertEqual(expected, sounding(listening.between(played, 0, time)))
+        played = self.play(take)
+        for preset, keys, expected, time in times:
+            with self.subTest(preset=preset, keys=keys):
+                self.assertEqual(expected, sounding(listening.between(played, 0, time)))
 
     def testTouch(self):
+        take = listening.Take("desk")
+        times = []
         for preset, rows in TOUCHED.items():
-            take = self.take(preset)
-            times = []
-            for velocity, _ in rows:
+            take.add(f'preset load layers "{preset}"')
+            for velocity, expected in rows:
                 take.add(f"event 0x90 60 {velocity} in=0")
                 take.wait(100)
-                times.append(take.now)
+                times.append((preset, velocity, expected, take.now))
                 take.add("event 0x80 60 64 in=0")
                 take.wait(100)
-            played = self.play(take)
-            self.assertEqual([], listening.hanging(played), preset)
-            for (velocity, expected), time in zip(rows, times):
-                with self.subTest(preset=preset, velocity=velocity):
-                    self.assertEqual(expected, sounding(listening.between(played, 0, time)))
+        played = self.play(take)
+        for preset, velocity, expected, time in times:
+            with self.subTest(preset=preset, velocity=velocity):
+                self.assertEqual(expected, sounding(listening.between(played, 0, time)))
+        self.assertEqual([], listening.hanging(played))
 
     def testArpeggios(self):
-        for preset, (keys, length, expected) in ARPEGGIOS.items():
+        take = listening.Take("desk")
+        starts = []
+        for preset, (keys, length, _) in ARPEGGIOS.items():
+            take.add(f'preset load layers "{preset}"')
+            take.press(*keys.split())
+            starts.append(take.now + listening.STEP)  # A key is heard one slice later.
+            take.wait(listening.STEP + length)
+            take.release(*keys.split())
+            take.wait(listening.PAUSE)
+        played = self.play(take)
+        for (preset, (_, length, expected)), start in zip(ARPEGGIOS.items(), starts):
             with self.subTest(preset=preset):
-                take = self.take(preset)
-                take.press(*keys.split())
-                start = take.now + listening.STEP  # A key is heard one slice later.
-                take.wait(listening.STEP + length)
-                played = listening.between(self.play(take), start, start + length)
-                self.assertEqual(sorted(expected), sorted(listening.onsets(played, start)))
+                begins = listening.onsets(listening.between(played, start, start + length), start)
+                self.assertEqual(sorted(expected), sorted(begins))
 
     def testMonoReturnsToTheOlderKey(self):
         for preset in ("016 - Mono Lead", "017 - Mono Lead over Chords"):
