@@ -141,7 +141,7 @@ std::string judgeFraction(const std::string& text, const std::string&, const Att
 
 std::string judgeCell(const std::string& text, const std::string&, const AttributeRule&) {
     const Cell cell{std::string_view(text)};
-    const std::string problem = judgeCellInGrid(cell);
+    std::string problem = judgeCellInGrid(cell);
     if (!problem.empty())
         return problem;
     return cell.toXmlString() == withoutBlanks(text) ? std::string() : isRead(cell.toXmlString());
@@ -205,7 +205,7 @@ std::string judgeSequence(const std::string& text) {
     std::string_view rest = Text::trim(text);
     while (!rest.empty()) {
         const std::size_t end = std::min(rest.find_first_of(",|"), rest.size());
-        const std::string problem = judgeSequenceItem(rest.substr(0, end));
+        std::string problem = judgeSequenceItem(rest.substr(0, end));
         if (!problem.empty())
             return problem;
         rest.remove_prefix(std::min(end + 1, rest.size()));

@@ -127,8 +127,11 @@ void FileCheck::checkAttributes(const XmlNode& element, const ElementFormat& for
             continue;
         }
         const std::string problem = known->rule.judge(value, known->missing, known->rule);
-        if (!problem.empty())
-            complain(element, name + "=" + quote(value) + " of " + element.name + " " + problem);
+        if (problem.empty())
+            continue;
+        std::string text = name;
+        text.append("=").append(quote(value)).append(" of ").append(element.name).append(" ").append(problem);
+        complain(element, text);
     }
 }
 

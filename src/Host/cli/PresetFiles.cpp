@@ -51,7 +51,7 @@ std::optional<std::string> PresetFiles::read(const std::string& folder, const st
 
 std::string PresetFiles::find(const std::string& folder, const std::string& fileName) const {
     for (const std::string& place : m_places) {
-        const std::string path = Files::join(Files::join(place, folder), fileName);
+        std::string path = Files::join(Files::join(place, folder), fileName);
         if (Files::size(path))
             return path;
     }

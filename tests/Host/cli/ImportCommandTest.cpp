@@ -83,7 +83,7 @@ TEST_F(ImportCommand, ConvertsAProgram) {
 
 TEST_F(ImportCommand, ConvertsPresetsByTheirNames) {
     const std::string head = "version\n2\n";
-    EXPECT_TRUE(contains(convert("preset", "key mine.txt", head + KEY), "<ComputerInput merge=\"false\">\n"));
+    EXPECT_TRUE(contains(convert("preset", "key mine.txt", head + KEY), "<ComputerInput merge=\"false\">"));
     EXPECT_TRUE(contains(convert("preset", "control mine.txt", head + CONTROL), "<Control cell=\"3,4\""));
     EXPECT_TRUE(contains(convert("preset", "layer mine.txt", head + LAYER), "<Layer mute=\"false\""));
 }
