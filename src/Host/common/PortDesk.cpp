@@ -34,6 +34,7 @@ void PortDesk::start() {
     m_recorder = findRecorder();
     manager.sendSetMidiInputPorts(m_ports.inputPorts());
     manager.sendSetMidiOutputPorts(m_ports.outputPorts());
+    m_ports.waitUntilIdle();  // What is played to a port that is not open yet is lost.
     m_player.start([this](std::int32_t from, std::int32_t to) { m_mirel->playTimeSlice(from, to); });
     manager.sendEndInitialize();
     m_isRunning = true;
@@ -44,6 +45,8 @@ bool PortDesk::stop() {
     if (!m_isRunning.exchange(false))
         return true;
     const bool watchEnded = m_watcher->stop();
+    // A desk that has ended takes no events, so who brought one would wait for ever.
+    m_ports.stopListening();
     // The player goes on until the desk has ended, which may wait for a slice.
     m_mirel->getMessageManager().sendEnd();
     m_mirel->stop();

@@ -34,7 +34,13 @@ Places& places() {
     return known;
 }
 
-enum class Use { FREE, INPUT, OUTPUT, RETIRED };
+enum class Use {
+    FREE,
+    INPUT,
+    OUTPUT,
+    SILENT,  // An output that plays nothing any more. What it played last would be heard again in each cycle otherwise.
+    RETIRED,
+};
 
 }
 
@@ -55,6 +61,10 @@ public:
         const std::int64_t limit = Platform::monotonicMicroseconds() + PATIENCE_MICROSECONDS;
         while (!m_slot.queue.isEmpty() && m_server->isAlive() && Platform::monotonicMicroseconds() < limit)
             Platform::sleepMilliseconds(1);
+        if (!m_isInput) {
+            m_slot.use = Use::SILENT;
+            m_server->waitForCycles(2);
+        }
         m_slot.use = Use::RETIRED;
         // Until the server's thread has certainly left the slot. If that never happens, the slot is lost.
         if (!m_server->waitForCycles(2))
@@ -155,6 +165,7 @@ void JackServer::process(std::uint32_t frames) {
         switch (slot->use.load(std::memory_order_acquire)) {
             case Use::INPUT: processInput(*slot, frames); break;
             case Use::OUTPUT: processOutput(*slot, frames); break;
+            case Use::SILENT: clearOutput(*slot, frames); break;
             case Use::FREE:
             case Use::RETIRED: break;
         }
@@ -180,11 +191,18 @@ void JackServer::processInput(const Slot& slot, std::uint32_t frames) {
     }
 }
 
-void JackServer::processOutput(Slot& slot, std::uint32_t frames) {
+// Its buffer for this cycle, empty; null if there is none.
+void* JackServer::clearOutput(const Slot& slot, std::uint32_t frames) {
     void* buffer = jack_port_get_buffer(slot.port, frames);
+    if (buffer)
+        jack_midi_clear_buffer(buffer);
+    return buffer;
+}
+
+void JackServer::processOutput(Slot& slot, std::uint32_t frames) {
+    void* buffer = clearOutput(slot, frames);
     if (!buffer)
         return;
-    jack_midi_clear_buffer(buffer);
     OutputEvent event;
     std::array<jack_midi_data_t, 3> bytes{};
     while (jack_midi_max_event_size(buffer) >= bytes.size() && slot.queue.pop(event)) {

@@ -56,6 +56,7 @@ private:
 
     void process(std::uint32_t frames);
     void processInput(const Slot& slot, std::uint32_t frames);
+    static void* clearOutput(const Slot& slot, std::uint32_t frames);
     static void processOutput(Slot& slot, std::uint32_t frames);
     Slot* takeFreeSlot();
     std::unique_ptr<OpenMidiPort> open(const std::string& name, const std::string& other, MidiReceiver receiver,
