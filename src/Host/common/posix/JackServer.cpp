@@ -46,8 +46,10 @@ enum class Use {
 
 struct JackServer::Slot {
     std::atomic<Use> use{Use::FREE};
+    std::atomic<bool> isReplaced{false};  // The port that it is connected to has gone, and come back as another one.
     // What follows changes only while the slot is free.
     jack_port_t* port = nullptr;
+    std::string other;  // The name of that port; empty for one of the desk's own.
     MidiReceiver receiver;
     OutputQueue queue;
 };
@@ -129,6 +131,7 @@ JackServer::JackServer(jack_client_t* client, std::string name)
     : m_client(client), m_name(std::move(name)), m_slots(MAX_SLOTS) {
     jack_on_shutdown(m_client, goneCallback, this);
     jack_set_process_callback(m_client, processCallback, this);
+    jack_set_port_registration_callback(m_client, registeredCallback, this);
     if (jack_activate(m_client) != 0)
         m_isAlive = false;
 }
@@ -150,6 +153,16 @@ JackServer::~JackServer() {
 
 void JackServer::goneCallback(void* self) {
     static_cast<JackServer*>(self)->m_isAlive = false;
+}
+
+// The server waits for this, so nothing is asked of it here but the name.
+void JackServer::registeredCallback(std::uint32_t port, int isRegistered, void* self) {
+    auto& server = *static_cast<JackServer*>(self);
+    const char* name = isRegistered != 0 ? jack_port_name(jack_port_by_id(server.m_client, port)) : nullptr;
+    if (!name)
+        return;
+    const std::lock_guard lock(server.m_newcomersMutex);
+    server.m_newcomers.emplace_back(name);
 }
 
 int JackServer::processCallback(std::uint32_t frames, void* self) {
@@ -229,13 +242,42 @@ std::vector<std::string> JackServer::otherPorts(unsigned long flags) {
     const char** found = jack_get_ports(m_client, nullptr, JACK_DEFAULT_MIDI_TYPE, flags);
     std::vector<std::string> names;
     for (const char** name = found; name && *name; ++name)
-        if (const std::string text = *name; !text.starts_with(m_name + ":"))
+        if (const std::string text = *name; !text.starts_with(m_name + ":") && !isReplaced(text))
             names.push_back(text);
     jack_free(found);
     return names;
 }
 
+void JackServer::findReplaced() {
+    std::vector<std::string> newcomers;
+    {
+        const std::lock_guard lock(m_newcomersMutex);
+        newcomers.swap(m_newcomers);
+    }
+    if (!m_isAlive)
+        return;
+    for (const auto& entry : m_slots) {
+        Slot* slot = entry.load(std::memory_order_acquire);
+        if (!slot)
+            break;
+        const Use use = slot->use;
+        if ((use == Use::INPUT || use == Use::OUTPUT) &&
+            std::find(newcomers.begin(), newcomers.end(), slot->other) != newcomers.end() &&
+            jack_port_connected_to(slot->port, slot->other.c_str()) == 0)
+            slot->isReplaced = true;
+    }
+}
+
+bool JackServer::isReplaced(const std::string& other) const {
+    return std::any_of(m_slots.begin(), m_slots.end(), [&other](const auto& entry) {
+        const Slot* slot = entry.load(std::memory_order_acquire);
+        return slot && slot->use != Use::FREE && slot->isReplaced && slot->other == other;
+    });
+}
+
 MidiPortIds JackServer::list() {
+    const std::lock_guard lock(m_mutex);
+    findReplaced();
     return {numberCopies(otherPorts(JackPortIsOutput)), numberCopies(otherPorts(JackPortIsInput))};
 }
 
@@ -266,6 +308,8 @@ std::unique_ptr<OpenMidiPort> JackServer::open(const std::string& name, const st
     if (!slot->port)
         return nullptr;
     slot->receiver = std::move(receiver);
+    slot->other = other;
+    slot->isReplaced = false;
     slot->use = isInput ? Use::INPUT : Use::OUTPUT;
     auto port = std::make_unique<Port>(shared_from_this(), *slot, isInput);
     const std::string own = jack_port_name(slot->port);
