@@ -150,6 +150,17 @@ protected:
         return m_program->waitForExit();
     }
 
+    // Whether the server has such a port in the end.
+    static bool isThere(const std::string& port) {
+        return eventually([&port] { return runs("jack_lsp " + port + " 2>/dev/null | grep -q ."); });
+    }
+
+    static bool connect(const std::string& from, const std::string& to) {
+        return eventually([&] { return runs("jack_connect '" + from + "' '" + to + "' >/dev/null 2>&1"); });
+    }
+
+    static bool runs(const std::string& command) { return std::system(command.c_str()) == 0; }
+
     const TestSupport::TemporaryFolder m_folder;
     const std::string m_bank = m_folder.file("test.bnk");
     JackTestServer m_server;
@@ -348,12 +359,11 @@ Sequence eventsOfDump(const std::string& output) {
 TEST_F(RunTest, VirtualPortsStandBetweenOtherPrograms) {
     startServer();
     ChildProcess dump({"stdbuf", "-o0", "jack_midi_dump"});
+    ASSERT_TRUE(isThere("midi-monitor:input")) << dump.output();
     ChildProcess sequencer({"jack_midiseq", "Seq", "4800", "0", "60", "2400"});
+    ASSERT_TRUE(isThere("Seq:out")) << sequencer.output();
     run({"--virtual", "--bank", m_bank, "--in", "Mirel", "--out", "Mirel"});
-    const auto connect = [](const std::string& from, const std::string& to) {
-        return eventually(
-            [&] { return std::system(("jack_connect '" + from + "' '" + to + "' >/dev/null 2>&1").c_str()) == 0; });
-    };
+    ASSERT_FALSE(m_program->hasEnded()) << m_program->output();
     ASSERT_TRUE(connect("Mirel:Mirel out", "midi-monitor:input"));
     ASSERT_TRUE(connect("Seq:out", "Mirel:Mirel in"));
     constexpr std::size_t ENOUGH = 16;
