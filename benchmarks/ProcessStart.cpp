@@ -21,6 +21,12 @@ double millisecondsSince(std::int64_t start) {
     return static_cast<double>(Platform::monotonicMicroseconds() - start) / 1000;
 }
 
+// The first start of all does that.
+bool makeFolders(const std::string& folder) {
+    RunningProgram program(folder);
+    return program.waitUntilPlaying();
+}
+
 // On a computer without MIDI: until it says that it plays, at which moment a note would be played.
 bool measureAlone(const std::string& folder) {
     std::vector<double> milliseconds;
@@ -61,9 +67,7 @@ bool measureAtServer(const std::string& folder) {
 
 int main() {
     const Platform::TemporaryFolder folder;
-    // The first of all makes its folders.
-    if (RunningProgram(folder.getPath()).waitUntilPlaying() && measureAlone(folder.getPath()) &&
-        measureAtServer(folder.getPath()))
+    if (makeFolders(folder.getPath()) && measureAlone(folder.getPath()) && measureAtServer(folder.getPath()))
         return 0;
     std::fprintf(stderr, "the desk did not play\n");
     return 1;

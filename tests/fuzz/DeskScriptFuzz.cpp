@@ -1,7 +1,12 @@
-// Any bytes as a desk script, on a desk of its own.
+// Any bytes as a desk script, on a desk of its own, in a folder that nothing leaves.
+#include "Backend/core/MirelUtils.h"
+#include "Host/cli/ScriptArguments.h"
 #include "Host/cli/ScriptCommands.h"
 #include "Host/cli/ScriptError.h"
+#include "Platform/TemporaryFolder.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <string_view>
 
 namespace {
@@ -17,16 +22,25 @@ bool isQuick(const Host::Cli::ScriptLine& line) {
     return !from || !to || !step || *step < 1 || (std::int64_t{*to} - *from) / *step <= MAX_SLICES;
 }
 
+// Whether it keeps to this folder.
+bool isHarmless(const Host::Cli::ScriptLine& line) {
+    return std::none_of(line.words.begin(), line.words.end(),
+                        [](const std::string& word) { return word.find('/') != std::string::npos; });
+}
+
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
     using namespace Host::Cli;
+    static const Platform::TemporaryFolder folder;
+    Backend::MirelUtils::useDataFolder(folder.getPath());
+    std::filesystem::current_path(folder.getPath());  // Files are named without a folder.
     const std::string text(reinterpret_cast<const char*>(data), size);
-    ScriptDesk desk({true, true}, "");
+    ScriptDesk desk({true, true, true});
     ScriptReader reader(text);
     try {
         while (const auto line = reader.nextCommand())
-            if (!line->words.empty() && isQuick(*line))
+            if (!line->words.empty() && isQuick(*line) && isHarmless(*line))
                 runScriptCommand(*line, reader, desk);
     } catch (const ScriptError&) {
         return 0;

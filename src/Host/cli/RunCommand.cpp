@@ -86,6 +86,10 @@ std::vector<int> findPorts(const std::vector<PortRow>& rows, const std::vector<s
     return indices;
 }
 
+bool isRecorder(const PortRow& row) {
+    return row.id == MidiPortId{Recorder::NAME, PortList::BUILT_IN};
+}
+
 bool contains(const std::vector<int>& indices, std::size_t index) {
     return std::find(indices.begin(), indices.end(), static_cast<int>(index)) != indices.end();
 }
@@ -103,12 +107,14 @@ public:
         loadPrograms();
         chooseClock();
         m_desk.waitUntilIdle();
+        m_desk.ports().waitUntilIdle();
         printState();
     }
 
     // Plays until it is over or somebody ends it.
     void play() {
         constexpr milliseconds STEP{10};
+        constexpr milliseconds LOOK{100};   // With nothing to do but to see whether the player still plays.
         constexpr milliseconds TAIL{1500};  // For the end of a song to fade.
         const auto song = readSong();
         const auto keys = openKeys();
@@ -117,7 +123,9 @@ public:
         while (!m_desk.hasFailed()) {
             const auto now = std::chrono::steady_clock::now();
             const auto elapsed = std::chrono::duration_cast<std::chrono::microseconds>(now - start);
-            milliseconds step = keys ? milliseconds(0) : STEP;
+            milliseconds step = keys ? milliseconds(0) : LOOK;
+            if (m_options.length)
+                step = std::clamp(std::chrono::ceil<milliseconds>(*m_options.length - elapsed), milliseconds(0), step);
             if (song && !song->isAtEnd()) {
                 song->playUntil(elapsed, [this](const MidiFileEvent& event) { playIn(event); });
                 step = milliseconds(1);
@@ -157,9 +165,11 @@ private:
         }
         const auto outputs = m_desk.ports().outputs();
         const auto wanted = findPorts(outputs, m_options.outputs, "output");
-        if (!wanted.empty())
-            for (std::size_t i = 0; i < outputs.size(); ++i)
-                manager().postEnableMidiOutput(static_cast<int>(i), contains(wanted, i));
+        for (std::size_t i = 0; i < outputs.size(); ++i) {
+            const bool isRecording = isRecorder(outputs[i]) && !m_options.recordFile.empty();
+            if (isRecording || !wanted.empty())
+                manager().postEnableMidiOutput(static_cast<int>(i), isRecording || contains(wanted, i));
+        }
         m_desk.waitUntilIdle();
         if (const int output = wanted.empty() ? findBetterOutput(outputs) : wanted.front(); output >= 0)
             manager().postChangeDefaultMidiOutput(SelectType(SelectType::specific, output));

@@ -1,6 +1,7 @@
 #include "Host/common/MidiPorts.h"
 
 #include "Host/common/PortFiles.h"
+#include "Platform/Sleep.h"
 
 #include <algorithm>
 #include <utility>
@@ -249,6 +250,27 @@ std::uint64_t MidiPorts::droppedEvents() const {
     for (const Output& output : m_outputs)
         dropped += output.line->dropped();
     return dropped;
+}
+
+bool MidiPorts::waitUntilIdle(std::chrono::milliseconds limit) const {
+    const auto deadline = std::chrono::steady_clock::now() + limit;
+    while (!isIdle()) {
+        if (std::chrono::steady_clock::now() >= deadline)
+            return false;
+        Platform::sleepMilliseconds(1);
+    }
+    return true;
+}
+
+void MidiPorts::stopListening() {
+    std::vector<std::shared_ptr<InputTranslator>> translators;
+    {
+        const std::lock_guard lock(m_mutex);
+        for (const Input& input : m_inputs)
+            translators.push_back(input.translator);
+    }
+    for (const auto& translator : translators)
+        translator->close();
 }
 
 bool MidiPorts::close(std::chrono::milliseconds limit) {

@@ -32,9 +32,10 @@ public:
             virtualPort;  // The name of an input and of an output for other programs to connect to; empty: none.
     };
 
+    static constexpr std::chrono::milliseconds OPEN_LIMIT{1000};
     static constexpr std::chrono::milliseconds CLOSE_LIMIT{2000};
 
-    // The sink takes what comes in, on threads of the system's, until close() has returned.
+    // The sink takes what comes in, on threads of the system's, until stopListening() or close() has returned.
     MidiPorts(std::shared_ptr<MidiSystem> system, Options options, InputTranslator::Sink sink);
 
     // Closes.
@@ -78,11 +79,18 @@ public:
 
     Recorder& recorder() { return *m_recorder; }
 
-    // [any] Whether all lines have done what they were asked for. For tests.
+    // [any] Whether all lines have done what they were asked for, as to open their ports.
     bool isIdle() const;
+
+    // [any but player] Waits for that, at most this long as ports may hang. False if it was not enough.
+    bool waitUntilIdle(std::chrono::milliseconds limit = OPEN_LIMIT) const;
 
     // [any] Events that outputs were too slow for.
     std::uint64_t droppedEvents() const;
+
+    // [any] When this has returned, the sink and the clock get nothing any more, not even the ends of notes that are
+    // held. The sink must still take what is on its way.
+    void stopListening();
 
     // [any] Ends all that sounds, closes all ports and writes the files. A port that hangs is left behind after the
     // limit; false if there was one. Ports stay closed.

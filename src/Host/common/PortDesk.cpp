@@ -34,6 +34,7 @@ void PortDesk::start() {
     m_recorder = findRecorder();
     manager.sendSetMidiInputPorts(m_ports.inputPorts());
     manager.sendSetMidiOutputPorts(m_ports.outputPorts());
+    m_ports.waitUntilIdle();  // What is played to a port that is not open yet is lost.
     m_player.start([this](std::int32_t from, std::int32_t to) { m_mirel->playTimeSlice(from, to); });
     manager.sendEndInitialize();
     m_isRunning = true;
@@ -43,13 +44,14 @@ void PortDesk::start() {
 bool PortDesk::stop() {
     if (!m_isRunning.exchange(false))
         return true;
-    // The ports first, as what comes in there would wait for a desk that has ended. The player goes on until the desk
-    // has ended, which may need a slice.
     const bool watchEnded = m_watcher->stop();
-    const bool portsClosed = m_ports.close();
+    // A desk that has ended takes no events, so who brought one would wait for ever.
+    m_ports.stopListening();
+    // The player and the outputs go on until the desk has ended: it may need a slice, and it ends what sounds.
     m_mirel->getMessageManager().sendEnd();
     m_mirel->stop();
     m_player.stop();
+    const bool portsClosed = m_ports.close();
     return watchEnded && portsClosed;
 }
 

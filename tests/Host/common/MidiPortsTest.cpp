@@ -253,6 +253,18 @@ TEST_F(MidiPortsTest, NotesOfAnInputThatGoesAwayEnd) {
     EXPECT_EQ(events[0].getD1(), 60);
 }
 
+TEST_F(MidiPortsTest, NothingComesInWhenNobodyListensAnyMore) {
+    system->plugInputs({"Keyboard"});
+    const auto ports = make();
+    update(*ports);
+    ASSERT_TRUE(system->receive("Keyboard", {0x90, 60, 100}));
+    EXPECT_EQ(takeEvents().size(), 1u);
+    ports->stopListening();
+    ASSERT_TRUE(system->receive("Keyboard", {0x90, 62, 100}));
+    EXPECT_TRUE(ports->close());
+    EXPECT_TRUE(takeEvents().empty()) << "not even the end of the note that is held";
+}
+
 TEST_F(MidiPortsTest, ClockInputIsHeard) {
     system->plugInputs({"Keys", "Drums"});
     const auto ports = make();

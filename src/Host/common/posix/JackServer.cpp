@@ -34,14 +34,22 @@ Places& places() {
     return known;
 }
 
-enum class Use { FREE, INPUT, OUTPUT, RETIRED };
+enum class Use {
+    FREE,
+    INPUT,
+    OUTPUT,
+    SILENT,  // An output that plays nothing any more. What it played last would be heard again in each cycle otherwise.
+    RETIRED,
+};
 
 }
 
 struct JackServer::Slot {
     std::atomic<Use> use{Use::FREE};
+    std::atomic<bool> isReplaced{false};  // The port that it is connected to has gone, and come back as another one.
     // What follows changes only while the slot is free.
     jack_port_t* port = nullptr;
+    std::string other;  // The name of that port; empty for one of the desk's own.
     MidiReceiver receiver;
     OutputQueue queue;
 };
@@ -55,6 +63,10 @@ public:
         const std::int64_t limit = Platform::monotonicMicroseconds() + PATIENCE_MICROSECONDS;
         while (!m_slot.queue.isEmpty() && m_server->isAlive() && Platform::monotonicMicroseconds() < limit)
             Platform::sleepMilliseconds(1);
+        if (!m_isInput) {
+            m_slot.use = Use::SILENT;
+            m_server->waitForCycles(2);
+        }
         m_slot.use = Use::RETIRED;
         // Until the server's thread has certainly left the slot. If that never happens, the slot is lost.
         if (!m_server->waitForCycles(2))
@@ -119,6 +131,7 @@ JackServer::JackServer(jack_client_t* client, std::string name)
     : m_client(client), m_name(std::move(name)), m_slots(MAX_SLOTS) {
     jack_on_shutdown(m_client, goneCallback, this);
     jack_set_process_callback(m_client, processCallback, this);
+    jack_set_port_registration_callback(m_client, registeredCallback, this);
     if (jack_activate(m_client) != 0)
         m_isAlive = false;
 }
@@ -142,6 +155,16 @@ void JackServer::goneCallback(void* self) {
     static_cast<JackServer*>(self)->m_isAlive = false;
 }
 
+// The server waits for this, so nothing is asked of it here but the name.
+void JackServer::registeredCallback(std::uint32_t port, int isRegistered, void* self) {
+    auto& server = *static_cast<JackServer*>(self);
+    const char* name = isRegistered != 0 ? jack_port_name(jack_port_by_id(server.m_client, port)) : nullptr;
+    if (!name)
+        return;
+    const std::lock_guard lock(server.m_newcomersMutex);
+    server.m_newcomers.emplace_back(name);
+}
+
 int JackServer::processCallback(std::uint32_t frames, void* self) {
     static_cast<JackServer*>(self)->process(frames);
     return 0;
@@ -155,6 +178,7 @@ void JackServer::process(std::uint32_t frames) {
         switch (slot->use.load(std::memory_order_acquire)) {
             case Use::INPUT: processInput(*slot, frames); break;
             case Use::OUTPUT: processOutput(*slot, frames); break;
+            case Use::SILENT: clearOutput(*slot, frames); break;
             case Use::FREE:
             case Use::RETIRED: break;
         }
@@ -180,11 +204,18 @@ void JackServer::processInput(const Slot& slot, std::uint32_t frames) {
     }
 }
 
-void JackServer::processOutput(Slot& slot, std::uint32_t frames) {
+// Its buffer for this cycle, empty; null if there is none.
+void* JackServer::clearOutput(const Slot& slot, std::uint32_t frames) {
     void* buffer = jack_port_get_buffer(slot.port, frames);
+    if (buffer)
+        jack_midi_clear_buffer(buffer);
+    return buffer;
+}
+
+void JackServer::processOutput(Slot& slot, std::uint32_t frames) {
+    void* buffer = clearOutput(slot, frames);
     if (!buffer)
         return;
-    jack_midi_clear_buffer(buffer);
     OutputEvent event;
     std::array<jack_midi_data_t, 3> bytes{};
     while (jack_midi_max_event_size(buffer) >= bytes.size() && slot.queue.pop(event)) {
@@ -211,13 +242,42 @@ std::vector<std::string> JackServer::otherPorts(unsigned long flags) {
     const char** found = jack_get_ports(m_client, nullptr, JACK_DEFAULT_MIDI_TYPE, flags);
     std::vector<std::string> names;
     for (const char** name = found; name && *name; ++name)
-        if (const std::string text = *name; !text.starts_with(m_name + ":"))
+        if (const std::string text = *name; !text.starts_with(m_name + ":") && !isReplaced(text))
             names.push_back(text);
     jack_free(found);
     return names;
 }
 
+void JackServer::findReplaced() {
+    std::vector<std::string> newcomers;
+    {
+        const std::lock_guard lock(m_newcomersMutex);
+        newcomers.swap(m_newcomers);
+    }
+    if (!m_isAlive)
+        return;
+    for (const auto& entry : m_slots) {
+        Slot* slot = entry.load(std::memory_order_acquire);
+        if (!slot)
+            break;
+        const Use use = slot->use;
+        if ((use == Use::INPUT || use == Use::OUTPUT) &&
+            std::find(newcomers.begin(), newcomers.end(), slot->other) != newcomers.end() &&
+            jack_port_connected_to(slot->port, slot->other.c_str()) == 0)
+            slot->isReplaced = true;
+    }
+}
+
+bool JackServer::isReplaced(const std::string& other) const {
+    return std::any_of(m_slots.begin(), m_slots.end(), [&other](const auto& entry) {
+        const Slot* slot = entry.load(std::memory_order_acquire);
+        return slot && slot->use != Use::FREE && slot->isReplaced && slot->other == other;
+    });
+}
+
 MidiPortIds JackServer::list() {
+    const std::lock_guard lock(m_mutex);
+    findReplaced();
     return {numberCopies(otherPorts(JackPortIsOutput)), numberCopies(otherPorts(JackPortIsInput))};
 }
 
@@ -248,6 +308,8 @@ std::unique_ptr<OpenMidiPort> JackServer::open(const std::string& name, const st
     if (!slot->port)
         return nullptr;
     slot->receiver = std::move(receiver);
+    slot->other = other;
+    slot->isReplaced = false;
     slot->use = isInput ? Use::INPUT : Use::OUTPUT;
     auto port = std::make_unique<Port>(shared_from_this(), *slot, isInput);
     const std::string own = jack_port_name(slot->port);

@@ -34,7 +34,8 @@ public:
     // [any] The name that the desk has there, which no other one has.
     const std::string& name() const { return m_name; }
 
-    // [any] The ports of all other programs.
+    // [any] The ports of all other programs. One that went and came back since the desk opened it is left out until the
+    // desk has closed it: it is another one of the same name, to which nothing is connected.
     MidiPortIds list();
 
     // [any] A port of the desk under a name of its own, connected to another program's unless that is empty text. Null
@@ -52,15 +53,19 @@ private:
 
     static int processCallback(std::uint32_t frames, void* self);
     static void goneCallback(void* self);
+    static void registeredCallback(std::uint32_t port, int isRegistered, void* self);
 
     void process(std::uint32_t frames);
     void processInput(const Slot& slot, std::uint32_t frames);
+    static void* clearOutput(const Slot& slot, std::uint32_t frames);
     static void processOutput(Slot& slot, std::uint32_t frames);
     Slot* takeFreeSlot();
     std::unique_ptr<OpenMidiPort> open(const std::string& name, const std::string& other, MidiReceiver receiver,
                                        bool isInput);
     bool waitForCycles(std::uint32_t count) const;
     std::vector<std::string> otherPorts(unsigned long flags);
+    void findReplaced();
+    bool isReplaced(const std::string& other) const;
 
     static constexpr std::size_t MAX_SLOTS = 512;
 
@@ -69,6 +74,8 @@ private:
     std::atomic<bool> m_isAlive{true};
     std::atomic<std::uint32_t> m_cycles{0};  // How often the server has had the ports processed; wraps.
     std::mutex m_mutex;                      // Of who opens ports; not of the server's thread.
+    std::mutex m_newcomersMutex;
+    std::vector<std::string> m_newcomers;  // Ports that the server has registered since the last look.
     // Slots are used again and live as long as the client.
     std::vector<std::atomic<Slot*>> m_slots;
 };

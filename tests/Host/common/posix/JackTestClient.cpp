@@ -1,6 +1,7 @@
 #include "tests/Host/common/posix/JackTestClient.h"
 
 #include "Platform/MonotonicClock.h"
+#include "tests/support/Eventually.h"
 
 #include <jack/jack.h>
 #include <jack/midiport.h>
@@ -54,9 +55,13 @@ void JackTestClient::State::process(jack_nframes_t frames) {
 
 JackTestClient::JackTestClient(const std::string& name) : m_state(std::make_unique<State>()) {
     State& state = *m_state;
-    state.client =
-        jack_client_open(name.c_str(), static_cast<jack_options_t>(JackNoStartServer | JackUseExactName), nullptr);
-    if (!state.client)
+    // A busy server refuses now and then, and it takes a while until it forgets a client of the same name.
+    const bool isOpen = TestSupport::eventually([&] {
+        state.client =
+            jack_client_open(name.c_str(), static_cast<jack_options_t>(JackNoStartServer | JackUseExactName), nullptr);
+        return state.client != nullptr;
+    });
+    if (!isOpen)
         throw std::runtime_error("no JACK server");
     state.output = jack_port_register(state.client, "out", JACK_DEFAULT_MIDI_TYPE, JackPortIsOutput, 0);
     state.input = jack_port_register(state.client, "in", JACK_DEFAULT_MIDI_TYPE, JackPortIsInput, 0);
@@ -104,6 +109,12 @@ std::vector<JackTestClient::Event> JackTestClient::sent() const {
 std::vector<JackTestClient::Event> JackTestClient::heard() const {
     const std::lock_guard lock(m_state->mutex);
     return m_state->heard;
+}
+
+void JackTestClient::forget() {
+    const std::lock_guard lock(m_state->mutex);
+    m_state->sent.clear();
+    m_state->heard.clear();
 }
 
 }

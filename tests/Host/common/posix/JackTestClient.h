@@ -38,6 +38,9 @@ public:
     std::vector<Event> sent() const;
     std::vector<Event> heard() const;
 
+    // [any] Forgets what was sent and heard.
+    void forget();
+
 private:
     struct State;
     const std::unique_ptr<State> m_state;
