@@ -35,8 +35,8 @@ bool createFolders(const std::string& path);
 // [any] Removes a folder. False if it was not there, is not empty or could not be removed.
 bool removeEmptyFolder(const std::string& path);
 
-// [any] Names (without folder, with extension) of the plain files in a folder whose extension is this one (".seq"; "" is
-// any), in byte order. Case counts where it does for the system's file names. Empty if there is no such folder.
+// [any] Names (without folder, with extension) of the plain files in a folder whose extension is this one (".seq"; ""
+// is any), in byte order. Case counts where it does for the system's file names. Empty if there is no such folder.
 std::vector<std::string> list(const std::string& folder, const std::string& extension);
 
 // [any] The size in bytes; nothing if it is no plain file.

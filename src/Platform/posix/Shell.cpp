@@ -4,11 +4,10 @@
 
 #include <spawn.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <thread>
-
-extern char** environ;
 
 namespace Platform {
 

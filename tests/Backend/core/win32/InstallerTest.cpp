@@ -20,8 +20,7 @@ constexpr const char* SCRATCH = "Software\\MirelInstallerTest";
 constexpr const char* DRIVERS = "Software\\Microsoft\\Windows NT\\CurrentVersion\\Drivers32";
 constexpr const char* INSTALLED = "Software\\Microsoft\\Windows NT\\CurrentVersion\\userinstallable.drivers";
 constexpr const char* DESCRIPTIONS = "Software\\Microsoft\\Windows NT\\CurrentVersion\\drivers.desc";
-constexpr const char* RESTART =
-    "Mirel Console 3 Install: You must restart Windows before using the virtual midi port";
+constexpr const char* RESTART = "Mirel Console 3 Install: You must restart Windows before using the virtual midi port";
 
 class InstallerTest : public testing::Test {
 protected:
@@ -31,9 +30,8 @@ protected:
         user = makeKey(HKEY_CURRENT_USER, std::string(SCRATCH) + "\\User");
         RegOverridePredefKey(HKEY_LOCAL_MACHINE, machine);
         RegOverridePredefKey(HKEY_CURRENT_USER, user);
-        Platform::setMessageSink([this](const std::string& text, const std::string& title) {
-            messages.push_back(title + ": " + text);
-        });
+        Platform::setMessageSink(
+            [this](const std::string& text, const std::string& title) { messages.push_back(title + ": " + text); });
     }
 
     ~InstallerTest() override {
