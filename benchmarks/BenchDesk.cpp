@@ -81,8 +81,8 @@ void BenchDesk::waitUntilIdle() {
 }
 
 void BenchDesk::spinUntilIdle() {
-    while (!m_mirel.getMessageManagerMaster().isIdle() || !m_mirel.getMidiEngineMessageManager().isIdle()) {
-    }
+    while (!m_mirel.getMessageManagerMaster().isIdle() || !m_mirel.getMidiEngineMessageManager().isIdle())
+        std::this_thread::yield();  // The desk may have been woken on this core.
 }
 
 }

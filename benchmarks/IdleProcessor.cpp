@@ -1,4 +1,7 @@
 // How much of a processor does a desk take that does nothing, at a slice a millisecond?
+#include "Platform/MonotonicClock.h"
+#include "Platform/PreciseWait.h"
+#include "Platform/RaisedPriority.h"
 #include "Platform/Sleep.h"
 #include "Platform/TemporaryFolder.h"
 #include "benchmarks/Report.h"
@@ -10,6 +13,26 @@
 #include <map>
 
 namespace {
+
+constexpr int SECONDS = 30;
+
+// What nobody gets below on this computer: a thread that does nothing but wake up each millisecond.
+void measurePausesAlone() {
+    constexpr std::int64_t MILLISECOND = 1000;
+    const Platform::RaisedPriority priority;
+    Platform::PreciseWait wait;
+    const auto own = [] {
+        double nanoseconds = 0;
+        std::ifstream("/proc/thread-self/schedstat") >> nanoseconds;
+        return nanoseconds;
+    };
+    const double before = own();
+    const std::int64_t start = Platform::monotonicMicroseconds();
+    for (std::int64_t i = 1; i <= SECONDS * 1000; ++i)
+        wait.waitUntil(start + i * MILLISECOND);
+    Benchmarks::report("waking up a thousand times a second, without a desk", (own() - before) / (SECONDS * 1e9) * 100,
+                       "% of a core");
+}
 
 // What each thread of a process has had so far in nanoseconds, by name.
 std::map<std::string, double> threadTimes(int pid) {
@@ -30,7 +53,6 @@ std::map<std::string, double> threadTimes(int pid) {
 int main() {
     using namespace Benchmarks;
     constexpr int SECONDS_TO_SETTLE = 2;
-    constexpr int SECONDS = 30;
     constexpr double AIM_PERCENT = 1;
     const Platform::TemporaryFolder folder;
     RunningProgram program(folder.getPath());
@@ -51,5 +73,6 @@ int main() {
     report("all threads", sum, "% of a core", AIM_PERCENT);
     for (const auto& [name, percent] : percents)
         report("thread \"" + name + "\"", percent, "% of a core");
+    measurePausesAlone();
     return 0;
 }

@@ -25,7 +25,7 @@ namespace {
 using namespace Benchmarks;
 
 constexpr int NOTES = 3000;
-constexpr std::uint32_t FRAMES_IN_CYCLE = 64;
+constexpr int FRAMES_IN_CYCLE = 64;
 constexpr double FRAMES_IN_MILLISECOND = 48;
 constexpr std::int64_t PATIENCE = 3000000;
 
@@ -34,24 +34,24 @@ struct Latency {
     double byClock;
 };
 
-// The newest Note On of this velocity.
+// The newest Note On of this note.
 std::optional<Host::JackTestClient::Event> findNote(const std::vector<Host::JackTestClient::Event>& events,
-                                                    std::uint8_t velocity) {
-    const auto found = std::find_if(events.rbegin(), events.rend(), [velocity](const auto& event) {
-        return (event.bytes.front() & 0xf0) == 0x90 && event.bytes.back() == velocity;
+                                                    std::uint8_t note) {
+    const auto found = std::find_if(events.rbegin(), events.rend(), [note](const auto& event) {
+        return (event.bytes.front() & 0xf0) == 0x90 && event.bytes[1] == note;
     });
     return found == events.rend() ? std::nullopt : std::optional(*found);
 }
 
 // Sends a note that no other one near is like, and waits for it. Nothing if it does not come back.
-std::optional<Latency> measure(Host::JackTestClient& player, std::uint8_t velocity, std::uint32_t frame) {
+std::optional<Latency> measure(Host::JackTestClient& player, std::uint8_t note, std::uint32_t frame) {
     player.forget();
-    player.send({0x90, 60, velocity}, frame);
+    player.send({0x90, note, 100}, frame);
     const std::int64_t start = Platform::monotonicMicroseconds();
     while (Platform::monotonicMicroseconds() - start < PATIENCE) {
         Platform::sleepMilliseconds(1);
-        const auto heard = findNote(player.heard(), velocity);
-        const auto sent = findNote(player.sent(), velocity);
+        const auto heard = findNote(player.heard(), note);
+        const auto sent = findNote(player.sent(), note);
         if (heard && sent)
             return Latency{static_cast<double>(heard->frame - sent->frame) / FRAMES_IN_MILLISECOND,
                            static_cast<double>(heard->microseconds - sent->microseconds) / 1000};
@@ -78,7 +78,7 @@ bool warmUp(Host::JackTestClient& player) {
 int main() {
     const Platform::TemporaryFolder folder;
     Host::JackTestServer server;
-    if (!server.start())
+    if (!server.start(Host::JackTestServer::Cycles::IN_TIME, FRAMES_IN_CYCLE))
         return 1;
     Host::JackTestClient player("player");
     RunningProgram program(folder.getPath(), {"--in", player.output(), "--out", player.input()});
@@ -91,14 +91,14 @@ int main() {
     std::vector<double> byClock;
     int lost = 0;
     for (int i = 0; i < NOTES; ++i) {
-        const auto velocity = static_cast<std::uint8_t>(1 + i % 127);
-        if (const auto latency = measure(player, velocity, static_cast<std::uint32_t>(random() % FRAMES_IN_CYCLE))) {
+        const auto note = static_cast<std::uint8_t>(i % 128);
+        if (const auto latency = measure(player, note, static_cast<std::uint32_t>(random() % FRAMES_IN_CYCLE))) {
             byFrames.push_back(latency->byFrames);
             byClock.push_back(latency->byClock);
         } else {
             ++lost;  // A server that does not wait for its clients may lose one.
         }
-        player.send({0x80, 60, 64});
+        player.send({0x80, note, 64});
         Platform::sleepMilliseconds(4 + static_cast<unsigned>(random() % 8));
     }
     const double typical = percentile(byFrames, 50);

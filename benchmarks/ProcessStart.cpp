@@ -16,6 +16,7 @@ using namespace Benchmarks;
 constexpr int STARTS = 30;
 constexpr double AIM_MILLISECONDS = 150;
 constexpr std::int64_t PATIENCE = 20000000;
+constexpr int FRAMES_IN_CYCLE = 64;
 
 double millisecondsSince(std::int64_t start) {
     return static_cast<double>(Platform::monotonicMicroseconds() - start) / 1000;
@@ -44,7 +45,7 @@ bool measureAlone(const std::string& folder) {
 // At a JACK server: until the first of the notes that another program plays all the time comes back to it.
 bool measureAtServer(const std::string& folder) {
     Host::JackTestServer server;
-    if (!server.start())
+    if (!server.start(Host::JackTestServer::Cycles::IN_TIME, FRAMES_IN_CYCLE))
         return false;
     std::vector<double> milliseconds;
     for (int i = 0; i < STARTS; ++i) {

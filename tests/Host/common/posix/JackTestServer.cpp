@@ -46,11 +46,11 @@ void JackTestServer::tryName(const std::string& name) {
     }
 }
 
-bool JackTestServer::start(Cycles cycles) {
+bool JackTestServer::start(Cycles cycles, int frames) {
     std::vector<std::string> command = {"jackd", "-n", m_name, "-r"};
     if (cycles == Cycles::COMPLETE)
         command.insert(command.end(), {"-S", "-t", "5000"});
-    command.insert(command.end(), {"-d", "dummy", "-r", "48000", "-p", "1024"});
+    command.insert(command.end(), {"-d", "dummy", "-r", "48000", "-p", std::to_string(frames)});
     m_process.emplace(command);
     return eventually([] { return JackServer::connect("probe") != nullptr; });
 }

@@ -16,14 +16,17 @@ public:
         COMPLETE,  // The server waits for its clients, so nothing is lost on a busy computer.
     };
 
+    static constexpr int CALM_FRAMES = 1024;  // For a busy computer.
+
     // Takes a name but starts nothing. Throws std::runtime_error if there is none for long.
     JackTestServer();
     ~JackTestServer();
     JackTestServer(const JackTestServer&) = delete;
     JackTestServer& operator=(const JackTestServer&) = delete;
 
-    // Starts it, or another one under the same name. False if it does not work in the end.
-    bool start(Cycles cycles = Cycles::IN_TIME);
+    // Starts it, or another one under the same name, with so many frames in a cycle at 48000 a second. False if it does
+    // not work in the end.
+    bool start(Cycles cycles = Cycles::IN_TIME, int frames = CALM_FRAMES);
 
     // Null before the first start.
     ChildProcess* process() { return m_process ? &*m_process : nullptr; }
