@@ -3,7 +3,6 @@
 #include "Backend/core/Mirel.h"
 
 #include "Backend/core/GuiPost.h"
-#include "Backend/core/MirelGuiFactory.h"
 #include "Backend/core/MirelUtils.h"
 #include "Backend/core/WindowMessages.h"
 #include "Backend/functions/NoteToggle.h"
@@ -11,6 +10,7 @@
 #include "Backend/functions/RelativeFixedValue.h"
 #include "Backend/functions/SelectType.h"
 #include "Backend/midi/LayerMessages.h"
+#include "Gui/MirelGuiFactory.h"
 #include "Platform/Files.h"
 #include "Platform/SettingsStore.h"
 
@@ -121,8 +121,8 @@ void Mirel::addSequencePreset(const std::string& name, const std::string& sequen
     m_sequencePresets.addSequencePreset(name, sequence);
 }
 
-MirelGuiIF* Mirel::createMirelGui(bool isVstPlugin) {
-    return MirelGuiFactory::createMirelGui(*this, m_registrySettings, m_midiInputPorts, m_midiOutputPorts,
+Gui::MirelGuiIF* Mirel::createMirelGui(bool isVstPlugin) {
+    return Gui::MirelGuiFactory::createMirelGui(*this, m_registrySettings, m_midiInputPorts, m_midiOutputPorts,
                                            getSequencePresetList(), isVstPlugin);
 }
 

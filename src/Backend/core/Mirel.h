@@ -159,7 +159,7 @@ public:
     void changeLayerMono(const SelectType& type, const OnOffToggle& value) override;
     void changeLayerSolo(const SelectType& type, const OnOffToggle& value) override;
     void changeLayerNoteToggle(const SelectType& type, const NoteToggle& value) override;
-    MirelGuiIF* createMirelGui(bool isVstPlugin) override;
+    Gui::MirelGuiIF* createMirelGui(bool isVstPlugin) override;
     void displayString(const std::string& text) override { m_display.postAddText(text); }
     void setLiteVelocity(int velocity) override;
     void setLiteChannel(int channel) override;

@@ -16,11 +16,14 @@ class SelectControlType;
 class SelectType;
 class Key;
 
+namespace Gui {
+class MirelGuiIF;
+}
+
 namespace Backend {
 
 class Bank;
 class MessageManagerMaster;
-class MirelGuiIF;
 class MirelMessageManager;
 class Program;
 class RegistrySettings;
@@ -244,7 +247,7 @@ public:
     virtual void changeLayerNoteToggle(const SelectType& type, const NoteToggle& value) = 0;
 
     // The desk's window, not yet on the screen; null in a build without one. The caller owns it.
-    virtual MirelGuiIF* createMirelGui(bool isVstPlugin) = 0;
+    virtual Gui::MirelGuiIF* createMirelGui(bool isVstPlugin) = 0;
 
     // [any] Adds text to the log.
     virtual void displayString(const std::string& text) = 0;

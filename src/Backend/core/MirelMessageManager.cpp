@@ -112,7 +112,7 @@ void MirelMessageManager::sendEndInitialize() {
     send(END_INITIALIZE);
 }
 
-MirelGuiIF* MirelMessageManager::sendCreateMirelGui(bool isVstPlugin) {
+Gui::MirelGuiIF* MirelMessageManager::sendCreateMirelGui(bool isVstPlugin) {
     m_createdGui = nullptr;
     send(SEND_CREATE_MIREL_GUI, isVstPlugin);
     return m_createdGui;

@@ -12,9 +12,12 @@ class OnOffToggle;
 class RelativeFixedValue;
 class SelectType;
 
+namespace Gui {
+class MirelGuiIF;
+}
+
 namespace Backend {
 
-class MirelGuiIF;
 class MirelIF;
 struct ScreenState;
 
@@ -35,7 +38,7 @@ public:
     void sendSetMidiInputPorts(const std::vector<MidiEngine::MidiInputPort>& ports);
     void sendSetMidiOutputPorts(const std::vector<MidiEngine::MidiOutputPort>& ports);
     void sendEndInitialize();
-    MirelGuiIF* sendCreateMirelGui(bool isVstPlugin);
+    Gui::MirelGuiIF* sendCreateMirelGui(bool isVstPlugin);
 
     // [any] Ports.
     void postSetMidiInputPorts(const std::vector<MidiEngine::MidiInputPort>& ports);
@@ -107,7 +110,7 @@ private:
     bool handleWindowSettings(const MSG& message);
 
     MirelIF& m_mirel;
-    MirelGuiIF* m_createdGui = nullptr;
+    Gui::MirelGuiIF* m_createdGui = nullptr;
 };
 
 }

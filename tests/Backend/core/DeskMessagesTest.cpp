@@ -78,14 +78,14 @@ public:
     std::vector<std::string> takeCalls() { return std::exchange(m_calls, {}); }
 
     // What createMirelGui makes; it is never looked into.
-    static MirelGuiIF* gui() { return reinterpret_cast<MirelGuiIF*>(&s_gui); }
+    static Gui::MirelGuiIF* gui() { return reinterpret_cast<Gui::MirelGuiIF*>(&s_gui); }
 
     void initialize() override { note("initialize"); }
     void endInitialize() override { note("endInitialize"); }
     void end() override { note("end"); }
     void setMidiInputPorts(const std::vector<MidiInputPort>& p) override { note("setMidiInputPorts" + describe(p)); }
     void setMidiOutputPorts(const std::vector<MidiOutputPort>& p) override { note("setMidiOutputPorts" + describe(p)); }
-    MirelGuiIF* createMirelGui(bool isVstPlugin) override {
+    Gui::MirelGuiIF* createMirelGui(bool isVstPlugin) override {
         note("createMirelGui" + onOff(isVstPlugin));
         return gui();
     }

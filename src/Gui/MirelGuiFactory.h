@@ -6,19 +6,22 @@
 #include <vector>
 
 namespace Backend {
-
-class MirelGuiIF;
 class MirelIF;
 class RegistrySettings;
+}
+
+namespace Gui {
+
+class MirelGuiIF;
 
 // Where windows come from. What implements it belongs to the build: the screens, or nothing.
 class MirelGuiFactory {
 public:
     // [backend] A new GUI with copies of what it is given, not yet on the screen; null in a build without windows. The
     // caller owns it.
-    static MirelGuiIF* createMirelGui(MirelIF& mirel, const RegistrySettings& settings,
-                                      const std::vector<MidiEngine::MidiInputPort>& inputs,
-                                      const std::vector<MidiEngine::MidiOutputPort>& outputs,
+    static MirelGuiIF* createMirelGui(Backend::MirelIF& mirel, const Backend::RegistrySettings& settings,
+                                      const std::vector<Backend::MidiEngine::MidiInputPort>& inputs,
+                                      const std::vector<Backend::MidiEngine::MidiOutputPort>& outputs,
                                       const std::vector<std::string>& sequencePresets, bool isVstPlugin);
 };
 

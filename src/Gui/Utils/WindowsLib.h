@@ -1,0 +1,109 @@
+// Handles of the system's graphics that belong to an object.
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <type_traits>
+#include <utility>
+
+namespace WindowsLib {
+
+// One handle, deleted with the object. An empty one has a null handle.
+template <class Handle>
+class GdiObject {
+public:
+    GdiObject() = default;
+    explicit GdiObject(Handle handle) : m_handle(handle) {}
+    ~GdiObject() {
+        if (m_handle)
+            DeleteObject(m_handle);
+    }
+    GdiObject(const GdiObject&) = delete;
+    GdiObject& operator=(const GdiObject&) = delete;
+    GdiObject(GdiObject&& other) noexcept : m_handle(std::exchange(other.m_handle, nullptr)) {}
+    GdiObject& operator=(GdiObject&& other) noexcept {
+        std::swap(m_handle, other.m_handle);
+        return *this;
+    }
+
+    Handle handle() const { return m_handle; }
+
+private:
+    Handle m_handle = nullptr;
+};
+
+// A solid brush that knows its colour.
+class Brush {
+public:
+    explicit Brush(COLORREF colour) : m_brush(CreateSolidBrush(colour)), m_colour(colour) {}
+    Brush(const Brush& other) : Brush(other.m_colour) {}
+    Brush& operator=(const Brush& other) {
+        if (this != &other)
+            *this = Brush(other.m_colour);
+        return *this;
+    }
+    Brush(Brush&&) = default;
+    Brush& operator=(Brush&&) = default;
+    ~Brush() = default;
+
+    HBRUSH handle() const { return m_brush.handle(); }
+    COLORREF colour() const { return m_colour; }
+
+private:
+    GdiObject<HBRUSH> m_brush;
+    COLORREF m_colour;
+};
+
+// A solid pen.
+class Pen {
+public:
+    Pen(int width, COLORREF colour) : m_pen(CreatePen(PS_SOLID, width, colour)), m_width(width), m_colour(colour) {}
+    Pen(const Pen& other) : Pen(other.m_width, other.m_colour) {}
+    Pen& operator=(const Pen& other) {
+        if (this != &other)
+            *this = Pen(other.m_width, other.m_colour);
+        return *this;
+    }
+    Pen(Pen&&) = default;
+    Pen& operator=(Pen&&) = default;
+    ~Pen() = default;
+
+    HPEN handle() const { return m_pen.handle(); }
+    COLORREF colour() const { return m_colour; }
+    int width() const { return m_width; }
+
+private:
+    GdiObject<HPEN> m_pen;
+    int m_width;
+    COLORREF m_colour;
+};
+
+// A font; copies share it.
+class Font {
+public:
+    // The height as in CreateFont: a negative one is that of the characters, a positive one that of the cells.
+    Font(const char* face, int height, int weight)
+        : m_font(std::make_shared<GdiObject<HFONT>>(
+              CreateFontA(height, 0, 0, 0, weight, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, face))) {}
+
+    HFONT handle() const { return m_font->handle(); }
+
+private:
+    std::shared_ptr<GdiObject<HFONT>> m_font;
+};
+
+using Bitmap = GdiObject<HBITMAP>;
+
+// A cursor of a module's resources, which the system owns.
+class Cursor {
+public:
+    Cursor(HINSTANCE module, int id) : m_cursor(LoadCursorA(module, MAKEINTRESOURCEA(id))) {}
+
+    HCURSOR handle() const { return m_cursor; }
+
+private:
+    HCURSOR m_cursor;
+};
+
+}
