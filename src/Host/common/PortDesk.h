@@ -60,6 +60,12 @@ private:
     char findRecorder() const;
     void postPorts();
 
+    // [watcher] Tells the desk of ports that were switched, and looks for ports that came or went.
+    void watchPorts();
+
+    // [engine] A port was switched on or off, of which the desk hears soon.
+    void noteSwitch();
+
     const bool m_recordsAll;
     MidiPorts m_ports;
     Player m_player;
@@ -67,6 +73,8 @@ private:
     std::unique_ptr<Backend::MirelIF> m_mirel;
     std::unique_ptr<PortWatcher> m_watcher;
     std::atomic<bool> m_isRunning{false};
+    std::atomic<int> m_switches{0};      // Of ports, by the desk.
+    std::atomic<int> m_toldSwitches{0};  // Of those, that it has been told of.
 };
 
 }
