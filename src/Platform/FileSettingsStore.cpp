@@ -181,6 +181,9 @@ public:
         const auto folderEnd = m_path.find_last_of("/\\");
         if (folderEnd != std::string::npos && folderEnd > 0 && !Files::createFolders(m_path.substr(0, folderEnd)))
             return nullptr;
+        // What is there but can't be read is not replaced by nothing.
+        if (Files::size(m_path) && !Files::read(m_path))
+            return nullptr;
         auto opened = std::make_unique<FileSettingsKey>(m_path, key);
         return opened->save() ? std::move(opened) : nullptr;
     }

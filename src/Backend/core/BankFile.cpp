@@ -5,6 +5,8 @@
 #include "Backend/core/XmlElement.h"
 #include "Backend/core/XmlWriting.h"
 #include "Platform/Files.h"
+#include "Platform/XmlReader.h"
+#include "Platform/XmlText.h"
 
 namespace Backend::BankFile {
 
@@ -62,6 +64,20 @@ std::vector<std::string> readProgramNames(const std::string& path) {
         if (child.getName() == PROGRAM_TAG)
             names.push_back(child.getAttribute("name"));
     return names;
+}
+
+std::optional<std::string> readBank(const std::string& path) {
+    auto bytes = Platform::Files::read(path);
+    if (!bytes)
+        return std::nullopt;
+    const auto decoded = Platform::decodeXml(*bytes);
+    if (!decoded || decoded->wasUtf8)
+        return bytes;
+    return Platform::Files::withSystemLineEnds(getXmlHeader() + decoded->text + "\n");
+}
+
+bool remainsReadable(std::string_view oldBank, std::string_view newBank) {
+    return Platform::readXml(newBank) || !Platform::readXml(oldBank);
 }
 
 std::string wrapProgram(const std::string& rootTag, const std::string& programBlock) {

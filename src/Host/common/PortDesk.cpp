@@ -15,7 +15,7 @@ using Backend::MidiEngine::MirelMidiMessage;
 
 PortDesk::PortDesk(std::shared_ptr<MidiSystem> system, const Options& options)
     : m_recordsAll(options.recordsAll),
-      m_ports(std::move(system), {options.dataFolder, options.virtualPort},
+      m_ports(std::move(system), {options.dataFolder, options.virtualPort, options.keepsSwitches},
               [this](const MirelMidiMessage& event) { receiveInputEvent(*m_mirel, event); }),
       m_player(*this),
       m_mirel(Backend::MirelFactory::createMirel(options.product, m_player, false)) {

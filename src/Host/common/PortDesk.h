@@ -14,10 +14,11 @@ namespace Host {
 class PortDesk {
 public:
     struct Options {
-        std::string product;      // The product's name, for the key of the settings.
-        std::string dataFolder;   // Where the lists of ports are kept.
-        std::string virtualPort;  // The name of ports of the desk's own; empty: none.
-        bool recordsAll = false;  // The Recorder gets what is played on the other outputs too.
+        std::string product;        // The product's name, for the key of the settings.
+        std::string dataFolder;     // Where the lists of ports are kept.
+        std::string virtualPort;    // The name of ports of the desk's own; empty: none.
+        bool keepsSwitches = true;  // Ports that are switched stay so in the next run.
+        bool recordsAll = false;    // The Recorder gets what is played on the other outputs too.
     };
 
     PortDesk(std::shared_ptr<MidiSystem> system, const Options& options);
