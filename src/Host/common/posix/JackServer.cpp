@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 #include <utility>
 
 namespace Host {
@@ -19,6 +20,10 @@ namespace {
 constexpr int MAX_DESKS = 20;
 // So long a working server never takes for a cycle, or to send what is queued.
 constexpr std::int64_t PATIENCE_MICROSECONDS = 500000;
+// How the names of ports begin with which a desk reaches those of other programs. A name is there with the port from
+// the first moment, as an alias or a property would not be.
+constexpr std::string_view FROM = "from ";
+constexpr std::string_view TO = "to ";
 
 void ignoreText(const char*) {}
 
@@ -116,7 +121,7 @@ std::shared_ptr<JackServer> JackServer::connect(const std::string& clientName) {
         jack_client_t* client =
             jack_client_open(name.c_str(), static_cast<jack_options_t>(JackNoStartServer | JackUseExactName), &status);
         if (client) {
-            std::shared_ptr<JackServer> place(new JackServer(client, name), leave);
+            std::shared_ptr<JackServer> place(new JackServer(client, clientName, name), leave);
             places().all.push_back(place.get());
             return place;
         }
@@ -127,8 +132,8 @@ std::shared_ptr<JackServer> JackServer::connect(const std::string& clientName) {
     return nullptr;
 }
 
-JackServer::JackServer(jack_client_t* client, std::string name)
-    : m_client(client), m_name(std::move(name)), m_slots(MAX_SLOTS) {
+JackServer::JackServer(jack_client_t* client, std::string clientName, std::string name)
+    : m_client(client), m_clientName(std::move(clientName)), m_name(std::move(name)), m_slots(MAX_SLOTS) {
     jack_on_shutdown(m_client, goneCallback, this);
     jack_set_process_callback(m_client, processCallback, this);
     jack_set_port_registration_callback(m_client, registeredCallback, this);
@@ -242,10 +247,26 @@ std::vector<std::string> JackServer::otherPorts(unsigned long flags) {
     const char** found = jack_get_ports(m_client, nullptr, JACK_DEFAULT_MIDI_TYPE, flags);
     std::vector<std::string> names;
     for (const char** name = found; name && *name; ++name)
-        if (const std::string text = *name; !text.starts_with(m_name + ":") && !isReplaced(text))
+        if (const std::string text = *name; !text.starts_with(m_name + ":") && !isOfADesk(text) && !isReplaced(text))
             names.push_back(text);
     jack_free(found);
     return names;
+}
+
+// Whether a desk has made the port for itself, to reach another one. Those for other programs don't count.
+bool JackServer::isOfADesk(const std::string& port) const {
+    std::string_view rest = port;
+    if (!rest.starts_with(m_clientName))
+        return false;
+    rest.remove_prefix(m_clientName.size());
+    const std::size_t colon = rest.find(':');
+    if (colon == std::string_view::npos)
+        return false;
+    const std::string_view number = rest.substr(0, colon);
+    const bool isNumbered = number.size() > 1 && number.front() == ' ' &&
+                            number.find_first_not_of("0123456789", 1) == std::string_view::npos;
+    rest.remove_prefix(colon + 1);
+    return (number.empty() || isNumbered) && (rest.starts_with(FROM) || rest.starts_with(TO));
 }
 
 void JackServer::findReplaced() {
@@ -322,13 +343,20 @@ std::unique_ptr<OpenMidiPort> JackServer::open(const std::string& name, const st
     return port;
 }
 
-std::unique_ptr<OpenMidiPort> JackServer::openInput(const std::string& name, const std::string& from,
-                                                    MidiReceiver receiver) {
-    return open(name, from, std::move(receiver), true);
+std::unique_ptr<OpenMidiPort> JackServer::openInput(const std::string& from, MidiReceiver receiver) {
+    return open(std::string(FROM) + from, from, std::move(receiver), true);
 }
 
-std::unique_ptr<OpenMidiPort> JackServer::openOutput(const std::string& name, const std::string& to) {
-    return open(name, to, nullptr, false);
+std::unique_ptr<OpenMidiPort> JackServer::openOutput(const std::string& to) {
+    return open(std::string(TO) + to, to, nullptr, false);
+}
+
+std::unique_ptr<OpenMidiPort> JackServer::openVirtualInput(const std::string& name, MidiReceiver receiver) {
+    return open(name + " in", {}, std::move(receiver), true);
+}
+
+std::unique_ptr<OpenMidiPort> JackServer::openVirtualOutput(const std::string& name) {
+    return open(name + " out", {}, nullptr, false);
 }
 
 }

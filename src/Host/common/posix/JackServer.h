@@ -34,20 +34,24 @@ public:
     // [any] The name that the desk has there, which no other one has.
     const std::string& name() const { return m_name; }
 
-    // [any] The ports of all other programs. One that went and came back since the desk opened it is left out until the
-    // desk has closed it: it is another one of the same name, to which nothing is connected.
+    // [any] The ports of all other programs. Those with which another desk of the same client name reaches a port are
+    // left out: two desks would take them for new ports for ever. One that went and came back since the desk opened it
+    // is left out until the desk has closed it: it is another one of the same name, to which nothing is connected.
     MidiPortIds list();
 
-    // [any] A port of the desk under a name of its own, connected to another program's unless that is empty text. Null
-    // if there is no such other port.
-    std::unique_ptr<OpenMidiPort> openInput(const std::string& name, const std::string& from, MidiReceiver receiver);
-    std::unique_ptr<OpenMidiPort> openOutput(const std::string& name, const std::string& to);
+    // [any] A port of the desk that is connected to this one of another program. Null if there is no such other port.
+    std::unique_ptr<OpenMidiPort> openInput(const std::string& from, MidiReceiver receiver);
+    std::unique_ptr<OpenMidiPort> openOutput(const std::string& to);
+
+    // [any] A port of the desk for other programs to connect to. Null if there can't be one.
+    std::unique_ptr<OpenMidiPort> openVirtualInput(const std::string& name, MidiReceiver receiver);
+    std::unique_ptr<OpenMidiPort> openVirtualOutput(const std::string& name);
 
 private:
     struct Slot;
     class Port;
 
-    JackServer(jack_client_t* client, std::string name);
+    JackServer(jack_client_t* client, std::string clientName, std::string name);
     ~JackServer();
     static void leave(JackServer* place);
 
@@ -64,12 +68,14 @@ private:
                                        bool isInput);
     bool waitForCycles(std::uint32_t count) const;
     std::vector<std::string> otherPorts(unsigned long flags);
+    bool isOfADesk(const std::string& port) const;
     void findReplaced();
     bool isReplaced(const std::string& other) const;
 
     static constexpr std::size_t MAX_SLOTS = 512;
 
     jack_client_t* m_client;
+    const std::string m_clientName;  // That of all desks, without a number.
     const std::string m_name;
     std::atomic<bool> m_isAlive{true};
     std::atomic<std::uint32_t> m_cycles{0};  // How often the server has had the ports processed; wraps.
