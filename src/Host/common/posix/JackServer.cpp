@@ -1,5 +1,6 @@
 #include "Host/common/posix/JackServer.h"
 
+#include "Host/common/AbandonableThread.h"
 #include "Host/common/MidiByteParser.h"
 #include "Host/common/OutputQueue.h"
 #include "Platform/MonotonicClock.h"
@@ -30,14 +31,24 @@ void ignoreText(const char*) {}
 // The library keeps state for the whole process that a second server must not meet; see JackServer::connect. So all
 // places of the process are known here.
 struct Places {
-    std::mutex mutex;
+    std::mutex connecting;  // One attempt at a time.
+    std::mutex mutex;       // Of what follows; never held while the server is at work.
     std::vector<JackServer*> all;
+    bool isAttempted = false;  // An attempt to get one more is under way, or hangs.
 };
 
+// Never destroyed, as an attempt that hangs may end at any time.
 Places& places() {
-    static Places known;
+    static Places& known = *new Places;
     return known;
 }
+
+// Shared by who waits for a place and the thread that asks the server for it.
+struct Attempt {
+    std::mutex mutex;
+    bool isAbandoned = false;
+    std::shared_ptr<JackServer> place;
+};
 
 enum class Use {
     FREE,
@@ -106,12 +117,38 @@ private:
     const bool m_isInput;
 };
 
-std::shared_ptr<JackServer> JackServer::connect(const std::string& clientName) {
-    const std::lock_guard lock(places().mutex);
-    // With a client of a server that has gone still there, the library would mix up the two.
-    const auto& all = places().all;
-    if (std::any_of(all.begin(), all.end(), [](const JackServer* place) { return !place->isAlive(); }))
-        return nullptr;
+std::shared_ptr<JackServer> JackServer::connect(const std::string& clientName, std::chrono::milliseconds limit) {
+    const std::lock_guard oneAtATime(places().connecting);
+    const auto deadline = std::chrono::steady_clock::now() + limit;
+    {
+        const std::lock_guard lock(places().mutex);
+        // With a client of a server that has gone still there, the library would mix up the two.
+        const auto& all = places().all;
+        if (places().isAttempted ||
+            std::any_of(all.begin(), all.end(), [](const JackServer* place) { return !place->isAlive(); }))
+            return nullptr;
+        places().isAttempted = true;
+    }
+    // A server that hangs answers the library never, and the library waits for ever.
+    const auto attempt = std::make_shared<Attempt>();
+    AbandonableThread thread("jack connect", [attempt, clientName] {
+        std::shared_ptr<JackServer> place = openPlace(clientName);
+        {
+            const std::lock_guard lock(attempt->mutex);
+            if (!attempt->isAbandoned)
+                attempt->place = std::move(place);
+        }
+        place = nullptr;  // Too late for who asked; the next one may get another.
+        const std::lock_guard lock(places().mutex);
+        places().isAttempted = false;
+    });
+    thread.waitUntilEnded(deadline);
+    const std::lock_guard lock(attempt->mutex);
+    attempt->isAbandoned = true;
+    return std::move(attempt->place);
+}
+
+std::shared_ptr<JackServer> JackServer::openPlace(const std::string& clientName) {
     // A computer without the server is nothing to complain of.
     jack_set_error_function(ignoreText);
     jack_set_info_function(ignoreText);
@@ -122,6 +159,7 @@ std::shared_ptr<JackServer> JackServer::connect(const std::string& clientName) {
             jack_client_open(name.c_str(), static_cast<jack_options_t>(JackNoStartServer | JackUseExactName), &status);
         if (client) {
             std::shared_ptr<JackServer> place(new JackServer(client, clientName, name), leave);
+            const std::lock_guard lock(places().mutex);
             places().all.push_back(place.get());
             return place;
         }
@@ -145,13 +183,13 @@ void JackServer::leave(JackServer* place) {
     // A server that hangs would hold up the end of the program. As it may wake up again and call back, all stays there.
     if (!place->waitForCycles(1))
         return;
+    jack_client_close(place->m_client);
     const std::lock_guard lock(places().mutex);
     std::erase(places().all, place);
     delete place;
 }
 
 JackServer::~JackServer() {
-    jack_client_close(m_client);
     for (const auto& slot : m_slots)
         delete slot.load();
 }

@@ -5,6 +5,7 @@
 #include <jack/types.h>
 
 #include <atomic>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -20,10 +21,15 @@ namespace Host {
 // has gone, and take a client for each port.
 class JackServer : public std::enable_shared_from_this<JackServer> {
 public:
+    static constexpr std::chrono::milliseconds CONNECT_LIMIT{3000};  // For a busy computer.
+
     // [any] A place under this name, or with a number behind it if another desk has that. Null if no server runs; none
-    // is started. As long as a place of this process at a server that has gone is in use there is no new one. At the
-    // end of its last user the place is given up; a server that hangs is not waited for.
-    static std::shared_ptr<JackServer> connect(const std::string& clientName);
+    // is started. Null as well if the server hasn't answered within the limit; it is left to itself then, and until it
+    // answers or goes there is no place for anybody in this process. As long as a place of this process at a server
+    // that has gone is in use there is no new one. At the end of its last user the place is given up; a server that
+    // hangs is not waited for.
+    static std::shared_ptr<JackServer> connect(const std::string& clientName,
+                                               std::chrono::milliseconds limit = CONNECT_LIMIT);
 
     JackServer(const JackServer&) = delete;
     JackServer& operator=(const JackServer&) = delete;
@@ -53,6 +59,7 @@ private:
 
     JackServer(jack_client_t* client, std::string clientName, std::string name);
     ~JackServer();
+    static std::shared_ptr<JackServer> openPlace(const std::string& clientName);
     static void leave(JackServer* place);
 
     static int processCallback(std::uint32_t frames, void* self);

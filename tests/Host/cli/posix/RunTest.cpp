@@ -351,6 +351,17 @@ Sequence eventsOfDump(const std::string& output) {
     return events;
 }
 
+TEST_F(RunTest, ServerThatHangsAtTheStartHoldsUpNothing) {
+    ASSERT_TRUE(m_server.start()) << m_server.process()->output();
+    m_server.process()->suspend(true);
+    run({"--bank", m_bank});
+    EXPECT_NE(m_program->output().find(PLAYS), std::string::npos) << m_program->output();
+    EXPECT_EQ(endBy(SIGINT), 0) << m_program->output();
+    ChildProcess ports({MIREL_PROGRAM, "ports", "--data", m_folder.path()});
+    EXPECT_EQ(ports.waitForExit(), 0) << ports.output();
+    EXPECT_NE(ports.output().find("outputs:"), std::string::npos) << ports.output();
+}
+
 TEST_F(RunTest, VirtualPortsStandBetweenOtherPrograms) {
     // A server that waits for its clients hangs on those that end without a word.
     ASSERT_TRUE(m_server.start(JackTestServer::Cycles::IN_TIME)) << m_server.process()->output();

@@ -313,6 +313,21 @@ TEST_F(JackTest, DeskSurvivesTheEndOfTheServerAndFindsTheNextOne) {
     EXPECT_TRUE(playUntilPrinted(output, 0x0b07b3, monitor, "b3 07 0b")) << monitor.output();
 }
 
+TEST_F(JackTest, ServerThatHangsFromTheBeginningIsDoneWithout) {
+    startServer();
+    startMonitor();
+    server().suspend(true);
+    MidiPorts& ports = startPorts();
+    EXPECT_EQ(find(ports.outputs(), MONITOR), -1);
+    EXPECT_GE(find(ports.outputs(), Recorder::NAME), 0);
+    EXPECT_EQ(JackServer::connect("late"), nullptr) << "nobody waits for the same server twice";
+    server().suspend(false);
+    EXPECT_TRUE(eventually([&] {
+        update();
+        return find(ports.outputs(), MONITOR) >= 0;
+    }));
+}
+
 TEST_F(JackTest, ServerThatHangsHoldsUpNeitherTheSlicesNorTheEnd) {
     startServer();
     startMonitor();
