@@ -318,6 +318,15 @@ TEST_F(RunTest, TerminalThatTellsReleasesHoldsNotes) {
     EXPECT_EQ(program.waitForExit(), 0) << program.output();
 }
 
+TEST_F(RunTest, TerminalThatTellsLittleHoldsNoNotes) {
+    startServer();
+    ChildProcess& program = runWithPlayer({"--keys"}, ChildProcess::Streams::TERMINAL);
+    ASSERT_TRUE(eventually([&] { return program.output().find("\x1b[?u") != std::string::npos; }));
+    program.type("\x1b[?1u");
+    program.type("q");
+    expectHeard({"90 3c 64", "92 48 64", "80 3c 64", "82 48 64"});
+}
+
 TEST_F(RunTest, SongPlaysThroughTheDeskWhichThenEnds) {
     startServer();
     const std::string song = m_folder.file("song.mid");
