@@ -26,7 +26,7 @@ void watchForStopRequests() {
     struct sigaction action = {};
     action.sa_handler = request;
     action.sa_flags = SA_RESTART;
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+    for (const int signal : {SIGINT, SIGQUIT, SIGTERM, SIGHUP})
         ::sigaction(signal, &action, nullptr);
 }
 

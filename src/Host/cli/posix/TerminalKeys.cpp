@@ -27,6 +27,11 @@ void writeToTerminal(std::string_view text) {
     [[maybe_unused]] const auto written = ::write(STDOUT_FILENO, text.data(), text.size());
 }
 
+// What a terminal that tells of every key no longer makes a signal of.
+bool isInterrupt(const Key& key) {
+    return key == Key(std::string_view("Control C")) || key == Key(std::string_view("Control Backslash"));
+}
+
 class PosixTerminalKeys : public TerminalKeys {
 public:
     explicit PosixTerminalKeys(const termios& state) : m_state(state) {
@@ -68,7 +73,7 @@ private:
     using Action = TerminalKeyParser::Action;
 
     void take(const Press& press, std::vector<KeyEvent>& events) {
-        if (press.key == Key('C', false, true, false, false))
+        if (isInterrupt(press.key))
             m_isInterrupted = true;
         if (press.action == Action::RELEASE) {
             m_down.erase(press.key);

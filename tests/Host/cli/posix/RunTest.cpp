@@ -195,7 +195,7 @@ TEST_F(RunTest, RecordHoldsWhatCameOut) {
 
 TEST_F(RunTest, NotesEndWhenTheProgramIsAskedToEnd) {
     startServer();
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+    for (const int signal : {SIGINT, SIGQUIT, SIGTERM, SIGHUP}) {
         runWithPlayer({});
         for (const std::uint8_t note : Bytes{60, 64, 67})
             m_player->send({0x90, note, 100});
@@ -316,6 +316,21 @@ TEST_F(RunTest, TerminalThatTellsReleasesHoldsNotes) {
     ASSERT_TRUE(isHeard("82 4a 64"));
     program.type("\x1b[99;5:1u");
     EXPECT_EQ(program.waitForExit(), 0) << program.output();
+}
+
+TEST_F(RunTest, QuitOfATerminalEndsNotesAndGivesItBack) {
+    startServer();
+    for (const bool tellsKeys : {false, true}) {
+        ChildProcess& program = runWithPlayer({"--keys"}, ChildProcess::Streams::TERMINAL);
+        ASSERT_TRUE(eventually([&] { return program.output().find("\x1b[?u") != std::string::npos; }));
+        program.type("\x1b[?11u\x1b[113;1:1u");
+        ASSERT_TRUE(isHeard("92 48 64"));
+        program.type(tellsKeys ? "\x1b[92;5:1u" : "\x1c");
+        EXPECT_EQ(program.waitForExit(), 0) << program.output();
+        EXPECT_NE(program.output().find("\x1b[<u"), std::string::npos) << "the terminal is as it was";
+        EXPECT_TRUE(isHeard("80 3c 40")) << tellsKeys;
+        EXPECT_TRUE(isHeard("82 48 40")) << tellsKeys;
+    }
 }
 
 TEST_F(RunTest, TerminalThatTellsLittleHoldsNoNotes) {
