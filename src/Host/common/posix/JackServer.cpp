@@ -76,9 +76,7 @@ public:
         : m_server(std::move(server)), m_slot(slot), m_isInput(isInput) {}
 
     ~Port() override {
-        const std::int64_t limit = Platform::monotonicMicroseconds() + PATIENCE_MICROSECONDS;
-        while (!m_slot.queue.isEmpty() && m_server->isAlive() && Platform::monotonicMicroseconds() < limit)
-            Platform::sleepMilliseconds(1);
+        waitUntilPlayed(PATIENCE_MICROSECONDS);
         if (!m_isInput) {
             m_slot.use = Use::SILENT;
             m_server->waitForCycles(2);
@@ -111,7 +109,20 @@ public:
         return false;
     }
 
+    void flush() override {
+        waitUntilPlayed(PATIENCE_MICROSECONDS);
+        // In the cycle after the last one with events its buffer is emptied; while the program pauses, the server
+        // would play it again and again.
+        m_server->waitForCycles(2);
+    }
+
 private:
+    void waitUntilPlayed(std::int64_t patience) const {
+        const std::int64_t limit = Platform::monotonicMicroseconds() + patience;
+        while (!m_slot.queue.isEmpty() && m_server->isAlive() && Platform::monotonicMicroseconds() < limit)
+            Platform::sleepMilliseconds(1);
+    }
+
     const std::shared_ptr<JackServer> m_server;
     Slot& m_slot;
     const bool m_isInput;

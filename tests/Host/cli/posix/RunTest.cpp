@@ -71,7 +71,8 @@ protected:
     // Starts the program and waits until it plays.
     ChildProcess& run(const std::vector<std::string>& options,
                       ChildProcess::Streams streams = ChildProcess::Streams::PIPE) {
-        std::vector<std::string> words = {MIREL_PROGRAM, "run", "--data", m_folder.path()};
+        std::vector<std::string> words = m_shell;
+        words.insert(words.end(), {MIREL_PROGRAM, "run", "--data", m_folder.path()});
         words.insert(words.end(), options.begin(), options.end());
         m_program.emplace(words, std::map<std::string, std::string>(), streams);
         EXPECT_TRUE(eventually(
@@ -156,6 +157,7 @@ protected:
 
     static bool runs(const std::string& command) { return std::system(command.c_str()) == 0; }
 
+    std::vector<std::string> m_shell;  // What starts the program; empty: this process.
     const TestSupport::TemporaryFolder m_folder;
     const std::string m_bank = m_folder.file("test.bnk");
     JackTestServer m_server;
@@ -330,6 +332,38 @@ TEST_F(RunTest, QuitOfATerminalEndsNotesAndGivesItBack) {
         EXPECT_NE(program.output().find("\x1b[<u"), std::string::npos) << "the terminal is as it was";
         EXPECT_TRUE(isHeard("80 3c 40")) << tellsKeys;
         EXPECT_TRUE(isHeard("82 48 40")) << tellsKeys;
+    }
+}
+
+TEST_F(RunTest, PauseEndsNotesAndGivesTheTerminalBackUntilItIsOver) {
+    startServer();
+    // Only a shell can have a program that pauses go on.
+    m_shell = {"bash", "-c", R"(set -m; "$0" "$@"; echo paused; stty -a; read -r; fg; echo ended $?)"};
+    for (const bool tellsKeys : {false, true}) {
+        ChildProcess& program = runWithPlayer({"--keys"}, ChildProcess::Streams::TERMINAL);
+        const auto asks = [&program](int times) {
+            std::size_t place = 0;
+            for (int i = 0; i < times && place != std::string::npos; ++i)
+                place = program.output().find("\x1b[?u", place == 0 ? 0 : place + 1);
+            return place != std::string::npos;
+        };
+        ASSERT_TRUE(eventually([&] { return asks(1); }));
+        program.type("\x1b[?11u\x1b[113;1:1u");
+        ASSERT_TRUE(isHeard("92 48 64"));
+        program.type(tellsKeys ? "\x1b[122;5:1u" : "\x1a");
+        ASSERT_TRUE(eventually([&] { return program.output().find(" icanon") != std::string::npos; }))
+            << program.output();
+        EXPECT_NE(program.output().find("\x1b[<u"), std::string::npos) << program.output();
+        EXPECT_TRUE(isHeard("80 3c 64")) << tellsKeys;
+        EXPECT_TRUE(isHeard("82 48 64")) << tellsKeys;
+        program.type("\n");
+        ASSERT_TRUE(eventually([&] { return asks(2); })) << program.output();
+        // Without a line's end, so not from a terminal that edits lines.
+        program.type("\x1b[?11u\x1b[119;1:1u");
+        EXPECT_TRUE(isHeard("92 4a 64")) << program.output();
+        program.type("\x03");
+        EXPECT_EQ(program.waitForExit(), 0);
+        EXPECT_NE(program.output().find("ended 0"), std::string::npos) << program.output();
     }
 }
 
