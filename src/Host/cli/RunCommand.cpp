@@ -134,7 +134,7 @@ public:
         constexpr milliseconds TAIL{1500};  // For the end of a song to fade.
         const auto song = readSong();
         const auto keys = openKeys();
-        const auto start = std::chrono::steady_clock::now();
+        auto start = std::chrono::steady_clock::now();
         auto songEnd = std::chrono::steady_clock::time_point::max();
         while (!m_desk.hasFailed()) {
             const auto now = std::chrono::steady_clock::now();
@@ -155,6 +155,13 @@ public:
                 playKeys(*keys, song && !song->isAtEnd() ? milliseconds(1) : STEP);
             if (Platform::waitForStopRequest(step) || (keys && keys->isInterrupted()))
                 return;
+            if (Platform::isPauseRequested()) {
+                pause(keys.get());
+                const auto length = std::chrono::steady_clock::now() - now;
+                start += length;
+                if (song && song->isAtEnd())
+                    songEnd += length;
+            }
         }
         throw RunError("the player has stopped");
     }
@@ -293,6 +300,19 @@ private:
         manager().postPlayMidi(makeInputEvent(static_cast<MidiEngine::MidiMessage::MessageType>(event.status),
                                               static_cast<char>(event.d1), static_cast<char>(event.d2),
                                               MirelMidiMessage::DEFAULT_CHANNEL, MirelMidiMessage::DEFAULT_INPUT));
+    }
+
+    // Silent and with the terminal as it was, until the user has the program go on.
+    void pause(TerminalKeys* keys) {
+        if (keys)
+            for (const KeyEvent& event : keys->giveBack())
+                manager().postKeyUp(event.key);
+        m_desk.waitUntilIdle();
+        m_desk.pause();
+        Platform::pauseProgram();
+        if (keys)
+            keys->takeAgain();
+        m_desk.resume();
     }
 
     void playKeys(TerminalKeys& keys, milliseconds limit) {

@@ -39,7 +39,7 @@ void PortDesk::start() {
     manager.sendSetMidiInputPorts(m_ports.inputPorts());
     manager.sendSetMidiOutputPorts(m_ports.outputPorts());
     m_ports.waitUntilIdle();  // What is played to a port that is not open yet is lost.
-    m_player.start([this](std::int32_t from, std::int32_t to) { m_mirel->playTimeSlice(from, to); });
+    startPlayer();
     manager.sendEndInitialize();
     m_isRunning = true;
 }
@@ -56,6 +56,21 @@ bool PortDesk::stop() {
     m_player.stop();
     const bool portsClosed = m_ports.close();
     return watchEnded && portsClosed;
+}
+
+void PortDesk::startPlayer() {
+    m_player.start([this](std::int32_t from, std::int32_t to) { m_mirel->playTimeSlice(from, to); });
+}
+
+bool PortDesk::pause() {
+    if (!m_player.hasEnded())
+        m_mirel->getMidiEngineMessageManager().sendReset();
+    m_player.stop();  // It also ends what sounds at the ports alone.
+    return m_ports.waitUntilIdle();
+}
+
+void PortDesk::resume() {
+    startPlayer();
 }
 
 void PortDesk::waitUntilIdle() {

@@ -34,6 +34,13 @@ public:
     // [main] Ends all that sounds, saves the settings and closes the ports. False if a port hung and was left behind.
     bool stop();
 
+    // [main, between start and stop] Ends all that sounds and plays nothing from then on, so that the program can be
+    // paused. False if a port hung.
+    bool pause();
+
+    // [main, after pause] Plays on.
+    void resume();
+
     Backend::MirelIF& mirel() { return *m_mirel; }
     MidiPorts& ports() { return m_ports; }
 
@@ -60,6 +67,8 @@ private:
     // The index of the recorder among the outputs.
     char findRecorder() const;
     void postPorts();
+
+    void startPlayer();
 
     // [watcher] Tells the desk of ports that were switched, and looks for ports that came or went.
     void watchPorts();

@@ -3,6 +3,7 @@
 #include "Host/common/PortPlayer.h"
 #include "Host/common/posix/JackServer.h"
 #include "tests/Host/common/posix/ChildProcess.h"
+#include "tests/Host/common/posix/JackTestClient.h"
 #include "tests/Host/common/posix/JackTestServer.h"
 #include "tests/support/Eventually.h"
 
@@ -249,6 +250,44 @@ TEST_F(JackTest, SecondDeskHasANameOfItsOwnAndSeesTheFirst) {
     EXPECT_TRUE(eventually([&] { return contains(first->list().inputs, "Mirel 2:Notes out"); }));
 }
 
+TEST_F(JackTest, DesksDoNotTakeEachOthersConnectionsForPorts) {
+    startServer();
+    startMonitor();
+    startSequencer();
+    MidiPorts& ports = startPorts(DESK);
+    ASSERT_TRUE(hasInput("Mirel:to midi-monitor input") && hasOutput("Mirel:from Seq out"));
+    MidiPorts second(createMidiSystem(DESK), MidiPorts::Options{std::string(), DESK}, [](const MirelMidiMessage&) {});
+    second.update();
+    ASSERT_TRUE(eventually([&second] { return second.isIdle(); }));
+    ASSERT_TRUE(hasInput("Mirel 2:to midi-monitor input") && hasOutput("Mirel 2:from Seq out"));
+    const auto isConnection = [](const PortRow& row) {
+        return row.id.name.find(":to ") != std::string::npos || row.id.name.find(":from ") != std::string::npos;
+    };
+    // Each would make a new connection to the last one of the other at every look.
+    for (int look = 0; look < 3; ++look) {
+        update();
+        second.update();
+        ASSERT_TRUE(eventually([&second] { return second.isIdle(); }));
+    }
+    for (const std::vector<PortRow>& rows : {ports.inputs(), ports.outputs(), second.inputs(), second.outputs()})
+        for (const PortRow& row : rows)
+            EXPECT_FALSE(isConnection(row)) << row.id.name;
+    EXPECT_GE(find(ports.inputs(), "Mirel 2:Mirel out"), 0);
+    EXPECT_GE(find(second.outputs(), "Mirel:Mirel in"), 0);
+}
+
+TEST_F(JackTest, OnlyTheConnectionsOfDesksAreLeftOut) {
+    startServer();
+    const auto system = createMidiSystem(DESK);
+    const JackTestClient other("Mirelle");
+    EXPECT_TRUE(contains(system->list().inputs, "Mirelle:out"));
+    const auto organ = JackServer::connect("Mirel Organ");
+    ASSERT_NE(organ, nullptr);
+    const auto port = organ->openOutput(other.input());
+    ASSERT_NE(port, nullptr);
+    EXPECT_TRUE(contains(system->list().inputs, "Mirel Organ:to Mirelle in"));
+}
+
 TEST_F(JackTest, DeskSurvivesTheEndOfTheServerAndFindsTheNextOne) {
     startServer();
     ChildProcess& first = startMonitor();
@@ -272,6 +311,21 @@ TEST_F(JackTest, DeskSurvivesTheEndOfTheServerAndFindsTheNextOne) {
         return find(ports.outputs(), MONITOR) == output;
     }));
     EXPECT_TRUE(playUntilPrinted(output, 0x0b07b3, monitor, "b3 07 0b")) << monitor.output();
+}
+
+TEST_F(JackTest, ServerThatHangsFromTheBeginningIsDoneWithout) {
+    startServer();
+    startMonitor();
+    server().suspend(true);
+    MidiPorts& ports = startPorts();
+    EXPECT_EQ(find(ports.outputs(), MONITOR), -1);
+    EXPECT_GE(find(ports.outputs(), Recorder::NAME), 0);
+    EXPECT_EQ(JackServer::connect("late"), nullptr) << "nobody waits for the same server twice";
+    server().suspend(false);
+    EXPECT_TRUE(eventually([&] {
+        update();
+        return find(ports.outputs(), MONITOR) >= 0;
+    }));
 }
 
 TEST_F(JackTest, ServerThatHangsHoldsUpNeitherTheSlicesNorTheEnd) {
