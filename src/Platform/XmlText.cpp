@@ -254,12 +254,18 @@ std::optional<DecodedXml> withoutTrailingSpace(std::optional<std::string> text, 
     if (!text)
         return std::nullopt;
     text->erase(text->find_last_not_of(WHITE_SPACE) + 1);
-    return DecodedXml{std::move(*text), firstLine, false};
+    return DecodedXml{std::move(*text), firstLine, false, false};
 }
 
 std::optional<DecodedXml> fromUtf8(std::optional<DecodedXml> decoded) {
     if (decoded)
         decoded->wasUtf8 = true;
+    return decoded;
+}
+
+std::optional<DecodedXml> fromUtf16(std::optional<DecodedXml> decoded) {
+    if (decoded)
+        decoded->wasUtf16 = true;
     return decoded;
 }
 
@@ -280,13 +286,13 @@ std::optional<DecodedXml> decodeXml(std::string_view document) {
     if (document.starts_with("\xEF\xBB\xBF"))
         return fromUtf8(withoutDeclaration(toUtf8(document.substr(3), Encoding::UTF_8, false)));
     if (document.starts_with("\xFF\xFE"))
-        return withoutDeclaration(toUtf8(document.substr(2), Encoding::UTF_16, false));
+        return fromUtf16(withoutDeclaration(toUtf8(document.substr(2), Encoding::UTF_16, false)));
     if (document.starts_with("\xFE\xFF"))
-        return withoutDeclaration(toUtf8(document.substr(2), Encoding::UTF_16, true));
+        return fromUtf16(withoutDeclaration(toUtf8(document.substr(2), Encoding::UTF_16, true)));
     if (document.starts_with("<\0?\0"sv))
-        return withoutDeclaration(toUtf8(document, Encoding::UTF_16, false));
+        return fromUtf16(withoutDeclaration(toUtf8(document, Encoding::UTF_16, false)));
     if (document.starts_with("\0<\0?"sv))
-        return withoutDeclaration(toUtf8(document, Encoding::UTF_16, true));
+        return fromUtf16(withoutDeclaration(toUtf8(document, Encoding::UTF_16, true)));
     const auto declaration = DeclarationReader(document).read();
     const auto encoding = declaration ? encodingOfName(declaration->encoding) : std::nullopt;
     // A declaration that can be read byte by byte contradicts an encoding of two bytes.

@@ -8,6 +8,8 @@
 #include "Platform/XmlReader.h"
 #include "Platform/XmlText.h"
 
+#include <algorithm>
+
 namespace Backend::BankFile {
 
 namespace {
@@ -66,12 +68,14 @@ std::vector<std::string> readProgramNames(const std::string& path) {
     return names;
 }
 
-std::optional<std::string> readBank(const std::string& path) {
+std::optional<std::string> readBank(const std::string& path, std::string_view block) {
     auto bytes = Platform::Files::read(path);
     if (!bytes)
         return std::nullopt;
     const auto decoded = Platform::decodeXml(*bytes);
-    if (!decoded || decoded->wasUtf8)
+    const bool isAscii =
+        std::all_of(block.begin(), block.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
+    if (!decoded || decoded->wasUtf8 || (isAscii && !decoded->wasUtf16))
         return bytes;
     return Platform::Files::withSystemLineEnds(getXmlHeader() + decoded->text + "\n");
 }

@@ -182,11 +182,12 @@ void Mirel::saveToBank(const std::string& path, HWND notify) {
 void Mirel::saveToBankFile(const std::string& target, int index, HWND notify) {
     if (index < 0 || m_currentBank.getPath().empty())
         return;
-    const auto source = BankFile::readBank(m_currentBank.getPath());
+    const std::string program = writeProgram();
+    const auto source = BankFile::readBank(m_currentBank.getPath(), program);
     if (!source)
         return;
     // A program that makes the bank unreadable, as by its size, is not saved: all others would be lost.
-    const std::string bank = BankFile::replaceProgram(*source, index, writeProgram());
+    const std::string bank = BankFile::replaceProgram(*source, index, program);
     const bool isReplacement = index < static_cast<int>(m_currentBank.getProgramNames().size());
     const bool isLossless = isReplacement ? BankFile::remainsReadable(*source, bank) : bank.size() <= Files::MAX_SIZE;
     if (!isLossless)
@@ -204,7 +205,7 @@ void Mirel::changeBankSize(int size, HWND notify) {
     if (size <= m_currentProgram.getIndex())
         changeProgramFromBank(size - 1);
     const std::string path = m_currentBank.getPath();
-    const auto bank = BankFile::readBank(path);
+    const auto bank = BankFile::readBank(path, "");
     if (!bank)
         return;
     const auto resized = BankFile::resize(*bank, count, size);

@@ -141,7 +141,7 @@ TEST_F(ProgramFilesTest, AProgramThatWouldMakeItsBankUnreadableIsNotSaved) {
     EXPECT_EQ(m_notified.take(), std::vector<UINT>{SAVE_TO_BANK_DONE});
 }
 
-// The first save makes it one in UTF-8.
+// The first save of what it can't hold makes it one in UTF-8.
 TEST_F(ProgramFilesTest, ABankInAnotherEncodingKeepsItsNames) {
     using namespace std::string_literals;
     const std::string utf8 = "Zo\xC3\xAB";

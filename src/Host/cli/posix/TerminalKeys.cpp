@@ -39,9 +39,7 @@ bool isPause(const Key& key) {
 
 class PosixTerminalKeys : public TerminalKeys {
 public:
-    explicit PosixTerminalKeys(const termios& state) : m_state(state) {
-        takeTerminal();
-    }
+    explicit PosixTerminalKeys(const termios& state) : m_state(state) { takeTerminal(); }
 
     ~PosixTerminalKeys() override { giveTerminalBack(); }
 

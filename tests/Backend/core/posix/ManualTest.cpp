@@ -20,9 +20,9 @@ namespace fs = std::filesystem;
 class ManualTest : public testing::Test {
 protected:
     ManualTest() {
-        EXPECT_TRUE(Files::replace(m_folder.file("xdg-open"), "#!/bin/sh\nprintf '%s' \"$1\" >'" + m_opened +
-                                                                  ".new'; mv '" + m_opened + ".new' '" + m_opened +
-                                                                  "'\n"));
+        EXPECT_TRUE(Files::replace(
+            m_folder.file("xdg-open"),
+            "#!/bin/sh\nprintf '%s' \"$1\" >'" + m_opened + ".new'; mv '" + m_opened + ".new' '" + m_opened + "'\n"));
         fs::permissions(m_folder.file("xdg-open"), fs::perms::owner_all);
         ::setenv("PATH", (m_folder.path() + ":" + m_path).c_str(), 1);
         MirelUtils::useDataFolder(m_folder.file("data"));

@@ -280,17 +280,16 @@ TEST_F(RunTest, PortThatComesBackIsUsedAgain) {
     expectHeard({"90 3e 64", "92 4a 64", "80 3e 40", "82 4a 40"});
 }
 
-TEST_F(RunTest, SecondRunKeepsThePorts) {
+TEST_F(RunTest, PortsOfOneRunAreNotThoseOfTheNext) {
     startServer();
     JackTestClient other("another");
     runWithPlayer({});
+    EXPECT_EQ(other.inputConnections() + other.outputConnections(), 0);
     EXPECT_EQ(endBy(SIGTERM), 0);
     run({"--bank", m_bank});
-    synchronize();
     EXPECT_NE(m_program->output().find("listens to player:out\n"), std::string::npos) << m_program->output();
-    EXPECT_NE(m_program->output().find("plays to player:in\n"), std::string::npos) << m_program->output();
-    EXPECT_EQ(m_program->output().find("another"), std::string::npos) << m_program->output();
-    EXPECT_EQ(other.inputConnections() + other.outputConnections(), 0);
+    EXPECT_NE(m_program->output().find("listens to another:out\n"), std::string::npos) << m_program->output();
+    EXPECT_TRUE(eventually([&other] { return other.inputConnections() + other.outputConnections() == 2; }));
 }
 
 TEST_F(RunTest, CharactersOfATerminalPlayAndRelease) {
