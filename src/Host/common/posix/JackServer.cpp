@@ -75,16 +75,18 @@ public:
     Port(std::shared_ptr<JackServer> server, Slot& slot, bool isInput)
         : m_server(std::move(server)), m_slot(slot), m_isInput(isInput) {}
 
+    // Waits for a server that hangs as long as it does: who closes a port knows then that it hung, and what is queued,
+    // such as the ends of notes, is played if the server goes on while the program is still there.
     ~Port() override {
-        waitUntilPlayed(PATIENCE_MICROSECONDS);
+        while (!m_slot.queue.isEmpty() && m_server->isAlive())
+            Platform::sleepMilliseconds(1);
         if (!m_isInput) {
             m_slot.use = Use::SILENT;
-            m_server->waitForCycles(2);
+            waitForCycles();
         }
         m_slot.use = Use::RETIRED;
-        // Until the server's thread has certainly left the slot. If that never happens, the slot is lost.
-        if (!m_server->waitForCycles(2))
-            return;
+        // Until the server's thread has certainly left the slot.
+        waitForCycles();
         if (m_server->isAlive())
             jack_port_unregister(m_server->m_client, m_slot.port);
         m_slot.receiver = nullptr;
@@ -110,17 +112,18 @@ public:
     }
 
     void flush() override {
-        waitUntilPlayed(PATIENCE_MICROSECONDS);
+        const std::int64_t limit = Platform::monotonicMicroseconds() + PATIENCE_MICROSECONDS;
+        while (!m_slot.queue.isEmpty() && m_server->isAlive() && Platform::monotonicMicroseconds() < limit)
+            Platform::sleepMilliseconds(1);
         // In the cycle after the last one with events its buffer is emptied; while the program pauses, the server
         // would play it again and again.
         m_server->waitForCycles(2);
     }
 
 private:
-    void waitUntilPlayed(std::int64_t patience) const {
-        const std::int64_t limit = Platform::monotonicMicroseconds() + patience;
-        while (!m_slot.queue.isEmpty() && m_server->isAlive() && Platform::monotonicMicroseconds() < limit)
-            Platform::sleepMilliseconds(1);
+    void waitForCycles() const {
+        while (!m_server->waitForCycles(2)) {
+        }
     }
 
     const std::shared_ptr<JackServer> m_server;

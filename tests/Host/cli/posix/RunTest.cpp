@@ -419,6 +419,18 @@ TEST_F(RunTest, ServerThatHangsAtTheStartHoldsUpNothing) {
     EXPECT_NE(ports.output().find("outputs:"), std::string::npos) << ports.output();
 }
 
+TEST_F(RunTest, ServerThatHangsAtTheEndIsTold) {
+    // A server that waits for its clients hangs on those that end without a word.
+    ASSERT_TRUE(m_server.start(JackTestServer::Cycles::IN_TIME)) << m_server.process()->output();
+    m_player.emplace("player");
+    runWithPlayer({});
+    m_server.process()->suspend(true);
+    EXPECT_EQ(endBy(SIGINT), 0) << m_program->output();
+    EXPECT_NE(m_program->output().find("mirel run: a port hung and was left behind\n"), std::string::npos)
+        << m_program->output();
+    m_server.process()->suspend(false);
+}
+
 TEST_F(RunTest, VirtualPortsStandBetweenOtherPrograms) {
     // A server that waits for its clients hangs on those that end without a word.
     ASSERT_TRUE(m_server.start(JackTestServer::Cycles::IN_TIME)) << m_server.process()->output();

@@ -38,7 +38,9 @@ protected:
 
     // The server goes on without a client that is late, and what that one should have heard in the meantime is lost: on
     // a busy computer an event must be played more than once.
-    void startServer() { ASSERT_TRUE(m_server.start()) << m_server.process()->output(); }
+    void startServer(JackTestServer::Cycles cycles = JackTestServer::Cycles::IN_TIME) {
+        ASSERT_TRUE(m_server.start(cycles)) << m_server.process()->output();
+    }
 
     ChildProcess& server() { return *m_server.process(); }
 
@@ -311,6 +313,26 @@ TEST_F(JackTest, DeskSurvivesTheEndOfTheServerAndFindsTheNextOne) {
         return find(ports.outputs(), MONITOR) == output;
     }));
     EXPECT_TRUE(playUntilPrinted(output, 0x0b07b3, monitor, "b3 07 0b")) << monitor.output();
+}
+
+TEST_F(JackTest, EndsOfNotesWaitForAServerThatHangs) {
+    startServer(JackTestServer::Cycles::COMPLETE);  // What is played once must be heard.
+    const JackTestClient synth("synth");
+    MidiPorts& ports = startPorts();
+    const int output = find(ports.outputs(), synth.input());
+    ASSERT_GE(output, 0);
+    const auto isHeard = [&synth](const std::vector<std::uint8_t>& bytes) {
+        return eventually([&] {
+            const auto events = synth.heard();
+            return std::any_of(events.begin(), events.end(), [&](const auto& event) { return event.bytes == bytes; });
+        });
+    };
+    ASSERT_TRUE(playUntilTaken(output, 0x643c91));
+    ASSERT_TRUE(isHeard({0x91, 60, 100}));
+    server().suspend(true);
+    EXPECT_FALSE(ports.close()) << "who closes is told";
+    server().suspend(false);
+    EXPECT_TRUE(isHeard({0x81, 60, 64}));
 }
 
 TEST_F(JackTest, ServerThatHangsFromTheBeginningIsDoneWithout) {
