@@ -19,10 +19,9 @@ std::string traceName(std::string source) {
 
 }
 
-void traceFile(const std::string& path, const std::string& reason, const std::source_location& place) {
+void traceFile(const std::string& path, const std::string& reason, const char* source, int line, const char* function) {
     if (Trace::channel().isEnabled())
-        Trace::channel().trace(traceName(place.file_name()), static_cast<long>(place.line()), place.function_name(),
-                               path + ": " + reason);
+        Trace::channel().trace(traceName(source), line, function, path + ": " + reason);
 }
 
 }
