@@ -119,8 +119,11 @@ class FileSettingsKey : public SettingsKey {
 public:
     FileSettingsKey(std::string path, std::string key) : m_path(std::move(path)), m_key(std::move(key)) {
         m_keys = parse(Files::read(m_path).value_or(std::string()));
-        m_keys[m_key];
+        m_wasThere = !m_keys.try_emplace(m_key).second;
     }
+
+    // Whether the file had the key before.
+    bool wasThere() const { return m_wasThere; }
 
     std::optional<std::uint32_t> readNumber(const std::string& name) const override {
         const std::string* content = find(name, NUMBER);
@@ -166,6 +169,7 @@ private:
     std::string m_path;
     std::string m_key;
     Keys m_keys;
+    bool m_wasThere = false;
 };
 
 class FileSettingsStore : public SettingsStore {
@@ -177,8 +181,16 @@ public:
         const auto folderEnd = m_path.find_last_of("/\\");
         if (folderEnd != std::string::npos && folderEnd > 0 && !Files::createFolders(m_path.substr(0, folderEnd)))
             return nullptr;
+        // What is there but can't be read is not replaced by nothing.
+        if (Files::size(m_path) && !Files::read(m_path))
+            return nullptr;
         auto opened = std::make_unique<FileSettingsKey>(m_path, key);
         return opened->save() ? std::move(opened) : nullptr;
+    }
+
+    std::unique_ptr<SettingsKey> openExisting(const std::string& key) override {
+        auto opened = std::make_unique<FileSettingsKey>(m_path, key);
+        return opened->wasThere() ? std::move(opened) : nullptr;
     }
 
 private:

@@ -6,9 +6,15 @@ namespace Platform {
 
 namespace {
 
-std::mutex& sinkLock() {
+// Of what follows.
+std::mutex& standInLock() {
     static std::mutex lock;
     return lock;
+}
+
+std::function<std::vector<std::string>()>& midiInputNames() {
+    static std::function<std::vector<std::string>()> names;
+    return names;
 }
 
 std::function<void(const std::string&, const std::string&)>& messageSink() {
@@ -19,14 +25,24 @@ std::function<void(const std::string&, const std::string&)>& messageSink() {
 }
 
 void setMessageSink(std::function<void(const std::string& text, const std::string& title)> sink) {
-    const std::lock_guard lock(sinkLock());
+    const std::lock_guard lock(standInLock());
     messageSink() = std::move(sink);
+}
+
+void setMidiInputNames(std::function<std::vector<std::string>()> names) {
+    const std::lock_guard lock(standInLock());
+    midiInputNames() = std::move(names);
+}
+
+std::vector<std::string> getMidiInputNames() {
+    const std::lock_guard lock(standInLock());
+    return midiInputNames() ? midiInputNames()() : getSystemMidiInputNames();
 }
 
 void showMessage(const std::string& text, const std::string& title) {
     std::function<void(const std::string&, const std::string&)> sink;
     {
-        const std::lock_guard lock(sinkLock());
+        const std::lock_guard lock(standInLock());
         sink = messageSink();
     }
     if (sink)

@@ -21,6 +21,13 @@ void showSystemMessage(const std::string& text, const std::string& title);
 void openWithUsersProgram(const std::string& path);
 
 // [any] The names of the MIDI inputs that the system itself lists; none where it keeps no such list.
+std::vector<std::string> getMidiInputNames();
+
+// [any] Replaces the list that getMidiInputNames gives, so that a test has one; an empty function brings the system's
+// back.
+void setMidiInputNames(std::function<std::vector<std::string>()> names);
+
+// [any] What getMidiInputNames gives otherwise.
 std::vector<std::string> getSystemMidiInputNames();
 
 // [any] The module that this code is in; null where modules have no handle.

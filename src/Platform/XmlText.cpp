@@ -254,7 +254,19 @@ std::optional<DecodedXml> withoutTrailingSpace(std::optional<std::string> text, 
     if (!text)
         return std::nullopt;
     text->erase(text->find_last_not_of(WHITE_SPACE) + 1);
-    return DecodedXml{std::move(*text), firstLine};
+    return DecodedXml{std::move(*text), firstLine, false, false};
+}
+
+std::optional<DecodedXml> fromUtf8(std::optional<DecodedXml> decoded) {
+    if (decoded)
+        decoded->wasUtf8 = true;
+    return decoded;
+}
+
+std::optional<DecodedXml> fromUtf16(std::optional<DecodedXml> decoded) {
+    if (decoded)
+        decoded->wasUtf16 = true;
+    return decoded;
 }
 
 std::optional<DecodedXml> withoutDeclaration(const std::optional<std::string>& text) {
@@ -272,22 +284,23 @@ std::optional<DecodedXml> withoutDeclaration(const std::optional<std::string>& t
 std::optional<DecodedXml> decodeXml(std::string_view document) {
     using namespace std::string_view_literals;
     if (document.starts_with("\xEF\xBB\xBF"))
-        return withoutDeclaration(toUtf8(document.substr(3), Encoding::UTF_8, false));
+        return fromUtf8(withoutDeclaration(toUtf8(document.substr(3), Encoding::UTF_8, false)));
     if (document.starts_with("\xFF\xFE"))
-        return withoutDeclaration(toUtf8(document.substr(2), Encoding::UTF_16, false));
+        return fromUtf16(withoutDeclaration(toUtf8(document.substr(2), Encoding::UTF_16, false)));
     if (document.starts_with("\xFE\xFF"))
-        return withoutDeclaration(toUtf8(document.substr(2), Encoding::UTF_16, true));
+        return fromUtf16(withoutDeclaration(toUtf8(document.substr(2), Encoding::UTF_16, true)));
     if (document.starts_with("<\0?\0"sv))
-        return withoutDeclaration(toUtf8(document, Encoding::UTF_16, false));
+        return fromUtf16(withoutDeclaration(toUtf8(document, Encoding::UTF_16, false)));
     if (document.starts_with("\0<\0?"sv))
-        return withoutDeclaration(toUtf8(document, Encoding::UTF_16, true));
+        return fromUtf16(withoutDeclaration(toUtf8(document, Encoding::UTF_16, true)));
     const auto declaration = DeclarationReader(document).read();
     const auto encoding = declaration ? encodingOfName(declaration->encoding) : std::nullopt;
     // A declaration that can be read byte by byte contradicts an encoding of two bytes.
     if (!encoding || encoding == Encoding::UTF_16)
         return std::nullopt;
-    return withoutTrailingSpace(toUtf8(document.substr(declaration->length), *encoding, false),
-                                1 + countLineEnds(document.substr(0, declaration->length)));
+    auto decoded = withoutTrailingSpace(toUtf8(document.substr(declaration->length), *encoding, false),
+                                        1 + countLineEnds(document.substr(0, declaration->length)));
+    return encoding == Encoding::UTF_8 ? fromUtf8(std::move(decoded)) : decoded;
 }
 
 std::string withXmlCharacters(std::string_view text) {

@@ -10,6 +10,8 @@ namespace Platform {
 struct DecodedXml {
     std::string text;
     int firstLine = 1;  // The line of the document on which the text begins.
+    bool wasUtf8 = false;
+    bool wasUtf16 = false;  // In all other encodings ASCII characters are the same bytes as here.
 };
 
 // [any] The document as UTF-8 without byte order mark, XML declaration and white space at its end, with line ends as

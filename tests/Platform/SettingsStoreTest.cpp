@@ -1,9 +1,12 @@
 #include "Platform/SettingsStore.h"
 
 #include "Platform/Files.h"
+#include "Platform/SystemPath.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+
+#include <filesystem>
 
 namespace Platform {
 namespace {
@@ -72,6 +75,25 @@ TEST_F(SettingsStoreTest, NonsenseInTheFileCountsAsNoValue) {
         EXPECT_EQ(key->readText(name), std::nullopt) << name;
     EXPECT_EQ(key->readNumber(""), 3u);
     EXPECT_EQ(key->readNumber("j"), 7u);
+}
+
+TEST_F(SettingsStoreTest, OnlyAKeyThatIsThereOpensAsExisting) {
+    EXPECT_EQ(m_store->openExisting("key"), nullptr);
+    EXPECT_EQ(Files::read(m_path), std::nullopt);
+    writeAll(*m_store, "key");
+    EXPECT_EQ(m_store->openExisting("other"), nullptr);
+    const auto key = m_store->openExisting("key");
+    ASSERT_NE(key, nullptr);
+    EXPECT_EQ(key->readNumber("number"), 4000000000u);
+}
+
+// As one that is far too large to be settings, or that somebody holds open.
+TEST_F(SettingsStoreTest, AFileThatCanNotBeReadIsNotReplacedByAnEmptyOne) {
+    ASSERT_TRUE(Files::createFolders(m_folder.file("sub")));
+    ASSERT_TRUE(Files::replace(m_path, "[key]\nnumber=number:5\n"));
+    std::filesystem::resize_file(Platform::systemPath(m_path).value(), Files::MAX_SIZE + 1);
+    EXPECT_EQ(m_store->open("key"), nullptr);
+    EXPECT_EQ(Files::size(m_path), Files::MAX_SIZE + 1);
 }
 
 TEST_F(SettingsStoreTest, APlaceThatCanNotBeWrittenCanNotBeOpened) {

@@ -92,8 +92,12 @@ void RunningDesk::end() {
 }
 
 void RunningDesk::run(const std::function<void(Mirel&)>& action) {
-    m_backendCalls->post([this, action] { action(*m_mirel); });
+    post(action);
     settle();
+}
+
+void RunningDesk::post(const std::function<void(Mirel&)>& action) {
+    m_backendCalls->post([this, action] { action(*m_mirel); });
 }
 
 void RunningDesk::settle() {

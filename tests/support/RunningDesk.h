@@ -52,6 +52,9 @@ public:
     // Runs something on the backend thread and waits until all that it set off is done.
     void run(const std::function<void(Backend::Mirel&)>& action);
 
+    // Has the backend thread run something, without waiting for it.
+    void post(const std::function<void(Backend::Mirel&)>& action);
+
     // Waits until nothing goes on; plays empty slices where something waits for one.
     void settle();
 

@@ -5,6 +5,10 @@
 #include "Backend/core/XmlElement.h"
 #include "Backend/core/XmlWriting.h"
 #include "Platform/Files.h"
+#include "Platform/XmlReader.h"
+#include "Platform/XmlText.h"
+
+#include <algorithm>
 
 namespace Backend::BankFile {
 
@@ -62,6 +66,22 @@ std::vector<std::string> readProgramNames(const std::string& path) {
         if (child.getName() == PROGRAM_TAG)
             names.push_back(child.getAttribute("name"));
     return names;
+}
+
+std::optional<std::string> readBank(const std::string& path, std::string_view block) {
+    auto bytes = Platform::Files::read(path);
+    if (!bytes)
+        return std::nullopt;
+    const auto decoded = Platform::decodeXml(*bytes);
+    const bool isAscii =
+        std::all_of(block.begin(), block.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
+    if (!decoded || decoded->wasUtf8 || (isAscii && !decoded->wasUtf16))
+        return bytes;
+    return Platform::Files::withSystemLineEnds(getXmlHeader() + decoded->text + "\n");
+}
+
+bool remainsReadable(std::string_view oldBank, std::string_view newBank) {
+    return Platform::readXml(newBank) || !Platform::readXml(oldBank);
 }
 
 std::string wrapProgram(const std::string& rootTag, const std::string& programBlock) {

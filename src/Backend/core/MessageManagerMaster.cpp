@@ -19,6 +19,10 @@ void MessageManagerMaster::postMessage(unsigned int message, WPARAM wParam, LPAR
     m_thread.postUntilAccepted(message, wParam, lParam);
 }
 
+bool MessageManagerMaster::tryPostMessage(unsigned int message, WPARAM wParam, LPARAM lParam) {
+    return m_thread.post(message, wParam, lParam);
+}
+
 void MessageManagerMaster::addMessageManager(MessageManager* manager) {
     m_messageManagers.push_back(manager);
 }

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <memory>
 #include <string>
 #include <vector>
@@ -37,7 +38,7 @@ int getHighestNumber(const Platform::MachineRegistryKey& key) {
     int highest = 0;
     for (const std::string& name : key.getValueNames())
         highest = std::max(highest, getDriverNumber(name));
-    return highest;
+    return std::min(highest, std::numeric_limits<int>::max() - 1);  // There is always a next one.
 }
 
 void writeText(Platform::MachineRegistryKey& key, int number, const std::string& name, const std::string& text) {
@@ -50,7 +51,7 @@ void writeText(Platform::MachineRegistryKey& key, int number, const std::string&
 }
 
 bool MidiPortInstallation::virtualMidiPortExists() {
-    const auto names = Platform::getSystemMidiInputNames();
+    const auto names = Platform::getMidiInputNames();
     return std::find(names.begin(), names.end(), MIREL_PORT_NAME) != names.end();
 }
 

@@ -1,5 +1,6 @@
 // Programs and banks of the desk.
 #include "Backend/core/BankFile.h"
+#include "Backend/core/FileTrace.h"
 #include "Backend/core/GuiPost.h"
 #include "Backend/core/Mirel.h"
 #include "Backend/core/Text.h"
@@ -162,8 +163,12 @@ void Mirel::changeProgramName(const std::string& name) {
 void Mirel::saveToProgram(const std::string& path, HWND notify) {
     const std::string target(Text::trim(path));
     const std::string text = BankFile::wrapProgram(BankFile::PROGRAM_FILE_TAG, writeProgram());
-    if (!target.empty() && Files::replace(target, Files::withSystemLineEnds(text)))
+    if (target.empty())
+        return;
+    if (Files::replace(target, Files::withSystemLineEnds(text)))
         notifyDone(notify, SAVE_TO_PROGRAM_DONE);
+    else
+        traceFile(target, "can't be written");
 }
 
 void Mirel::saveToCurrentBank(int index, HWND notify) {
@@ -177,13 +182,18 @@ void Mirel::saveToBank(const std::string& path, HWND notify) {
 void Mirel::saveToBankFile(const std::string& target, int index, HWND notify) {
     if (index < 0 || m_currentBank.getPath().empty())
         return;
-    const auto source = Files::read(m_currentBank.getPath());
+    const std::string program = writeProgram();
+    const auto source = BankFile::readBank(m_currentBank.getPath(), program);
     if (!source)
         return;
-    // Without the new file the old one is whole, and is what the desk shows again.
-    const std::string bank = BankFile::replaceProgram(*source, index, writeProgram());
-    if (bank.size() <= Files::MAX_SIZE)
-        Files::replace(target, bank);
+    // A program that makes the bank unreadable, as by its size, is not saved: all others would be lost.
+    const std::string bank = BankFile::replaceProgram(*source, index, program);
+    const bool isReplacement = index < static_cast<int>(m_currentBank.getProgramNames().size());
+    const bool isLossless = isReplacement ? BankFile::remainsReadable(*source, bank) : bank.size() <= Files::MAX_SIZE;
+    if (!isLossless)
+        traceFile(target, "is not written, as it could not be read again");
+    else if (!Files::replace(target, bank))
+        traceFile(target, "can't be written");
     loadBank(target);
     notifyDone(notify, SAVE_TO_BANK_DONE);
 }
@@ -195,12 +205,14 @@ void Mirel::changeBankSize(int size, HWND notify) {
     if (size <= m_currentProgram.getIndex())
         changeProgramFromBank(size - 1);
     const std::string path = m_currentBank.getPath();
-    const auto bank = Files::read(path);
+    const auto bank = BankFile::readBank(path, "");
     if (!bank)
         return;
     const auto resized = BankFile::resize(*bank, count, size);
-    if (resized && resized->size() <= Files::MAX_SIZE)
-        Files::replace(path, *resized);
+    if (!resized || !BankFile::remainsReadable(*bank, *resized))
+        traceFile(path, "is not written, as it could not be read again");
+    else if (!Files::replace(path, *resized))
+        traceFile(path, "can't be written");
     loadBank(path);
     notifyDone(notify, CHANGE_BANK_SIZE_DONE);
 }

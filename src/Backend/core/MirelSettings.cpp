@@ -164,15 +164,17 @@ void Mirel::setMidiOutputPorts(const std::vector<MidiOutputPort>& ports) {
 
 void Mirel::chooseDefaultMidiOutput() {
     int chosen = m_registrySettings.getDefaultMidiOutput();
-    if (chosen < 0)
-        chosen = findPort(m_midiOutputPorts, [](const MidiOutputPort& port) {
-            return std::find(SYSTEM_SYNTHESIZERS.begin(), SYSTEM_SYNTHESIZERS.end(), port.name) !=
-                   SYSTEM_SYNTHESIZERS.end();
-        });
+    const auto chooseFirst = [&](const auto& suits) {
+        const int first = chosen < 0 ? findPort(m_midiOutputPorts, suits) : NONE;
+        chosen = first == NONE ? chosen : first;
+    };
+    chooseFirst([](const MidiOutputPort& port) {
+        return std::find(SYSTEM_SYNTHESIZERS.begin(), SYSTEM_SYNTHESIZERS.end(), port.name) !=
+               SYSTEM_SYNTHESIZERS.end();
+    });
     if (isPort(m_midiOutputPorts, chosen) && !m_midiOutputPorts[static_cast<std::size_t>(chosen)].enabled)
         chosen = NONE;
-    if (chosen < 0)
-        chosen = findPort(m_midiOutputPorts, [](const MidiOutputPort& port) { return port.enabled; });
+    chooseFirst([](const MidiOutputPort& port) { return port.enabled; });
     if (chosen != m_registrySettings.getDefaultMidiOutput())
         setDefaultMidiOutput(chosen);
 }

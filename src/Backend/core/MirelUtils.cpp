@@ -34,8 +34,7 @@ std::string& chosenDataFolder() {
 }
 
 // The program's folder in the settings of an edition, without a separator at its end.
-std::string readProgDir(const std::string& registryKey) {
-    const auto key = MirelUtils::createSettingsStore()->open(registryKey);
+std::string readProgDir(const Platform::SettingsKey* key) {
     std::string folder = key ? key->readText("ProgDir").value_or(std::string()) : std::string();
     if (folder.size() >= LONGEST_FOLDER)
         return {};
@@ -81,7 +80,7 @@ std::string MirelUtils::getMirelAppDataDir() {
 }
 
 std::string MirelUtils::getMirelProgDir() {
-    return readProgDir(getMainRegistryKeyLite());
+    return readProgDir(createSettingsStore()->open(getMainRegistryKeyLite()).get());
 }
 
 void* MirelUtils::getDllInstance() {
@@ -108,11 +107,12 @@ void MirelUtils::install(bool installPort) {
 void MirelUtils::uninstall() {
     for (const char* name : PORT_LISTS)
         Files::remove(Files::join(getMirelAppDataDir(), name));
-    const bool otherEditionIsInstalled = !Text::trim(readProgDir(getMainRegistryKey())).empty();
-    if (!otherEditionIsInstalled)
+    const auto otherEdition = createSettingsStore()->openExisting(getMainRegistryKey());
+    if (Text::trim(readProgDir(otherEdition.get())).empty())
         MidiPortInstallation::uninstall();
     Files::removeEmptyFolder(getMirelAppDataDir());
-    Files::removeEmptyFolder(getCompanyAppDataDir());
+    if (chosenDataFolder().empty())
+        Files::removeEmptyFolder(getCompanyAppDataDir());
 }
 
 void MirelUtils::copyFiles(const std::string& folder, const std::string& subFolder) {

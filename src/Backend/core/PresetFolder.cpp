@@ -1,6 +1,7 @@
 #include "Backend/core/PresetFolder.h"
 
 #include "Backend/core/FileNames.h"
+#include "Backend/core/FileTrace.h"
 #include "Backend/core/MirelUtils.h"
 #include "Backend/core/XmlDocument.h"
 #include "Backend/core/XmlWriting.h"
@@ -34,7 +35,10 @@ bool PresetFolder::write(const std::string& name, const std::string& text) const
     if (!isUsableFileName(name))
         return false;
     Files::createFolders(getPath());
-    return Files::replace(getPresetPath(name), Files::withSystemLineEnds(text));
+    const bool isWritten = Files::replace(getPresetPath(name), Files::withSystemLineEnds(text));
+    if (!isWritten)
+        traceFile(getPresetPath(name), "can't be written");
+    return isWritten;
 }
 
 void PresetFolder::save(const std::string& name, const std::function<void(std::ostream&)>& write) {

@@ -1,5 +1,7 @@
 #include "Backend/core/RegistrySettings.h"
 
+#include "Backend/core/FileTrace.h"
+
 namespace Backend {
 
 namespace {
@@ -19,8 +21,10 @@ void setFlag(std::vector<bool>& flags, int index, bool flag) {
 
 void RegistrySettings::loadFromRegistry(const std::string& key) {
     const auto opened = m_store->open(key);
-    if (!opened)
+    if (!opened) {
+        traceFile(key, "can't be opened; all settings have their defaults");
         return;
+    }
     m_progDir.load(*opened);
     visitSettings(*this, [&opened](auto& setting) { setting.load(*opened); });
     m_enabledMidiInputs = getBoolVectorFromString(m_enabledMidiInputsText.get());

@@ -1,5 +1,6 @@
 #include "Backend/core/XmlDocument.h"
 
+#include "Backend/core/FileTrace.h"
 #include "Platform/Files.h"
 #include "Platform/XmlReader.h"
 
@@ -11,7 +12,10 @@ std::shared_ptr<const Platform::XmlNode> readRoot(const std::string& source, boo
     if (!isPath)
         return Platform::readXml(source);
     const auto content = Platform::Files::read(source);
-    return content ? Platform::readXml(*content) : nullptr;
+    auto root = content ? Platform::readXml(*content) : nullptr;
+    if (!root)
+        traceFile(source, content ? "is no XML that can be used" : "can't be read");
+    return root;
 }
 
 }

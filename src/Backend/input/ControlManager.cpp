@@ -23,6 +23,11 @@ constexpr int GRID_SIZE = 16;
 constexpr std::int32_t LOWEST_VALUE = 0;
 constexpr std::int32_t HIGHEST_VALUE = 127;
 
+// Ranges may be as wide as 32 bits, so a value that is moved stops there.
+std::int32_t to32Bits(std::int64_t value) {
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, INT32_MIN, INT32_MAX));
+}
+
 WPARAM cellWord(const Cell& cell) {
     return static_cast<WPARAM>(static_cast<std::uint32_t>(cell.getKey()));
 }
@@ -176,7 +181,7 @@ void ControlManager::moveGroup(const Control& source, std::int64_t delta, std::i
     if (delta == 0)
         return;
     for (Control* control : others)
-        storeValue(*control, static_cast<std::int32_t>(control->value + delta), true, true);
+        storeValue(*control, to32Bits(control->value + delta), true, true);
 }
 
 void ControlManager::sendAll(bool autoSendOnly) {

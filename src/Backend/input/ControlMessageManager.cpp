@@ -55,8 +55,12 @@ void ControlMessageManager::postSendAll(bool autoSendOnly) {
     m_master.postMessage(SEND_ALL, 0, autoSendOnly);
 }
 
-void ControlMessageManager::postUpdateControl(const MirelMidiMessage& message) {
-    m_master.postMessage(UPDATE_CONTROL, releaseCopy<WPARAM>(message), 0);
+bool ControlMessageManager::postUpdateControl(const MirelMidiMessage& message) {
+    auto copy = std::make_unique<MirelMidiMessage>(message);
+    if (!m_master.tryPostMessage(UPDATE_CONTROL, reinterpret_cast<WPARAM>(copy.get()), 0))
+        return false;
+    static_cast<void>(copy.release());
+    return true;
 }
 
 void ControlMessageManager::postSelectControls(const std::vector<Cell>& cells) {

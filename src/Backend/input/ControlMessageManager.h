@@ -40,8 +40,9 @@ public:
     void postSelectControls(const std::vector<Cell>& cells);
 
     // [player, under the engine's lock] An event that is no note passed, with the output and channel that it came with.
-    // Controls that send this event follow it.
-    virtual void postUpdateControl(const MidiEngine::MirelMidiMessage& message);
+    // Controls that send this event follow it. It never waits; false, and nothing is posted, while the backend takes no
+    // more messages.
+    virtual bool postUpdateControl(const MidiEngine::MirelMidiMessage& message);
 
     bool wantMessage(unsigned int message) override;
     void handleMessage(const MSG& message) override;

@@ -99,8 +99,18 @@ void MidiEngine::postPlayMidi(const MirelMidiMessage& message) {
         m_pendingMessages.add(message);
 }
 
+// The backend may wait for the engine at this moment, so nobody waits for the backend here.
 void MidiEngine::postUpdateControl(const MirelMidiMessage& message) {
-    m_mirel.getControlMessageManager().postUpdateControl(message);
+    if (m_waitingUpdates.empty() && m_mirel.getControlMessageManager().postUpdateControl(message))
+        return;
+    if (m_waitingUpdates.size() == MAX_WAITING_UPDATES)
+        m_waitingUpdates.pop_front();  // What comes last is what a control shows in the end.
+    m_waitingUpdates.push_back(message);
+}
+
+void MidiEngine::postWaitingUpdates() {
+    while (!m_waitingUpdates.empty() && m_mirel.getControlMessageManager().postUpdateControl(m_waitingUpdates.front()))
+        m_waitingUpdates.pop_front();
 }
 
 void MidiEngine::setStartTime(std::int32_t ppq) {

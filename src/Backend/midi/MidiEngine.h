@@ -14,6 +14,7 @@
 
 #include <array>
 #include <atomic>
+#include <deque>
 #include <memory>
 #include <mutex>
 #include <vector>
@@ -44,6 +45,9 @@ public:
 
     // Events beyond this many that wait for their time are dropped; resets never are.
     static constexpr std::size_t MAX_PENDING_MESSAGES = 1 << 20;
+
+    // What the controls may have to hear of later, at most.
+    static constexpr std::size_t MAX_WAITING_UPDATES = 1 << 16;
 
     // Both must outlive the engine.
     MidiEngine(MirelIF& mirel, MidiPlayer& midiPlayer);
@@ -118,7 +122,8 @@ public:
     // [locked] Queues an event for the next slice.
     void postPlayMidi(const MirelMidiMessage& message);
 
-    // [locked] Tells the controls of an event that passed.
+    // [locked] Tells the controls of an event that passed. While the backend takes nothing more, that waits for a later
+    // slice; of more than MAX_WAITING_UPDATES the oldest are lost.
     void postUpdateControl(const MirelMidiMessage& message);
 
     // [locked] The last stage of every event: counts notes, hands the event to the host and shows it. With stackNotes a
@@ -139,6 +144,7 @@ private:
     enum class ResetKind { Soft, Hard };
 
     // The steps of a slice.
+    void postWaitingUpdates();
     void drainPendingMessages(std::int32_t to);
     void carryOutResets();
     void walk(std::int64_t first, std::int64_t last, std::int32_t earliest);
@@ -184,6 +190,8 @@ private:
     MessageList m_takenMessages;
     std::int32_t m_takenFrom = 0;  // None of those taken is due before.
     MessageList m_timedMessages;
+
+    std::deque<MirelMidiMessage> m_waitingUpdates;
 
     std::int32_t m_startTime = -1;
     bool m_midiThru = false;

@@ -18,6 +18,7 @@ constexpr std::int64_t NEVER = std::numeric_limits<std::int64_t>::max();
 void MidiEngine::playTimeSlice(std::int32_t from, std::int32_t to) {
     CriticalSectionLock lock(m_criticalSection);
     m_midiPlayerRunning = true;
+    postWaitingUpdates();
     drainPendingMessages(to);
     const std::int64_t first = from;
     const std::int64_t last = to;

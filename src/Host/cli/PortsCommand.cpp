@@ -1,5 +1,6 @@
 #include "Host/cli/PortsCommand.h"
 
+#include "Backend/core/MirelUtils.h"
 #include "Host/cli/ExitStatus.h"
 #include "Host/common/MidiSystem.h"
 #include "Host/common/PortFiles.h"
@@ -14,8 +15,8 @@ namespace {
 constexpr const char* USAGE =
     "usage: mirel ports [--data DIR]\n"
     "\n"
-    "lists the MIDI inputs and outputs with the numbers that they have for the desk. With --data also those that\n"
-    "the desk of that folder remembers and that are absent now.\n";
+    "lists the MIDI inputs and outputs with the numbers that they have for the desk, also those that it remembers and\n"
+    "that are absent now: the user's own desk, or that of the folder.\n";
 
 void printList(const char* title, const PortList& list) {
     std::printf("%s:\n", title);
@@ -31,6 +32,7 @@ void printList(const char* title, const PortList& list) {
     }
 }
 
+// The rows that the desk of this folder would have now.
 void list(const std::string& dataFolder) {
     const auto system = createMidiSystem("Mirel");
     MidiPortIds ids = system->list();
@@ -38,6 +40,7 @@ void list(const std::string& dataFolder) {
     ids.outputs.push_back({Recorder::NAME, PortList::BUILT_IN});
     PortList inputs = readPortFile(dataFolder, INPUTS_FILE);
     PortList outputs = readPortFile(dataFolder, OUTPUTS_FILE);
+    outputs.update({ids.outputs.back()});  // Which the desk has before it has looked at the system.
     inputs.update(ids.inputs);
     outputs.update(ids.outputs);
     std::printf("MIDI system: %s\n", system->name().c_str());
@@ -58,7 +61,7 @@ int runPorts(const std::vector<std::string>& arguments) {
         std::fprintf(stderr, "mirel: ports takes nothing but --data DIR\n%s", USAGE);
         return FAILED;
     }
-    list(arguments.empty() ? std::string() : arguments.back());
+    list(arguments.empty() ? Backend::MirelUtils::getMirelAppDataDir() : arguments.back());
     return DONE;
 }
 

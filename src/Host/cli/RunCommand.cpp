@@ -1,6 +1,7 @@
 #include "Host/cli/RunCommand.h"
 
 #include "Backend/core/Bank.h"
+#include "Backend/core/BankFile.h"
 #include "Backend/core/MirelMessageManager.h"
 #include "Backend/core/MirelUtils.h"
 #include "Backend/core/Program.h"
@@ -31,14 +32,15 @@ namespace {
 
 constexpr const char* PRODUCT = "Mirel Console 3 LE";
 constexpr const char* PORT_NAME = "Mirel";
+constexpr const char* RESCUED_TAKE = "Rescued recording.mid";  // For one that its own place does not take.
 
 constexpr const char* USAGE =
     "usage: mirel run [--in NAME]... [--out NAME]... [--bank FILE] [--program NAME] [--clock internal|NAME] [--keys]\n"
     "                 [--play FILE.mid] [--record FILE.mid] [--virtual] [--seconds N] [--data DIR]\n"
     "\n"
     "plays in real time until it is ended (Ctrl+C).\n"
-    "  --in, --out   listen to these inputs and send to these outputs only, by name or by number as \"mirel ports\"\n"
-    "                lists them; the first output is the default one\n"
+    "  --in, --out   listen to these inputs and send to these outputs only, in this run, by name or by number as\n"
+    "                \"mirel ports\" lists them; the first output is the default one\n"
     "  --bank        the bank to load; without it that of the settings, or the built-in set-up\n"
     "  --program     a program of the bank by name or by number, or a program file (.prg)\n"
     "  --clock       the desk's own clock, or the timing ticks of an input\n"
@@ -94,12 +96,26 @@ bool contains(const std::vector<int>& indices, std::size_t index) {
     return std::find(indices.begin(), indices.end(), static_cast<int>(index)) != indices.end();
 }
 
+// The file stays as it is, also one that is not there.
+bool isWritable(const std::string& path) {
+    const bool isNew = !Platform::Files::size(path);
+    if (!Platform::Files::append(path, ""))
+        return false;
+    if (isNew)
+        Platform::Files::remove(path);
+    return true;
+}
+
 class RunningDesk {
 public:
     explicit RunningDesk(const RunOptions& options)
         : m_options(options),
-          m_desk(createMidiSystem(PORT_NAME), {PRODUCT, MirelUtils::getMirelAppDataDir(),
-                                               options.virtualPorts ? PORT_NAME : "", !options.recordFile.empty()}) {}
+          m_desk(createMidiSystem(PORT_NAME),
+                 {PRODUCT, MirelUtils::getMirelAppDataDir(), options.virtualPorts ? PORT_NAME : "", false,
+                  !options.recordFile.empty()}) {
+        if (!options.recordFile.empty() && !isWritable(options.recordFile))
+            throw RunError(options.recordFile + ": can't be written");
+    }
 
     void start() {
         m_desk.start();
@@ -118,7 +134,7 @@ public:
         constexpr milliseconds TAIL{1500};  // For the end of a song to fade.
         const auto song = readSong();
         const auto keys = openKeys();
-        const auto start = std::chrono::steady_clock::now();
+        auto start = std::chrono::steady_clock::now();
         auto songEnd = std::chrono::steady_clock::time_point::max();
         while (!m_desk.hasFailed()) {
             const auto now = std::chrono::steady_clock::now();
@@ -139,6 +155,13 @@ public:
                 playKeys(*keys, song && !song->isAtEnd() ? milliseconds(1) : STEP);
             if (Platform::waitForStopRequest(step) || (keys && keys->isInterrupted()))
                 return;
+            if (Platform::isPauseRequested()) {
+                pause(keys.get());
+                const auto length = std::chrono::steady_clock::now() - now;
+                start += length;
+                if (song && song->isAtEnd())
+                    songEnd += length;
+            }
         }
         throw RunError("the player has stopped");
     }
@@ -148,9 +171,16 @@ public:
             std::fprintf(stderr, "mirel run: a port hung and was left behind\n");
         if (m_options.recordFile.empty())
             return;
-        if (!m_desk.ports().recorder().write(m_options.recordFile))
-            throw RunError(m_options.recordFile + ": can't be written");
-        std::printf("recorded %zu events to %s\n", m_desk.ports().recorder().size(), m_options.recordFile.c_str());
+        std::string file = m_options.recordFile;
+        if (!m_desk.ports().recorder().write(file)) {
+            std::fprintf(stderr, "mirel run: %s: can't be written\n", file.c_str());
+            file = Platform::Files::join(MirelUtils::getMirelAppDataDir(), RESCUED_TAKE);
+            if (!m_desk.ports().recorder().write(file))
+                throw RunError(file + ": can't be written either");
+        }
+        std::printf("recorded %zu events to %s\n", m_desk.ports().recorder().size(), file.c_str());
+        if (file != m_options.recordFile)
+            throw RunError("the recording lies in another place than it should");
     }
 
 private:
@@ -206,6 +236,8 @@ private:
         if (wanted.ends_with(".prg")) {
             if (!Platform::Files::size(wanted))
                 throw RunError(wanted + ": can't be read");
+            if (BankFile::readProgramNames(wanted).empty())
+                throw RunError(wanted + ": holds no program");
             manager().postLoadProgram(wanted);
             return;
         }
@@ -270,6 +302,19 @@ private:
                                               MirelMidiMessage::DEFAULT_CHANNEL, MirelMidiMessage::DEFAULT_INPUT));
     }
 
+    // Silent and with the terminal as it was, until the user has the program go on.
+    void pause(TerminalKeys* keys) {
+        if (keys)
+            for (const KeyEvent& event : keys->giveBack())
+                manager().postKeyUp(event.key);
+        m_desk.waitUntilIdle();
+        m_desk.pause();
+        Platform::pauseProgram();
+        if (keys)
+            keys->takeAgain();
+        m_desk.resume();
+    }
+
     void playKeys(TerminalKeys& keys, milliseconds limit) {
         for (const KeyEvent& event : keys.read(limit)) {
             if (event.isDown)
@@ -282,6 +327,17 @@ private:
     const RunOptions& m_options;
     PortDesk m_desk;
 };
+
+// However it ends, what sounds is ended and what was recorded is written.
+void playToTheEnd(RunningDesk& desk) {
+    try {
+        desk.play();
+    } catch (const RunError&) {
+        desk.stop();
+        throw;
+    }
+    desk.stop();
+}
 
 }
 
@@ -302,8 +358,7 @@ int runRun(const std::vector<std::string>& arguments) {
             MirelUtils::useDataFolder(options->dataFolder);
         RunningDesk desk(*options);
         desk.start();
-        desk.play();
-        desk.stop();
+        playToTheEnd(desk);
     } catch (const RunError& failure) {
         std::fprintf(stderr, "mirel run: %s\n", failure.what());
         return FAILED;

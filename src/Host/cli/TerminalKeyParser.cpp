@@ -10,6 +10,9 @@ namespace {
 constexpr char ESCAPE = '\x1b';
 constexpr char DELETE = '\x7f';
 
+// Among the abilities in a terminal's answer: that it tells presses, repeats and releases apart.
+constexpr int TELLS_ACTIONS = 2;
+
 struct NamedCode {
     int code;
     const char* key;
@@ -127,9 +130,9 @@ int takeNumber(std::string_view& text, int missing) {
     return digits == 0 ? missing : number;
 }
 
-Parameters parseParameters(std::string_view text) {
+Parameters parseParameters(std::string_view text, int missing = 1) {
     Parameters parameters;
-    parameters.first = takeNumber(text, 1);
+    parameters.first = takeNumber(text, missing);
     text.remove_prefix(std::min(text.find(';'), text.size()));
     if (text.empty())
         return parameters;
@@ -214,7 +217,8 @@ std::size_t TerminalKeyParser::parseSequence(std::string_view text, std::vector<
     const char final = text[end];
     const std::string_view content = text.substr(2, end - 2);
     if (content.starts_with('?')) {
-        m_tellsReleases = m_tellsReleases || (final == 'u' && content != "?0");
+        if (final == 'u')
+            m_tellsReleases = (parseParameters(content.substr(1), 0).first & TELLS_ACTIONS) != 0;
     } else if (content.find_first_of("<=>!") == std::string_view::npos) {
         const Parameters parameters = parseParameters(content);
         if (const auto key = keyOfSequence(final, parameters))

@@ -30,6 +30,13 @@ public:
 
     // [main] Whether the user has pressed what ends programs, where the terminal gives it as a key.
     virtual bool isInterrupted() const = 0;
+
+    // [main] Makes the terminal as it was, for a pause of the program, and releases all keys that are down. Nothing
+    // where programs are never paused.
+    virtual std::vector<KeyEvent> giveBack() { return {}; }
+
+    // [main] Takes the terminal again after that.
+    virtual void takeAgain() {}
 };
 
 }

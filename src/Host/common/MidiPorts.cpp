@@ -191,26 +191,28 @@ std::vector<MidiOutputPort> MidiPorts::outputPorts() const {
     return portsOf<MidiOutputPort>(outputs());
 }
 
+bool MidiPorts::switchRow(PortList& list, std::size_t index, bool enable) const {
+    if (!m_options.keepsSwitches)
+        return list.switchForNow(index, enable);
+    if (index >= list.rows().size())
+        return false;
+    PortSettings settings = list.rows()[index].settings;
+    settings.enabled = enable;
+    return list.setSettings(index, settings);
+}
+
 void MidiPorts::enableInput(int input, bool enable) {
     const std::lock_guard lock(m_mutex);
     const auto index = static_cast<std::size_t>(input);
-    if (m_isClosed || input < 0 || index >= m_inputList.rows().size())
-        return;
-    PortSettings settings = m_inputList.rows()[index].settings;
-    settings.enabled = enable;
-    m_inputList.setSettings(index, settings);
-    applyInput(index);
+    if (!m_isClosed && input >= 0 && switchRow(m_inputList, index, enable))
+        applyInput(index);
 }
 
 void MidiPorts::enableOutput(int output, bool enable) {
     const std::lock_guard lock(m_mutex);
     const auto index = static_cast<std::size_t>(output);
-    if (m_isClosed || output < 0 || index >= m_outputList.rows().size())
-        return;
-    PortSettings settings = m_outputList.rows()[index].settings;
-    settings.enabled = enable;
-    m_outputList.setSettings(index, settings);
-    applyOutput(index);
+    if (!m_isClosed && output >= 0 && switchRow(m_outputList, index, enable))
+        applyOutput(index);
 }
 
 void MidiPorts::setInputSettings(int input, const PortSettings& settings) {

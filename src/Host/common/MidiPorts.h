@@ -30,6 +30,7 @@ public:
         std::string dataFolder;  // Of the two files; empty: nothing is kept.
         std::string
             virtualPort;  // The name of an input and of an output for other programs to connect to; empty: none.
+        bool keepsSwitches = true;  // Which ports were switched on and off is known in the next run too.
     };
 
     static constexpr std::chrono::milliseconds OPEN_LIMIT{1000};
@@ -110,6 +111,9 @@ private:
     MidiPortIds present();
     void applyInput(std::size_t index);
     void applyOutput(std::size_t index);
+
+    // False, and nothing done, without such a row.
+    bool switchRow(PortList& list, std::size_t index, bool enable) const;
     void applyAll();
     PortLine::Opener inputOpener(const MidiPortId& id, std::shared_ptr<InputTranslator> translator) const;
     PortLine::Opener outputOpener(const MidiPortId& id) const;

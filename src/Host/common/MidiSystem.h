@@ -35,6 +35,9 @@ public:
     // [one thread at a time] Sends one whole message, at once; microseconds is when it was played, for who keeps it.
     // False if that failed, and always for an input. May hang as long as the system does.
     virtual bool send(const std::uint8_t* bytes, std::size_t count, std::int64_t microseconds) = 0;
+
+    // [one thread at a time] Waits until what was sent no longer needs this program, but not for ever.
+    virtual void flush() {}
 };
 
 // Its operations may hang as long as the system does, so nobody calls them on a thread that others wait for.

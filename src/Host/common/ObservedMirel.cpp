@@ -10,9 +10,8 @@ ObservedMirel::ObservedMirel(const std::string& name, Backend::MidiEngine::MidiP
 ObservedMirel::ObservedControls::ObservedControls(Backend::Mirel& mirel, Observer observer)
     : ControlMessageManager(mirel.getMessageManagerMaster(), mirel.getControls()), m_observer(std::move(observer)) {}
 
-void ObservedMirel::ObservedControls::postUpdateControl(const MirelMidiMessage& message) {
-    if (m_observer(message))
-        ControlMessageManager::postUpdateControl(message);
+bool ObservedMirel::ObservedControls::postUpdateControl(const MirelMidiMessage& message) {
+    return !m_observer(message) || ControlMessageManager::postUpdateControl(message);
 }
 
 }

@@ -22,7 +22,7 @@ private:
     class ObservedControls : public Backend::Controls::ControlMessageManager {
     public:
         ObservedControls(Backend::Mirel& mirel, Observer observer);
-        void postUpdateControl(const Backend::MidiEngine::MirelMidiMessage& message) override;
+        bool postUpdateControl(const Backend::MidiEngine::MirelMidiMessage& message) override;
 
     private:
         Observer m_observer;

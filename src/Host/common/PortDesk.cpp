@@ -5,6 +5,9 @@
 #include "Backend/core/MirelMessageManager.h"
 #include "Backend/midi/MidiEngineMessageManager.h"
 #include "Host/common/InputEvent.h"
+#include "Platform/Sleep.h"
+
+#include <chrono>
 
 namespace Host {
 
@@ -12,7 +15,7 @@ using Backend::MidiEngine::MirelMidiMessage;
 
 PortDesk::PortDesk(std::shared_ptr<MidiSystem> system, const Options& options)
     : m_recordsAll(options.recordsAll),
-      m_ports(std::move(system), {options.dataFolder, options.virtualPort},
+      m_ports(std::move(system), {options.dataFolder, options.virtualPort, options.keepsSwitches},
               [this](const MirelMidiMessage& event) { receiveInputEvent(*m_mirel, event); }),
       m_player(*this),
       m_mirel(Backend::MirelFactory::createMirel(options.product, m_player, false)) {
@@ -28,6 +31,7 @@ PortDesk::~PortDesk() {
 
 void PortDesk::start() {
     auto& manager = m_mirel->getMessageManager();
+    m_watcher = std::make_unique<PortWatcher>([this] { watchPorts(); });
     m_mirel->start();
     manager.sendInitialize();
     m_ports.update();
@@ -35,10 +39,9 @@ void PortDesk::start() {
     manager.sendSetMidiInputPorts(m_ports.inputPorts());
     manager.sendSetMidiOutputPorts(m_ports.outputPorts());
     m_ports.waitUntilIdle();  // What is played to a port that is not open yet is lost.
-    m_player.start([this](std::int32_t from, std::int32_t to) { m_mirel->playTimeSlice(from, to); });
+    startPlayer();
     manager.sendEndInitialize();
     m_isRunning = true;
-    m_watcher = std::make_unique<PortWatcher>([this] { m_ports.update(); });
 }
 
 bool PortDesk::stop() {
@@ -55,9 +58,48 @@ bool PortDesk::stop() {
     return watchEnded && portsClosed;
 }
 
+void PortDesk::startPlayer() {
+    m_player.start([this](std::int32_t from, std::int32_t to) { m_mirel->playTimeSlice(from, to); });
+}
+
+bool PortDesk::pause() {
+    if (!m_player.hasEnded())
+        m_mirel->getMidiEngineMessageManager().sendReset();
+    m_player.stop();  // It also ends what sounds at the ports alone.
+    return m_ports.waitUntilIdle();
+}
+
+void PortDesk::resume() {
+    startPlayer();
+}
+
 void PortDesk::waitUntilIdle() {
+    constexpr std::chrono::milliseconds LIMIT{1000};  // A look at the ports may hang.
+    const auto deadline = std::chrono::steady_clock::now() + LIMIT;
+    for (;;) {
+        m_mirel->getMessageManagerMaster().waitUntilIdle();
+        m_mirel->getMidiEngineMessageManager().waitUntilIdle();
+        if (m_toldSwitches == m_switches || std::chrono::steady_clock::now() > deadline)
+            break;
+        Platform::sleepMilliseconds(1);
+    }
     m_mirel->getMessageManagerMaster().waitUntilIdle();
-    m_mirel->getMidiEngineMessageManager().waitUntilIdle();
+}
+
+void PortDesk::watchPorts() {
+    const int switches = m_switches;
+    if (m_isRunning && m_toldSwitches != switches) {
+        postPorts();
+        m_toldSwitches = switches;
+    }
+    m_ports.update();
+}
+
+// On the engine's thread, which must not wait for the backend: the backend may be waiting for the engine, or have
+// ended.
+void PortDesk::noteSwitch() {
+    ++m_switches;
+    m_watcher->wake();
 }
 
 char PortDesk::findRecorder() const {
@@ -84,12 +126,12 @@ void PortDesk::Player::playMidi(const MirelMidiMessage& message) {
 
 void PortDesk::Player::enableMidiInput(int port, bool enable) {
     PortPlayer::enableMidiInput(port, enable);
-    m_desk.m_mirel->getMessageManager().postSetMidiInputPorts(m_desk.m_ports.inputPorts());
+    m_desk.noteSwitch();
 }
 
 void PortDesk::Player::enableMidiOutput(int port, bool enable) {
     PortPlayer::enableMidiOutput(port, enable);
-    m_desk.m_mirel->getMessageManager().postSetMidiOutputPorts(m_desk.m_ports.outputPorts());
+    m_desk.noteSwitch();
 }
 
 }

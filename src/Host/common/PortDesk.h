@@ -14,10 +14,11 @@ namespace Host {
 class PortDesk {
 public:
     struct Options {
-        std::string product;      // The product's name, for the key of the settings.
-        std::string dataFolder;   // Where the lists of ports are kept.
-        std::string virtualPort;  // The name of ports of the desk's own; empty: none.
-        bool recordsAll = false;  // The Recorder gets what is played on the other outputs too.
+        std::string product;        // The product's name, for the key of the settings.
+        std::string dataFolder;     // Where the lists of ports are kept.
+        std::string virtualPort;    // The name of ports of the desk's own; empty: none.
+        bool keepsSwitches = true;  // Ports that are switched stay so in the next run.
+        bool recordsAll = false;    // The Recorder gets what is played on the other outputs too.
     };
 
     PortDesk(std::shared_ptr<MidiSystem> system, const Options& options);
@@ -32,6 +33,13 @@ public:
 
     // [main] Ends all that sounds, saves the settings and closes the ports. False if a port hung and was left behind.
     bool stop();
+
+    // [main, between start and stop] Ends all that sounds and plays nothing from then on, so that the program can be
+    // paused. False if a port hung.
+    bool pause();
+
+    // [main, after pause] Plays on.
+    void resume();
 
     Backend::MirelIF& mirel() { return *m_mirel; }
     MidiPorts& ports() { return m_ports; }
@@ -60,6 +68,14 @@ private:
     char findRecorder() const;
     void postPorts();
 
+    void startPlayer();
+
+    // [watcher] Tells the desk of ports that were switched, and looks for ports that came or went.
+    void watchPorts();
+
+    // [engine] A port was switched on or off, of which the desk hears soon.
+    void noteSwitch();
+
     const bool m_recordsAll;
     MidiPorts m_ports;
     Player m_player;
@@ -67,6 +83,8 @@ private:
     std::unique_ptr<Backend::MirelIF> m_mirel;
     std::unique_ptr<PortWatcher> m_watcher;
     std::atomic<bool> m_isRunning{false};
+    std::atomic<int> m_switches{0};      // Of ports, by the desk.
+    std::atomic<int> m_toldSwitches{0};  // Of those, that it has been told of.
 };
 
 }

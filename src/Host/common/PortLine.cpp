@@ -148,6 +148,8 @@ bool PortLine::State::doAll() {
         while (queue.pop(event))
             send(event);
         endAll();
+        if (port)
+            port->flush();
     }
 }
 

@@ -36,7 +36,8 @@ public:
     // [one thread at a time] Asks for the port to be closed: of what is still queued only the endings are sent.
     void close();
 
-    // [any] Asks for the end of all that sounds, behind what is queued.
+    // [any] Asks for the end of all that sounds, behind what is queued. The line is idle when that no longer needs this
+    // program.
     void endNotes();
 
     // [one thread at a time] Queues an event of this many bytes' worth for the port. Never waits and takes nothing from

@@ -106,7 +106,7 @@ bool PortList::update(const std::vector<MidiPortId>& present) {
     }
     for (const MidiPortId& id : newcomers)
         if (PortRow* row = placeFor(id))
-            *row = {id, newcomerSettings(id), true};
+            *row = {id, newcomerSettings(id), true, std::nullopt};
     return m_rows != before;
 }
 
@@ -117,12 +117,23 @@ bool PortList::setSettings(std::size_t index, const PortSettings& settings) {
     return true;
 }
 
+bool PortList::switchForNow(std::size_t index, bool enabled) {
+    if (index >= m_rows.size())
+        return false;
+    PortRow& row = m_rows[index];
+    if (!row.keptEnabled)
+        row.keptEnabled = row.settings.enabled;
+    row.settings.enabled = enabled;
+    return true;
+}
+
 std::string PortList::toText() const {
     std::string text;
     for (const PortRow& row : m_rows) {
         char numbers[32];
-        std::snprintf(numbers, sizeof(numbers), "%d %d %04x %d ", row.settings.enabled ? 1 : 0,
-                      row.settings.keepsChannels ? 1 : 0, unsigned{row.settings.channels}, row.id.copy);
+        std::snprintf(numbers, sizeof(numbers), "%d %d %04x %d ",
+                      row.keptEnabled.value_or(row.settings.enabled) ? 1 : 0, row.settings.keepsChannels ? 1 : 0,
+                      unsigned{row.settings.channels}, row.id.copy);
         text += numbers + escaped(row.id.name) + "\n";
     }
     return text;

@@ -29,6 +29,9 @@ public:
     // [any] False, and nothing done, without such a row.
     bool setSettings(std::size_t index, const PortSettings& settings);
 
+    // [any] The same for the switch alone, and only until the list is read again: its text keeps what was there before.
+    bool switchForNow(std::size_t index, bool enabled);
+
     const std::vector<PortRow>& rows() const { return m_rows; }
 
     // [any] One line a row: enabled (0 or 1), keeps channels (0 or 1), the mask of channels (four hexadecimal digits),

@@ -3,6 +3,7 @@
 #include "Host/common/MidiSystem.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace Host {
 
@@ -22,6 +23,7 @@ struct PortRow {
     MidiPortId id;
     PortSettings settings;
     bool available = false;
+    std::optional<bool> keptEnabled;  // What is kept in place of settings.enabled, where that is for now.
 
     bool operator==(const PortRow&) const = default;
 };

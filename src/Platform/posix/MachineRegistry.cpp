@@ -2,7 +2,7 @@
 
 namespace Platform {
 
-std::unique_ptr<MachineRegistryKey> openMachineRegistryKey(const std::string&) {
+std::unique_ptr<MachineRegistryKey> openSystemRegistryKey(const std::string&) {
     return nullptr;
 }
 

@@ -1,5 +1,6 @@
 #include "Platform/StopRequest.h"
 
+#include <atomic>
 #include <csignal>
 
 #include <fcntl.h>
@@ -12,6 +13,13 @@ namespace {
 
 // A byte in it is a request. Handlers may do little else than write.
 int requestPipe[2] = {-1, -1};
+
+std::atomic<bool> pauseRequested{false};
+static_assert(std::atomic<bool>::is_always_lock_free, "a handler sets it");
+
+void requestPause(int) {
+    pauseRequested = true;
+}
 
 void request(int) {
     const char byte = 1;
@@ -26,13 +34,34 @@ void watchForStopRequests() {
     struct sigaction action = {};
     action.sa_handler = request;
     action.sa_flags = SA_RESTART;
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+    for (const int signal : {SIGINT, SIGQUIT, SIGTERM, SIGHUP})
         ::sigaction(signal, &action, nullptr);
+    // Who started the program without a way to have it go on wants no pause.
+    struct sigaction present = {};
+    if (::sigaction(SIGTSTP, nullptr, &present) != 0 || present.sa_handler == SIG_IGN)
+        return;
+    action.sa_handler = requestPause;
+    ::sigaction(SIGTSTP, &action, nullptr);
 }
 
 bool waitForStopRequest(std::chrono::milliseconds limit) {
     pollfd requested = {requestPipe[0], POLLIN, 0};
     return ::poll(&requested, 1, static_cast<int>(limit.count())) > 0;
+}
+
+bool isPauseRequested() {
+    return pauseRequested;
+}
+
+// The system pauses a program only by the signal's own action.
+void pauseProgram() {
+    struct sigaction pausing = {};
+    struct sigaction watching = {};
+    pausing.sa_handler = SIG_DFL;
+    ::sigaction(SIGTSTP, &pausing, &watching);
+    ::raise(SIGTSTP);
+    ::sigaction(SIGTSTP, &watching, nullptr);
+    pauseRequested = false;
 }
 
 }

@@ -55,7 +55,7 @@ private:
 
 }
 
-std::unique_ptr<MachineRegistryKey> openMachineRegistryKey(const std::string& key) {
+std::unique_ptr<MachineRegistryKey> openSystemRegistryKey(const std::string& key) {
     HKEY opened = nullptr;
     if (RegCreateKeyExA(HKEY_LOCAL_MACHINE, key.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &opened, nullptr) !=
         ERROR_SUCCESS)

@@ -33,4 +33,10 @@ bool waitForStopRequest(std::chrono::milliseconds limit) {
     return WaitForSingleObject(requestEvent(), static_cast<DWORD>(limit.count())) == WAIT_OBJECT_0;
 }
 
+bool isPauseRequested() {
+    return false;
+}
+
+void pauseProgram() {}
+
 }

@@ -79,6 +79,13 @@ public:
             return nullptr;
         return std::make_unique<RegistryKey>(opened);
     }
+
+    std::unique_ptr<SettingsKey> openExisting(const std::string& key) override {
+        HKEY opened = nullptr;
+        if (RegOpenKeyExA(HKEY_CURRENT_USER, key.c_str(), 0, KEY_ALL_ACCESS, &opened) != ERROR_SUCCESS)
+            return nullptr;
+        return std::make_unique<RegistryKey>(opened);
+    }
 };
 
 }

@@ -137,6 +137,15 @@ TEST(BankFileTest, ASizeThatNoBankCanHaveIsRefused) {
     EXPECT_EQ(readProgramNames(path).size(), 1u + MAX_ADDED_PROGRAMS);
 }
 
+TEST(BankFileTest, NothingIsLostByWritingWhatCanBeReadOrOverWhatCouldNot) {
+    const std::string good = "<Bank>\n</Bank>\n";
+    EXPECT_TRUE(remainsReadable(good, good));
+    EXPECT_TRUE(remainsReadable("<Bank>", good));
+    EXPECT_TRUE(remainsReadable("<Bank>", "<Bank>"));
+    EXPECT_FALSE(remainsReadable(good, "<Bank>"));
+    EXPECT_FALSE(remainsReadable(good, std::string(Platform::Files::MAX_SIZE + 1, ' ')));
+}
+
 TEST(BankFileTest, NamesAreThoseOfTheRootsChildrenInTheirOrder) {
     const TestSupport::TemporaryFolder folder;
     const std::string path = folder.file("a.bnk");

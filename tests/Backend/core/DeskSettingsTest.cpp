@@ -1,4 +1,5 @@
 // Ports, tempo and the other musical settings of the desk.
+#include "Backend/core/DisplayMessageManager.h"
 #include "Backend/functions/OnOffToggle.h"
 #include "Backend/functions/RelativeFixedValue.h"
 #include "Backend/functions/SelectType.h"
@@ -68,6 +69,7 @@ TEST(DeskSettingsTest, TheDefaultOutputIsChosenAmongThePorts) {
         {"the chosen one is beyond the ports", 7, {"A", "B"}, 7},
         {"just beyond", 2, {"A", "B"}, 2},
         {"nonsense below none", -9, {"A"}, 0},
+        {"nonsense below none, and no port to take", -9, {"A-"}, -9},
     };
     for (const Choice& choice : choices) {
         RunningDesk desk;
@@ -271,6 +273,76 @@ TEST(DeskSettingsTest, TheLiteSettingsReachTheFirstLayerIfThereIsOne) {
     });
     EXPECT_EQ(desk.mirel().getLayers().getLayerList().size(), 0u);
     EXPECT_EQ(desk.mirel().getRegistrySettings().getLiteVelocity(), INT_MAX);
+}
+
+TEST(DeskSettingsTest, WhatIsPostedIsKept) {
+    RunningDesk desk;
+    desk.start();
+    MirelMessageManager& manager = desk.mirel().getMessageManager();
+    for (const bool flag : {true, false}) {
+        manager.postSetDockToBottomEdge(flag);
+        manager.postSetDisplayNumbers(flag);
+        manager.postSetLargeDisplayFont(flag);
+        manager.postSetDisplayMidiInputEvents(flag);
+        manager.postSetDisplayMidiOutputEvents(flag);
+        manager.postSetAlwaysOnTop(flag);
+        manager.postSetUseSkinBorder(flag);
+        manager.postSetLiteStackNotes(flag);
+        manager.postSetClickZoneChannelTranspose(flag);
+        manager.postSetMouseSensitivity(flag ? 7 : 1);
+        manager.postSetDisplayHeight(flag ? 321 : 25);
+        manager.postSetLiteChannel(flag ? 9 : 0);
+        manager.postSetLiteVelocity(flag ? 77 : 1);
+        manager.postSetDefaultBank(flag ? "some.bnk" : "");
+        manager.postSetLastWindowPosition(flag ? Rect{1, 2, 3, 4} : Rect{});
+        desk.settle();
+        const RegistrySettings& settings = desk.mirel().getRegistrySettings();
+        EXPECT_EQ(settings.getDockToBottomEdge(), flag);
+        EXPECT_EQ(settings.getDisplayNumbers(), flag);
+        EXPECT_EQ(settings.getLargeDisplayFont(), flag);
+        EXPECT_EQ(settings.getDisplayMidiInputEvents(), flag);
+        EXPECT_EQ(settings.getDisplayMidiOutputEvents(), flag);
+        EXPECT_EQ(settings.getAlwaysOnTop(), flag);
+        EXPECT_EQ(settings.getUseSkinBorder(), flag);
+        EXPECT_EQ(settings.getLiteStackNotes(), flag);
+        EXPECT_EQ(settings.getClickZoneChannelTranspose(), flag);
+        EXPECT_EQ(settings.getMouseSensitivity(), flag ? 7 : 1);
+        EXPECT_EQ(settings.getDisplayHeight(), flag ? 321 : 25);
+        EXPECT_EQ(settings.getLiteChannel(), flag ? 9 : 0);
+        EXPECT_EQ(settings.getLiteVelocity(), flag ? 77 : 1);
+        EXPECT_EQ(settings.getDefaultBank(), flag ? "some.bnk" : "");
+        EXPECT_EQ(settings.getLastWindowPosition(), flag ? (Rect{1, 2, 3, 4}) : Rect{});
+    }
+}
+
+TEST(DeskSettingsTest, TheLogShowsWhatIsPlayedAsItIsTold) {
+    RunningDesk desk;
+    desk.start();
+    const auto play = [&desk] {
+        desk.mirel().getDisplayMessageManager().postAddOutputEvent(
+            MirelMidiMessage(MidiMessage::TimingTick, 0, 0, 0, 1, -1, -1, -1));
+        desk.settle();
+    };
+    play();
+    desk.mirel().getMessageManager().postSetDisplayNumbers(true);
+    desk.settle();
+    play();
+    desk.mirel().getMessageManager().postSetDisplayMidiOutputEvents(false);
+    desk.settle();
+    play();
+    EXPECT_EQ(desk.log(), "Mirel Console 3.2\r\nOut 1\t\tTiming Tick\r\n0  Out 1\t\tTiming Tick\r\n");
+}
+
+TEST(DeskSettingsTest, TempoAndThenItsSourceReachTheHostAfterALoad) {
+    RunningDesk desk;
+    desk.start();
+    desk.takeCalls();
+    desk.run([](Mirel& mirel) {
+        mirel.loadProgramFromXml("<X><Program name=\"\" tempo=\"97\" tempoSource=\"1\"/></X>", 0);
+    });
+    EXPECT_EQ(desk.takeCalls(), (Strings{"tempo 97", "source 1"}));
+    desk.run([](Mirel& mirel) { mirel.loadProgram("no such.prg"); });
+    EXPECT_EQ(desk.takeCalls(), (Strings{"tempo 120", "source -1"}));
 }
 
 TEST(DeskSettingsTest, OnlyWhatComesFromAnEnabledInputIsLogged) {

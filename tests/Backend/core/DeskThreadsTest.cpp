@@ -2,6 +2,7 @@
 #include "Backend/functions/OnOffToggle.h"
 #include "Backend/functions/RelativeFixedValue.h"
 #include "Backend/functions/SelectType.h"
+#include "tests/support/Eventually.h"
 #include "tests/support/RunningDesk.h"
 
 #include <gtest/gtest.h>
@@ -110,6 +111,48 @@ TEST(DeskThreadsTest, PostsFromManyThreadsAllArrive) {
     EXPECT_EQ(desk.mirel().getMidiInputPorts().size(), 3u);
     EXPECT_NE(desk.takeTold(), std::vector<std::string>());
     EXPECT_NE(desk.takePlayed(), std::vector<std::string>());
+}
+
+// More controllers in one slice than the backend's queue holds, while the backend does something else.
+TEST(DeskThreadsTest, AFloodOfControllersHoldsNobodyUp) {
+    constexpr char CHANNEL = 3;
+    constexpr int COUNT = 100000;
+    constexpr int LAST = (COUNT - 1) % 128;
+    RunningDesk desk;
+    desk.start();
+    desk.playSlice(0, 1);
+    Control control;
+    control.cell = Cell(9, 9);
+    control.type = ControlType(ControlType::edit);
+    control.events.emplace_back(MidiMessage(MidiMessage::ControllerChange, 7));
+    control.events.back().channel = CHANNEL;
+    desk.mirel().getControlMessageManager().postUpdateControls({control}, false, false);
+    desk.settle();
+    std::atomic<bool> isBusy = true;
+    desk.post([&isBusy](Mirel&) {
+        while (isBusy)
+            std::this_thread::yield();
+    });
+    auto& engine = desk.mirel().getMidiEngineMessageManager();
+    for (int i = 0; i < COUNT; ++i)
+        engine.postPlayMidi(
+            MirelMidiMessage(MidiMessage::ControllerChange, 7, static_cast<char>(i % 128), CHANNEL, -1, -1, -1, -1));
+    engine.waitUntilIdle();
+    desk.mirel().playTimeSlice(1, 2);
+    desk.mirel().playTimeSlice(2, 3);
+    EXPECT_EQ(desk.takePlayed().size(), static_cast<std::size_t>(COUNT));
+    isBusy = false;
+    std::int32_t clock = 3;
+    EXPECT_TRUE(TestSupport::eventually([&] {
+        int value = -1;
+        desk.playSlice(clock, clock + 1);
+        ++clock;
+        desk.run([&value](Mirel& mirel) {
+            Controls::ControlMap controls = mirel.getControls().getControlMap();
+            value = controls.find(Cell(9, 9))->value;
+        });
+        return value == LAST;
+    }));
 }
 
 // Each thread sees its own posts carried out in order.

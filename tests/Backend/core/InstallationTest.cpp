@@ -1,10 +1,12 @@
 #include "Backend/core/MirelUtils.h"
 
 #include "Platform/Files.h"
+#include "Platform/SettingsStore.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 
 namespace Backend {
@@ -17,6 +19,12 @@ class InstallationTest : public testing::Test {
 protected:
     InstallationTest() { MirelUtils::useDataFolder(m_folder.file("data")); }
     ~InstallationTest() override { MirelUtils::useDataFolder(""); }
+
+    static void installInto(const std::string& folder) {
+        const auto key = MirelUtils::createSettingsStore()->open(MirelUtils::getMainRegistryKeyLite());
+        key->writeText("ProgDir", folder);
+        EXPECT_TRUE(key->save());
+    }
 
     std::string makeFile(const std::string& folder, const std::string& name, const std::string& content) {
         Files::createFolders(m_folder.file(folder));
@@ -41,7 +49,33 @@ TEST_F(InstallationTest, UninstallKeepsWhatIsTheUsers) {
 TEST_F(InstallationTest, UninstallRemovesAnEmptyFolder) {
     makeFile("data", "Midi Inputs.txt", "x");
     MirelUtils::uninstall();
-    EXPECT_FALSE(Files::removeEmptyFolder(m_folder.file("data"))) << "it is gone";
+    EXPECT_FALSE(std::filesystem::exists(m_folder.file("data")));
+}
+
+TEST_F(InstallationTest, UninstallKeepsTheSettings) {
+    installInto(m_folder.file("prog"));
+    MirelUtils::uninstall();
+    EXPECT_EQ(MirelUtils::getMirelProgDir(), m_folder.file("prog"));
+}
+
+TEST_F(InstallationTest, DefaultFilesAreRemovedButNotWhatTheUserMade) {
+    installInto(m_folder.file("prog"));
+    makeFile("prog/Default/Sequences", "a.seq", "");
+    makeFile("prog/Default/Sequences", "b.seq", "");
+    const std::string own = makeFile("data/Sequences", "a.seq", "changed, and still one of ours");
+    const std::string mine = makeFile("data/Sequences", "mine.seq", "mine");
+    MirelUtils::removeFiles(m_folder.file("data").c_str(), "Sequences");
+    EXPECT_FALSE(Files::size(own));
+    EXPECT_EQ(Files::read(mine), "mine");
+}
+
+TEST_F(InstallationTest, FolderOfDefaultFilesGoesWhenItIsEmpty) {
+    installInto(m_folder.file("prog"));
+    makeFile("prog/Default/Sequences", "a.seq", "");
+    makeFile("data/Sequences", "a.seq", "");
+    MirelUtils::removeFiles(m_folder.file("data").c_str(), "Sequences");
+    EXPECT_FALSE(std::filesystem::exists(m_folder.file("data/Sequences")));
+    EXPECT_TRUE(Files::size(m_folder.file("prog/Default/Sequences/a.seq")));
 }
 
 TEST_F(InstallationTest, DefaultFilesAreCopiedOverWhatIsThere) {

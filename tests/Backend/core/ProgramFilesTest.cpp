@@ -1,8 +1,11 @@
 // Programs and banks as a desk loads and saves them.
 #include "Backend/core/BankFile.h"
+#include "Backend/core/Trace.h"
 #include "Backend/core/WindowMessages.h"
 #include "Backend/functions/SelectType.h"
 #include "Platform/SystemPath.h"
+#include "Platform/XmlReader.h"
+#include "tests/support/CapturedDebugText.h"
 #include "tests/support/FileDesk.h"
 
 #include <gtest/gtest.h>
@@ -126,6 +129,73 @@ TEST_F(ProgramFilesTest, ASavedBankHoldsTheSameBlock) {
     EXPECT_EQ(m_desk.programName(), "P0") << "the program of the current index is loaded again";
     select(1);
     EXPECT_EQ(m_desk.programXml(), HEADER + "<MirelProgramFile>\n" + BLOCK + "</MirelProgramFile>\n");
+}
+
+TEST_F(ProgramFilesTest, AProgramThatWouldMakeItsBankUnreadableIsNotSaved) {
+    const std::string bank = bankOf(3);
+    load(writeBank(bank));
+    rename(std::string(Platform::XML_MAX_RUN + 1, 'x'));
+    save(0);
+    EXPECT_EQ(m_desk.read("a.bnk"), bank);
+    EXPECT_EQ(m_desk.bankNames(), (std::vector<std::string>{"P0", "P1", "P2"}));
+    EXPECT_EQ(m_notified.take(), std::vector<UINT>{SAVE_TO_BANK_DONE});
+}
+
+// The first save of what it can't hold makes it one in UTF-8.
+TEST_F(ProgramFilesTest, ABankInAnotherEncodingKeepsItsNames) {
+    using namespace std::string_literals;
+    const std::string utf8 = "Zo\xC3\xAB";
+    const auto bankIn = [](const std::string& encoding, const std::string& name) {
+        return "<?xml version=\"1.0\" encoding=\"" + encoding + "\"?>\n<Bank>\n<Program name=\"" + name +
+               "\">\n</Program>\n<Program name=\"B\">\n</Program>\n</Bank>\n";
+    };
+    std::string utf16 = "\xFF\xFE";
+    for (const char character : bankIn("utf-16", "Zo\xEB"))
+        utf16 += std::string{character, '\0'};
+    for (const std::string& bank : {bankIn("iso-8859-1", "Zo\xEB"), bankIn("windows-1252", "Zo\xEB"), utf16,
+                                    "\xEF\xBB\xBF" + bankIn("utf-8", utf8)}) {
+        load(writeBank(bank));
+        ASSERT_EQ(m_desk.bankNames(), (std::vector<std::string>{utf8, "B"}));
+        rename("New " + utf8);
+        save(1);
+        EXPECT_EQ(m_desk.bankNames(), (std::vector<std::string>{utf8, "New " + utf8}));
+        save(1);
+        EXPECT_EQ(m_desk.bankNames()[0], utf8);
+        resize(3);
+        EXPECT_EQ(m_desk.bankNames()[0], utf8);
+        resize(1);
+        EXPECT_EQ(m_desk.bankNames(), std::vector<std::string>{utf8});
+    }
+    load(writeBank(bankIn("us-ascii", "Zoe")));
+    rename(utf8);
+    save(0);
+    EXPECT_EQ(m_desk.bankNames(), (std::vector<std::string>{utf8, "B"}));
+}
+
+TEST_F(ProgramFilesTest, AProgramFileIsSavedWithoutBeingLoaded) {
+    load(writeBank(bankOf(3)));
+    rename("Mine");
+    const std::string path = m_desk.file("a.prg");
+    m_desk.run([&](Mirel& mirel) { mirel.saveToProgram(path, m_notified.window()); });
+    EXPECT_EQ(m_desk.programName(), "Mine");
+    m_desk.run([&](Mirel& mirel) { EXPECT_EQ(mirel.getCurrentBank().getPath(), m_desk.file("a.bnk")); });
+}
+
+// What nobody is told otherwise stands in the developers' trace.
+TEST_F(ProgramFilesTest, FilesThatCanNotBeUsedAreTraced) {
+    const TestSupport::CapturedDebugText captured;
+    Trace::channel().setEnabled(true);
+    load(m_desk.file("missing.bnk"));
+    load(writeBank("no XML"));
+    m_desk.run([this](Mirel& mirel) { mirel.saveToProgram(m_desk.file("no folder/a.prg"), nullptr); });
+    Trace::channel().setEnabled(false);
+    std::string all;
+    for (const std::string& text : captured.texts())
+        all += text;
+    EXPECT_NE(all.find("missing.bnk: can't be read\n"), std::string::npos) << all;
+    EXPECT_NE(all.find("a.bnk: is no XML that can be used\n"), std::string::npos) << all;
+    EXPECT_NE(all.find("a.prg: can't be written\n"), std::string::npos) << all;
+    EXPECT_NE(all.find("MIREL_TRACE: src\\Backend\\core\\XmlDocument:"), std::string::npos) << all;
 }
 
 TEST_F(ProgramFilesTest, AnEmptyProgramSilencesEverything) {

@@ -19,6 +19,10 @@ public:
         return canOpen ? std::make_unique<Key>(keys[key]) : nullptr;
     }
 
+    std::unique_ptr<Platform::SettingsKey> openExisting(const std::string& key) override {
+        return keys.count(key) > 0 ? open(key) : nullptr;
+    }
+
     std::map<std::string, Values> keys;
     bool canOpen = true;
 

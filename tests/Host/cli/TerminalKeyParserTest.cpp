@@ -54,9 +54,22 @@ TEST(TerminalKeyParserTest, SomeTerminalsTellOfReleasesAndRepeats) {
     EXPECT_EQ(keysOf(parser, "\x1b[1;2:3P\x1b[57413u"), "Shift F1-, Numpad +");
 }
 
-TEST(TerminalKeyParserTest, TerminalThatCanTellButDoesNotIsNoHelp) {
+TEST(TerminalKeyParserTest, AbilitiesWithoutReleasesAreNoHelp) {
+    for (const char* answer : {"\x1b[?0u", "\x1b[?u", "\x1b[?1u", "\x1b[?8u", "\x1b[?29u", "\x1b[?2c"}) {
+        TerminalKeyParser parser;
+        parser.parse(answer);
+        EXPECT_FALSE(parser.tellsReleases()) << answer;
+    }
+    for (const char* answer : {"\x1b[?2u", "\x1b[?3u", "\x1b[?31u"}) {
+        TerminalKeyParser parser;
+        parser.parse(answer);
+        EXPECT_TRUE(parser.tellsReleases()) << answer;
+    }
+}
+
+TEST(TerminalKeyParserTest, LastAnswerCounts) {
     TerminalKeyParser parser;
-    parser.parse("\x1b[?0u");
+    parser.parse("\x1b[?11u\x1b[?1u");
     EXPECT_FALSE(parser.tellsReleases());
 }
 

@@ -26,8 +26,8 @@ constexpr std::uint32_t NOTE_OFF = 0x003c80;  // 80 3c 00
 
 class MidiPortsTest : public testing::Test {
 protected:
-    std::unique_ptr<MidiPorts> make(const std::string& virtualPort = {}) {
-        return std::make_unique<MidiPorts>(system, MidiPorts::Options{folder.path(), virtualPort},
+    std::unique_ptr<MidiPorts> make(const std::string& virtualPort = {}, bool keepsSwitches = true) {
+        return std::make_unique<MidiPorts>(system, MidiPorts::Options{folder.path(), virtualPort, keepsSwitches},
                                            [this](const MirelMidiMessage& event) {
                                                const std::lock_guard lock(m_mutex);
                                                m_events.push_back(event);
@@ -145,6 +145,36 @@ TEST_F(MidiPortsTest, NextProgramFindsItsRowsAndSettings) {
     EXPECT_EQ(names(ports->outputs()), (Names{"Recorder+", "Synth+"}));
     EXPECT_FALSE(ports->outputs()[1].settings.enabled);
     EXPECT_FALSE(system->isOutputOpen("Synth"));
+}
+
+TEST_F(MidiPortsTest, SwitchesForNowAreForgottenByTheNextProgram) {
+    system->plugInputs({"In"});
+    system->plugOutputs({"Out A", "Out B"});
+    {
+        const auto first = make();
+        update(*first);
+        first->enableOutput(2, false);
+        update(*first);
+    }
+    {
+        const auto second = make({}, false);
+        update(*second);
+        second->enableInput(0, false);
+        second->enableOutput(1, false);
+        second->enableOutput(2, true);
+        second->enableOutput(9, true);
+        settle(*second);
+        EXPECT_FALSE(system->isInputOpen("In"));
+        EXPECT_FALSE(system->isOutputOpen("Out A"));
+        EXPECT_TRUE(system->isOutputOpen("Out B"));
+        system->plugOutputs({"Out A", "Out B", "Out C"});
+        update(*second);
+    }
+    const auto third = make();
+    update(*third);
+    EXPECT_TRUE(third->inputs()[0].settings.enabled);
+    EXPECT_TRUE(third->outputs()[1].settings.enabled);
+    EXPECT_FALSE(third->outputs()[2].settings.enabled);
 }
 
 TEST_F(MidiPortsTest, FilesAreWrittenWithTheNextUpdateAndOnlyWhenSomethingChanged) {

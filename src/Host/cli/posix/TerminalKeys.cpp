@@ -6,6 +6,7 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <map>
 #include <string_view>
 
@@ -27,19 +28,20 @@ void writeToTerminal(std::string_view text) {
     [[maybe_unused]] const auto written = ::write(STDOUT_FILENO, text.data(), text.size());
 }
 
+// What a terminal that tells of every key no longer makes a signal of.
+bool isInterrupt(const Key& key) {
+    return key == Key(std::string_view("Control C")) || key == Key(std::string_view("Control Backslash"));
+}
+
+bool isPause(const Key& key) {
+    return key == Key(std::string_view("Control Z"));
+}
+
 class PosixTerminalKeys : public TerminalKeys {
 public:
-    explicit PosixTerminalKeys(const termios& state) : m_state(state) {
-        termios raw = state;
-        raw.c_lflag &= ~static_cast<tcflag_t>(ICANON | ECHO);
-        ::tcsetattr(STDIN_FILENO, TCSANOW, &raw);
-        writeToTerminal(ASK_FOR_RELEASES);
-    }
+    explicit PosixTerminalKeys(const termios& state) : m_state(state) { takeTerminal(); }
 
-    ~PosixTerminalKeys() override {
-        writeToTerminal(STOP_ASKING);
-        ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &m_state);
-    }
+    ~PosixTerminalKeys() override { giveTerminalBack(); }
 
     PosixTerminalKeys(const PosixTerminalKeys&) = delete;
     PosixTerminalKeys& operator=(const PosixTerminalKeys&) = delete;
@@ -63,13 +65,43 @@ public:
 
     bool isInterrupted() const override { return m_isInterrupted || m_isClosed; }
 
+    std::vector<KeyEvent> giveBack() override {
+        giveTerminalBack();
+        std::vector<KeyEvent> events;
+        for (const auto& entry : m_down)
+            events.push_back({entry.first, false, false});
+        m_down.clear();
+        m_parser = {};
+        return events;
+    }
+
+    void takeAgain() override {
+        // It may have been changed in the meantime.
+        ::tcgetattr(STDIN_FILENO, &m_state);
+        takeTerminal();
+    }
+
 private:
     using Press = TerminalKeyParser::Press;
     using Action = TerminalKeyParser::Action;
 
+    void takeTerminal() const {
+        termios raw = m_state;
+        raw.c_lflag &= ~static_cast<tcflag_t>(ICANON | ECHO);
+        ::tcsetattr(STDIN_FILENO, TCSANOW, &raw);
+        writeToTerminal(ASK_FOR_RELEASES);
+    }
+
+    void giveTerminalBack() const {
+        writeToTerminal(STOP_ASKING);
+        ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &m_state);
+    }
+
     void take(const Press& press, std::vector<KeyEvent>& events) {
-        if (press.key == Key('C', false, true, false, false))
+        if (isInterrupt(press.key))
             m_isInterrupted = true;
+        if (isPause(press.key) && press.action == Action::PRESS)
+            ::kill(0, SIGTSTP);  // As the terminal would have told all that run together.
         if (press.action == Action::RELEASE) {
             m_down.erase(press.key);
             events.push_back({press.key, false, false});
@@ -93,7 +125,7 @@ private:
         }
     }
 
-    const termios m_state;
+    termios m_state;  // As it was before.
     TerminalKeyParser m_parser;
     std::map<Key, Clock::time_point> m_down;  // And when they were last heard of.
     bool m_isInterrupted = false;

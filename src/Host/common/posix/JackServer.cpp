@@ -1,5 +1,6 @@
 #include "Host/common/posix/JackServer.h"
 
+#include "Host/common/AbandonableThread.h"
 #include "Host/common/MidiByteParser.h"
 #include "Host/common/OutputQueue.h"
 #include "Platform/MonotonicClock.h"
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 #include <utility>
 
 namespace Host {
@@ -19,20 +21,34 @@ namespace {
 constexpr int MAX_DESKS = 20;
 // So long a working server never takes for a cycle, or to send what is queued.
 constexpr std::int64_t PATIENCE_MICROSECONDS = 500000;
+// How the names of ports begin with which a desk reaches those of other programs. A name is there with the port from
+// the first moment, as an alias or a property would not be.
+constexpr std::string_view FROM = "from ";
+constexpr std::string_view TO = "to ";
 
 void ignoreText(const char*) {}
 
 // The library keeps state for the whole process that a second server must not meet; see JackServer::connect. So all
 // places of the process are known here.
 struct Places {
-    std::mutex mutex;
+    std::mutex connecting;  // One attempt at a time.
+    std::mutex mutex;       // Of what follows; never held while the server is at work.
     std::vector<JackServer*> all;
+    bool isAttempted = false;  // An attempt to get one more is under way, or hangs.
 };
 
+// Never destroyed, as an attempt that hangs may end at any time.
 Places& places() {
-    static Places known;
+    static Places& known = *new Places;
     return known;
 }
+
+// Shared by who waits for a place and the thread that asks the server for it.
+struct Attempt {
+    std::mutex mutex;
+    bool isAbandoned = false;
+    std::shared_ptr<JackServer> place;
+};
 
 enum class Use {
     FREE,
@@ -59,18 +75,18 @@ public:
     Port(std::shared_ptr<JackServer> server, Slot& slot, bool isInput)
         : m_server(std::move(server)), m_slot(slot), m_isInput(isInput) {}
 
+    // Waits for a server that hangs as long as it does: who closes a port knows then that it hung, and what is queued,
+    // such as the ends of notes, is played if the server goes on while the program is still there.
     ~Port() override {
-        const std::int64_t limit = Platform::monotonicMicroseconds() + PATIENCE_MICROSECONDS;
-        while (!m_slot.queue.isEmpty() && m_server->isAlive() && Platform::monotonicMicroseconds() < limit)
+        while (!m_slot.queue.isEmpty() && m_server->isAlive())
             Platform::sleepMilliseconds(1);
         if (!m_isInput) {
             m_slot.use = Use::SILENT;
-            m_server->waitForCycles(2);
+            waitForCycles();
         }
         m_slot.use = Use::RETIRED;
-        // Until the server's thread has certainly left the slot. If that never happens, the slot is lost.
-        if (!m_server->waitForCycles(2))
-            return;
+        // Until the server's thread has certainly left the slot.
+        waitForCycles();
         if (m_server->isAlive())
             jack_port_unregister(m_server->m_client, m_slot.port);
         m_slot.receiver = nullptr;
@@ -95,18 +111,58 @@ public:
         return false;
     }
 
+    void flush() override {
+        const std::int64_t limit = Platform::monotonicMicroseconds() + PATIENCE_MICROSECONDS;
+        while (!m_slot.queue.isEmpty() && m_server->isAlive() && Platform::monotonicMicroseconds() < limit)
+            Platform::sleepMilliseconds(1);
+        // In the cycle after the last one with events its buffer is emptied; while the program pauses, the server
+        // would play it again and again.
+        m_server->waitForCycles(2);
+    }
+
 private:
+    void waitForCycles() const {
+        while (!m_server->waitForCycles(2)) {
+        }
+    }
+
     const std::shared_ptr<JackServer> m_server;
     Slot& m_slot;
     const bool m_isInput;
 };
 
-std::shared_ptr<JackServer> JackServer::connect(const std::string& clientName) {
-    const std::lock_guard lock(places().mutex);
-    // With a client of a server that has gone still there, the library would mix up the two.
-    const auto& all = places().all;
-    if (std::any_of(all.begin(), all.end(), [](const JackServer* place) { return !place->isAlive(); }))
-        return nullptr;
+std::shared_ptr<JackServer> JackServer::connect(const std::string& clientName, std::chrono::milliseconds limit) {
+    const std::lock_guard oneAtATime(places().connecting);
+    const auto deadline = std::chrono::steady_clock::now() + limit;
+    {
+        const std::lock_guard lock(places().mutex);
+        // With a client of a server that has gone still there, the library would mix up the two.
+        const auto& all = places().all;
+        if (places().isAttempted ||
+            std::any_of(all.begin(), all.end(), [](const JackServer* place) { return !place->isAlive(); }))
+            return nullptr;
+        places().isAttempted = true;
+    }
+    // A server that hangs answers the library never, and the library waits for ever.
+    const auto attempt = std::make_shared<Attempt>();
+    AbandonableThread thread("jack connect", [attempt, clientName] {
+        std::shared_ptr<JackServer> place = openPlace(clientName);
+        {
+            const std::lock_guard lock(attempt->mutex);
+            if (!attempt->isAbandoned)
+                attempt->place = std::move(place);
+        }
+        place = nullptr;  // Too late for who asked; the next one may get another.
+        const std::lock_guard lock(places().mutex);
+        places().isAttempted = false;
+    });
+    thread.waitUntilEnded(deadline);
+    const std::lock_guard lock(attempt->mutex);
+    attempt->isAbandoned = true;
+    return std::move(attempt->place);
+}
+
+std::shared_ptr<JackServer> JackServer::openPlace(const std::string& clientName) {
     // A computer without the server is nothing to complain of.
     jack_set_error_function(ignoreText);
     jack_set_info_function(ignoreText);
@@ -116,7 +172,8 @@ std::shared_ptr<JackServer> JackServer::connect(const std::string& clientName) {
         jack_client_t* client =
             jack_client_open(name.c_str(), static_cast<jack_options_t>(JackNoStartServer | JackUseExactName), &status);
         if (client) {
-            std::shared_ptr<JackServer> place(new JackServer(client, name), leave);
+            std::shared_ptr<JackServer> place(new JackServer(client, clientName, name), leave);
+            const std::lock_guard lock(places().mutex);
             places().all.push_back(place.get());
             return place;
         }
@@ -127,8 +184,8 @@ std::shared_ptr<JackServer> JackServer::connect(const std::string& clientName) {
     return nullptr;
 }
 
-JackServer::JackServer(jack_client_t* client, std::string name)
-    : m_client(client), m_name(std::move(name)), m_slots(MAX_SLOTS) {
+JackServer::JackServer(jack_client_t* client, std::string clientName, std::string name)
+    : m_client(client), m_clientName(std::move(clientName)), m_name(std::move(name)), m_slots(MAX_SLOTS) {
     jack_on_shutdown(m_client, goneCallback, this);
     jack_set_process_callback(m_client, processCallback, this);
     jack_set_port_registration_callback(m_client, registeredCallback, this);
@@ -140,13 +197,13 @@ void JackServer::leave(JackServer* place) {
     // A server that hangs would hold up the end of the program. As it may wake up again and call back, all stays there.
     if (!place->waitForCycles(1))
         return;
+    jack_client_close(place->m_client);
     const std::lock_guard lock(places().mutex);
     std::erase(places().all, place);
     delete place;
 }
 
 JackServer::~JackServer() {
-    jack_client_close(m_client);
     for (const auto& slot : m_slots)
         delete slot.load();
 }
@@ -242,10 +299,26 @@ std::vector<std::string> JackServer::otherPorts(unsigned long flags) {
     const char** found = jack_get_ports(m_client, nullptr, JACK_DEFAULT_MIDI_TYPE, flags);
     std::vector<std::string> names;
     for (const char** name = found; name && *name; ++name)
-        if (const std::string text = *name; !text.starts_with(m_name + ":") && !isReplaced(text))
+        if (const std::string text = *name; !text.starts_with(m_name + ":") && !isOfADesk(text) && !isReplaced(text))
             names.push_back(text);
     jack_free(found);
     return names;
+}
+
+// Whether a desk has made the port for itself, to reach another one. Those for other programs don't count.
+bool JackServer::isOfADesk(const std::string& port) const {
+    std::string_view rest = port;
+    if (!rest.starts_with(m_clientName))
+        return false;
+    rest.remove_prefix(m_clientName.size());
+    const std::size_t colon = rest.find(':');
+    if (colon == std::string_view::npos)
+        return false;
+    const std::string_view number = rest.substr(0, colon);
+    const bool isNumbered = number.size() > 1 && number.front() == ' ' &&
+                            number.find_first_not_of("0123456789", 1) == std::string_view::npos;
+    rest.remove_prefix(colon + 1);
+    return (number.empty() || isNumbered) && (rest.starts_with(FROM) || rest.starts_with(TO));
 }
 
 void JackServer::findReplaced() {
@@ -322,13 +395,20 @@ std::unique_ptr<OpenMidiPort> JackServer::open(const std::string& name, const st
     return port;
 }
 
-std::unique_ptr<OpenMidiPort> JackServer::openInput(const std::string& name, const std::string& from,
-                                                    MidiReceiver receiver) {
-    return open(name, from, std::move(receiver), true);
+std::unique_ptr<OpenMidiPort> JackServer::openInput(const std::string& from, MidiReceiver receiver) {
+    return open(std::string(FROM) + from, from, std::move(receiver), true);
 }
 
-std::unique_ptr<OpenMidiPort> JackServer::openOutput(const std::string& name, const std::string& to) {
-    return open(name, to, nullptr, false);
+std::unique_ptr<OpenMidiPort> JackServer::openOutput(const std::string& to) {
+    return open(std::string(TO) + to, to, nullptr, false);
+}
+
+std::unique_ptr<OpenMidiPort> JackServer::openVirtualInput(const std::string& name, MidiReceiver receiver) {
+    return open(name + " in", {}, std::move(receiver), true);
+}
+
+std::unique_ptr<OpenMidiPort> JackServer::openVirtualOutput(const std::string& name) {
+    return open(name + " out", {}, nullptr, false);
 }
 
 }

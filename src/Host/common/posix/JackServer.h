@@ -5,6 +5,7 @@
 #include <jack/types.h>
 
 #include <atomic>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -20,10 +21,15 @@ namespace Host {
 // has gone, and take a client for each port.
 class JackServer : public std::enable_shared_from_this<JackServer> {
 public:
+    static constexpr std::chrono::milliseconds CONNECT_LIMIT{3000};  // For a busy computer.
+
     // [any] A place under this name, or with a number behind it if another desk has that. Null if no server runs; none
-    // is started. As long as a place of this process at a server that has gone is in use there is no new one. At the
-    // end of its last user the place is given up; a server that hangs is not waited for.
-    static std::shared_ptr<JackServer> connect(const std::string& clientName);
+    // is started. Null as well if the server hasn't answered within the limit; it is left to itself then, and until it
+    // answers or goes there is no place for anybody in this process. As long as a place of this process at a server
+    // that has gone is in use there is no new one. At the end of its last user the place is given up; a server that
+    // hangs is not waited for.
+    static std::shared_ptr<JackServer> connect(const std::string& clientName,
+                                               std::chrono::milliseconds limit = CONNECT_LIMIT);
 
     JackServer(const JackServer&) = delete;
     JackServer& operator=(const JackServer&) = delete;
@@ -34,21 +40,26 @@ public:
     // [any] The name that the desk has there, which no other one has.
     const std::string& name() const { return m_name; }
 
-    // [any] The ports of all other programs. One that went and came back since the desk opened it is left out until the
-    // desk has closed it: it is another one of the same name, to which nothing is connected.
+    // [any] The ports of all other programs. Those with which another desk of the same client name reaches a port are
+    // left out: two desks would take them for new ports for ever. One that went and came back since the desk opened it
+    // is left out until the desk has closed it: it is another one of the same name, to which nothing is connected.
     MidiPortIds list();
 
-    // [any] A port of the desk under a name of its own, connected to another program's unless that is empty text. Null
-    // if there is no such other port.
-    std::unique_ptr<OpenMidiPort> openInput(const std::string& name, const std::string& from, MidiReceiver receiver);
-    std::unique_ptr<OpenMidiPort> openOutput(const std::string& name, const std::string& to);
+    // [any] A port of the desk that is connected to this one of another program. Null if there is no such other port.
+    std::unique_ptr<OpenMidiPort> openInput(const std::string& from, MidiReceiver receiver);
+    std::unique_ptr<OpenMidiPort> openOutput(const std::string& to);
+
+    // [any] A port of the desk for other programs to connect to. Null if there can't be one.
+    std::unique_ptr<OpenMidiPort> openVirtualInput(const std::string& name, MidiReceiver receiver);
+    std::unique_ptr<OpenMidiPort> openVirtualOutput(const std::string& name);
 
 private:
     struct Slot;
     class Port;
 
-    JackServer(jack_client_t* client, std::string name);
+    JackServer(jack_client_t* client, std::string clientName, std::string name);
     ~JackServer();
+    static std::shared_ptr<JackServer> openPlace(const std::string& clientName);
     static void leave(JackServer* place);
 
     static int processCallback(std::uint32_t frames, void* self);
@@ -64,12 +75,14 @@ private:
                                        bool isInput);
     bool waitForCycles(std::uint32_t count) const;
     std::vector<std::string> otherPorts(unsigned long flags);
+    bool isOfADesk(const std::string& port) const;
     void findReplaced();
     bool isReplaced(const std::string& other) const;
 
     static constexpr std::size_t MAX_SLOTS = 512;
 
     jack_client_t* m_client;
+    const std::string m_clientName;  // That of all desks, without a number.
     const std::string m_name;
     std::atomic<bool> m_isAlive{true};
     std::atomic<std::uint32_t> m_cycles{0};  // How often the server has had the ports processed; wraps.

@@ -49,14 +49,14 @@ MidiPortIds PosixMidiSystem::list() {
 std::unique_ptr<OpenMidiPort> PosixMidiSystem::openInput(const MidiPortId& id, MidiReceiver receiver) {
     const Place now = place();
     if (now.jack)
-        return now.jack->openInput("from " + id.name, id.name, std::move(receiver));
+        return now.jack->openInput(id.name, std::move(receiver));
     return now.isAlsa ? AlsaPorts::openInput(m_clientName, id, std::move(receiver)) : nullptr;
 }
 
 std::unique_ptr<OpenMidiPort> PosixMidiSystem::openOutput(const MidiPortId& id) {
     const Place now = place();
     if (now.jack)
-        return now.jack->openOutput("to " + id.name, id.name);
+        return now.jack->openOutput(id.name);
     return now.isAlsa ? AlsaPorts::openOutput(m_clientName, id) : nullptr;
 }
 
@@ -68,14 +68,14 @@ bool PosixMidiSystem::hasVirtualPorts() {
 std::unique_ptr<OpenMidiPort> PosixMidiSystem::openVirtualInput(const std::string& name, MidiReceiver receiver) {
     const Place now = place();
     if (now.jack)
-        return now.jack->openInput(name + " in", {}, std::move(receiver));
+        return now.jack->openVirtualInput(name, std::move(receiver));
     return now.isAlsa ? AlsaPorts::openVirtualInput(m_clientName, name, std::move(receiver)) : nullptr;
 }
 
 std::unique_ptr<OpenMidiPort> PosixMidiSystem::openVirtualOutput(const std::string& name) {
     const Place now = place();
     if (now.jack)
-        return now.jack->openOutput(name + " out", {});
+        return now.jack->openVirtualOutput(name);
     return now.isAlsa ? AlsaPorts::openVirtualOutput(m_clientName, name) : nullptr;
 }
 

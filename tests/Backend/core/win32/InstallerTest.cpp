@@ -134,6 +134,13 @@ TEST_F(InstallerTest, UninstallLeavesThePortToTheOtherEdition) {
     EXPECT_EQ(get(DRIVERS).size(), 1u);
 }
 
+TEST_F(InstallerTest, UninstallAsksForTheOtherEditionWithoutATrace) {
+    EXPECT_EQ(uninstall(), 0);
+    HKEY key = nullptr;
+    EXPECT_NE(RegOpenKeyExA(HKEY_CURRENT_USER, MirelUtils::getMainRegistryKey().c_str(), 0, KEY_READ, &key),
+              ERROR_SUCCESS);
+}
+
 TEST_F(InstallerTest, BlankFolderOfTheOtherEditionDoesNotCount) {
     set(HKEY_LOCAL_MACHINE, DRIVERS, {{"midi2", "mirelmidiport.dll"}});
     set(HKEY_CURRENT_USER, MirelUtils::getMainRegistryKey().c_str(), {{"ProgDir", "  "}});

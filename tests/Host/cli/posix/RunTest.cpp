@@ -71,7 +71,8 @@ protected:
     // Starts the program and waits until it plays.
     ChildProcess& run(const std::vector<std::string>& options,
                       ChildProcess::Streams streams = ChildProcess::Streams::PIPE) {
-        std::vector<std::string> words = {MIREL_PROGRAM, "run", "--data", m_folder.path()};
+        std::vector<std::string> words = m_shell;
+        words.insert(words.end(), {MIREL_PROGRAM, "run", "--data", m_folder.path()});
         words.insert(words.end(), options.begin(), options.end());
         m_program.emplace(words, std::map<std::string, std::string>(), streams);
         EXPECT_TRUE(eventually(
@@ -156,6 +157,7 @@ protected:
 
     static bool runs(const std::string& command) { return std::system(command.c_str()) == 0; }
 
+    std::vector<std::string> m_shell;  // What starts the program; empty: this process.
     const TestSupport::TemporaryFolder m_folder;
     const std::string m_bank = m_folder.file("test.bnk");
     JackTestServer m_server;
@@ -195,7 +197,7 @@ TEST_F(RunTest, RecordHoldsWhatCameOut) {
 
 TEST_F(RunTest, NotesEndWhenTheProgramIsAskedToEnd) {
     startServer();
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+    for (const int signal : {SIGINT, SIGQUIT, SIGTERM, SIGHUP}) {
         runWithPlayer({});
         for (const std::uint8_t note : Bytes{60, 64, 67})
             m_player->send({0x90, note, 100});
@@ -278,17 +280,16 @@ TEST_F(RunTest, PortThatComesBackIsUsedAgain) {
     expectHeard({"90 3e 64", "92 4a 64", "80 3e 40", "82 4a 40"});
 }
 
-TEST_F(RunTest, SecondRunKeepsThePorts) {
+TEST_F(RunTest, PortsOfOneRunAreNotThoseOfTheNext) {
     startServer();
     JackTestClient other("another");
     runWithPlayer({});
+    EXPECT_EQ(other.inputConnections() + other.outputConnections(), 0);
     EXPECT_EQ(endBy(SIGTERM), 0);
     run({"--bank", m_bank});
-    synchronize();
     EXPECT_NE(m_program->output().find("listens to player:out\n"), std::string::npos) << m_program->output();
-    EXPECT_NE(m_program->output().find("plays to player:in\n"), std::string::npos) << m_program->output();
-    EXPECT_EQ(m_program->output().find("another"), std::string::npos) << m_program->output();
-    EXPECT_EQ(other.inputConnections() + other.outputConnections(), 0);
+    EXPECT_NE(m_program->output().find("listens to another:out\n"), std::string::npos) << m_program->output();
+    EXPECT_TRUE(eventually([&other] { return other.inputConnections() + other.outputConnections() == 2; }));
 }
 
 TEST_F(RunTest, CharactersOfATerminalPlayAndRelease) {
@@ -316,6 +317,62 @@ TEST_F(RunTest, TerminalThatTellsReleasesHoldsNotes) {
     ASSERT_TRUE(isHeard("82 4a 64"));
     program.type("\x1b[99;5:1u");
     EXPECT_EQ(program.waitForExit(), 0) << program.output();
+}
+
+TEST_F(RunTest, QuitOfATerminalEndsNotesAndGivesItBack) {
+    startServer();
+    for (const bool tellsKeys : {false, true}) {
+        ChildProcess& program = runWithPlayer({"--keys"}, ChildProcess::Streams::TERMINAL);
+        ASSERT_TRUE(eventually([&] { return program.output().find("\x1b[?u") != std::string::npos; }));
+        program.type("\x1b[?11u\x1b[113;1:1u");
+        ASSERT_TRUE(isHeard("92 48 64"));
+        program.type(tellsKeys ? "\x1b[92;5:1u" : "\x1c");
+        EXPECT_EQ(program.waitForExit(), 0) << program.output();
+        EXPECT_NE(program.output().find("\x1b[<u"), std::string::npos) << "the terminal is as it was";
+        EXPECT_TRUE(isHeard("80 3c 40")) << tellsKeys;
+        EXPECT_TRUE(isHeard("82 48 40")) << tellsKeys;
+    }
+}
+
+TEST_F(RunTest, PauseEndsNotesAndGivesTheTerminalBackUntilItIsOver) {
+    startServer();
+    // Only a shell can have a program that pauses go on.
+    m_shell = {"bash", "-c", R"(set -m; "$0" "$@"; echo paused; stty -a; read -r; fg; echo ended $?)"};
+    for (const bool tellsKeys : {false, true}) {
+        ChildProcess& program = runWithPlayer({"--keys"}, ChildProcess::Streams::TERMINAL);
+        const auto asks = [&program](int times) {
+            std::size_t place = 0;
+            for (int i = 0; i < times && place != std::string::npos; ++i)
+                place = program.output().find("\x1b[?u", place == 0 ? 0 : place + 1);
+            return place != std::string::npos;
+        };
+        ASSERT_TRUE(eventually([&] { return asks(1); }));
+        program.type("\x1b[?11u\x1b[113;1:1u");
+        ASSERT_TRUE(isHeard("92 48 64"));
+        program.type(tellsKeys ? "\x1b[122;5:1u" : "\x1a");
+        ASSERT_TRUE(eventually([&] { return program.output().find(" icanon") != std::string::npos; }))
+            << program.output();
+        EXPECT_NE(program.output().find("\x1b[<u"), std::string::npos) << program.output();
+        EXPECT_TRUE(isHeard("80 3c 64")) << tellsKeys;
+        EXPECT_TRUE(isHeard("82 48 64")) << tellsKeys;
+        program.type("\n");
+        ASSERT_TRUE(eventually([&] { return asks(2); })) << program.output();
+        // Without a line's end, so not from a terminal that edits lines.
+        program.type("\x1b[?11u\x1b[119;1:1u");
+        EXPECT_TRUE(isHeard("92 4a 64")) << program.output();
+        program.type("\x03");
+        EXPECT_EQ(program.waitForExit(), 0);
+        EXPECT_NE(program.output().find("ended 0"), std::string::npos) << program.output();
+    }
+}
+
+TEST_F(RunTest, TerminalThatTellsLittleHoldsNoNotes) {
+    startServer();
+    ChildProcess& program = runWithPlayer({"--keys"}, ChildProcess::Streams::TERMINAL);
+    ASSERT_TRUE(eventually([&] { return program.output().find("\x1b[?u") != std::string::npos; }));
+    program.type("\x1b[?1u");
+    program.type("q");
+    expectHeard({"90 3c 64", "92 48 64", "80 3c 64", "82 48 64"});
 }
 
 TEST_F(RunTest, SongPlaysThroughTheDeskWhichThenEnds) {
@@ -349,6 +406,29 @@ Sequence eventsOfDump(const std::string& output) {
             events.push_back(bytes[0] + " " + bytes[1] + " " + bytes[2]);
     }
     return events;
+}
+
+TEST_F(RunTest, ServerThatHangsAtTheStartHoldsUpNothing) {
+    ASSERT_TRUE(m_server.start()) << m_server.process()->output();
+    m_server.process()->suspend(true);
+    run({"--bank", m_bank});
+    EXPECT_NE(m_program->output().find(PLAYS), std::string::npos) << m_program->output();
+    EXPECT_EQ(endBy(SIGINT), 0) << m_program->output();
+    ChildProcess ports({MIREL_PROGRAM, "ports", "--data", m_folder.path()});
+    EXPECT_EQ(ports.waitForExit(), 0) << ports.output();
+    EXPECT_NE(ports.output().find("outputs:"), std::string::npos) << ports.output();
+}
+
+TEST_F(RunTest, ServerThatHangsAtTheEndIsTold) {
+    // A server that waits for its clients hangs on those that end without a word.
+    ASSERT_TRUE(m_server.start(JackTestServer::Cycles::IN_TIME)) << m_server.process()->output();
+    m_player.emplace("player");
+    runWithPlayer({});
+    m_server.process()->suspend(true);
+    EXPECT_EQ(endBy(SIGINT), 0) << m_program->output();
+    EXPECT_NE(m_program->output().find("mirel run: a port hung and was left behind\n"), std::string::npos)
+        << m_program->output();
+    m_server.process()->suspend(false);
 }
 
 TEST_F(RunTest, VirtualPortsStandBetweenOtherPrograms) {

@@ -3,6 +3,7 @@
 #include "Host/common/PortPlayer.h"
 #include "Host/common/posix/JackServer.h"
 #include "tests/Host/common/posix/ChildProcess.h"
+#include "tests/Host/common/posix/JackTestClient.h"
 #include "tests/Host/common/posix/JackTestServer.h"
 #include "tests/support/Eventually.h"
 
@@ -37,7 +38,9 @@ protected:
 
     // The server goes on without a client that is late, and what that one should have heard in the meantime is lost: on
     // a busy computer an event must be played more than once.
-    void startServer() { ASSERT_TRUE(m_server.start()) << m_server.process()->output(); }
+    void startServer(JackTestServer::Cycles cycles = JackTestServer::Cycles::IN_TIME) {
+        ASSERT_TRUE(m_server.start(cycles)) << m_server.process()->output();
+    }
 
     ChildProcess& server() { return *m_server.process(); }
 
@@ -249,6 +252,44 @@ TEST_F(JackTest, SecondDeskHasANameOfItsOwnAndSeesTheFirst) {
     EXPECT_TRUE(eventually([&] { return contains(first->list().inputs, "Mirel 2:Notes out"); }));
 }
 
+TEST_F(JackTest, DesksDoNotTakeEachOthersConnectionsForPorts) {
+    startServer();
+    startMonitor();
+    startSequencer();
+    MidiPorts& ports = startPorts(DESK);
+    ASSERT_TRUE(hasInput("Mirel:to midi-monitor input") && hasOutput("Mirel:from Seq out"));
+    MidiPorts second(createMidiSystem(DESK), MidiPorts::Options{std::string(), DESK}, [](const MirelMidiMessage&) {});
+    second.update();
+    ASSERT_TRUE(eventually([&second] { return second.isIdle(); }));
+    ASSERT_TRUE(hasInput("Mirel 2:to midi-monitor input") && hasOutput("Mirel 2:from Seq out"));
+    const auto isConnection = [](const PortRow& row) {
+        return row.id.name.find(":to ") != std::string::npos || row.id.name.find(":from ") != std::string::npos;
+    };
+    // Each would make a new connection to the last one of the other at every look.
+    for (int look = 0; look < 3; ++look) {
+        update();
+        second.update();
+        ASSERT_TRUE(eventually([&second] { return second.isIdle(); }));
+    }
+    for (const std::vector<PortRow>& rows : {ports.inputs(), ports.outputs(), second.inputs(), second.outputs()})
+        for (const PortRow& row : rows)
+            EXPECT_FALSE(isConnection(row)) << row.id.name;
+    EXPECT_GE(find(ports.inputs(), "Mirel 2:Mirel out"), 0);
+    EXPECT_GE(find(second.outputs(), "Mirel:Mirel in"), 0);
+}
+
+TEST_F(JackTest, OnlyTheConnectionsOfDesksAreLeftOut) {
+    startServer();
+    const auto system = createMidiSystem(DESK);
+    const JackTestClient other("Mirelle");
+    EXPECT_TRUE(contains(system->list().inputs, "Mirelle:out"));
+    const auto organ = JackServer::connect("Mirel Organ");
+    ASSERT_NE(organ, nullptr);
+    const auto port = organ->openOutput(other.input());
+    ASSERT_NE(port, nullptr);
+    EXPECT_TRUE(contains(system->list().inputs, "Mirel Organ:to Mirelle in"));
+}
+
 TEST_F(JackTest, DeskSurvivesTheEndOfTheServerAndFindsTheNextOne) {
     startServer();
     ChildProcess& first = startMonitor();
@@ -272,6 +313,41 @@ TEST_F(JackTest, DeskSurvivesTheEndOfTheServerAndFindsTheNextOne) {
         return find(ports.outputs(), MONITOR) == output;
     }));
     EXPECT_TRUE(playUntilPrinted(output, 0x0b07b3, monitor, "b3 07 0b")) << monitor.output();
+}
+
+TEST_F(JackTest, EndsOfNotesWaitForAServerThatHangs) {
+    startServer(JackTestServer::Cycles::COMPLETE);  // What is played once must be heard.
+    const JackTestClient synth("synth");
+    MidiPorts& ports = startPorts();
+    const int output = find(ports.outputs(), synth.input());
+    ASSERT_GE(output, 0);
+    const auto isHeard = [&synth](const std::vector<std::uint8_t>& bytes) {
+        return eventually([&] {
+            const auto events = synth.heard();
+            return std::any_of(events.begin(), events.end(), [&](const auto& event) { return event.bytes == bytes; });
+        });
+    };
+    ASSERT_TRUE(playUntilTaken(output, 0x643c91));
+    ASSERT_TRUE(isHeard({0x91, 60, 100}));
+    server().suspend(true);
+    EXPECT_FALSE(ports.close()) << "who closes is told";
+    server().suspend(false);
+    EXPECT_TRUE(isHeard({0x81, 60, 64}));
+}
+
+TEST_F(JackTest, ServerThatHangsFromTheBeginningIsDoneWithout) {
+    startServer();
+    startMonitor();
+    server().suspend(true);
+    MidiPorts& ports = startPorts();
+    EXPECT_EQ(find(ports.outputs(), MONITOR), -1);
+    EXPECT_GE(find(ports.outputs(), Recorder::NAME), 0);
+    EXPECT_EQ(JackServer::connect("late"), nullptr) << "nobody waits for the same server twice";
+    server().suspend(false);
+    EXPECT_TRUE(eventually([&] {
+        update();
+        return find(ports.outputs(), MONITOR) >= 0;
+    }));
 }
 
 TEST_F(JackTest, ServerThatHangsHoldsUpNeitherTheSlicesNorTheEnd) {
