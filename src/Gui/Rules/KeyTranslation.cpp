@@ -4,14 +4,12 @@ namespace Gui {
 
 std::int32_t translateKeyCode(std::uint32_t virtualKey, bool isExtended) {
     switch (virtualKey) {
-    case VirtualKeys::CONTROL:
-        return isExtended ? Key::RIGHT_CONTROL : static_cast<std::int32_t>(VirtualKeys::CONTROL);
-    case VirtualKeys::ALT:
-        return static_cast<std::int32_t>(isExtended ? VirtualKeys::RIGHT_ALT : VirtualKeys::LEFT_ALT);
-    case VirtualKeys::ENTER:
-        return isExtended ? Key::NUMPAD_ENTER : static_cast<std::int32_t>(VirtualKeys::ENTER);
-    default:
-        return static_cast<std::int32_t>(virtualKey);
+        case VirtualKeys::CONTROL:
+            return isExtended ? Key::RIGHT_CONTROL : static_cast<std::int32_t>(VirtualKeys::CONTROL);
+        case VirtualKeys::ALT:
+            return static_cast<std::int32_t>(isExtended ? VirtualKeys::RIGHT_ALT : VirtualKeys::LEFT_ALT);
+        case VirtualKeys::ENTER: return isExtended ? Key::NUMPAD_ENTER : static_cast<std::int32_t>(VirtualKeys::ENTER);
+        default: return static_cast<std::int32_t>(virtualKey);
     }
 }
 

@@ -57,7 +57,7 @@ struct ModifierRow {
 
 TEST(KeyTranslation, AModifierDoesNotModifyItselfWhenItGoesDown) {
     constexpr ModifierRow ROWS[] = {
-        {17, false, 1 + 4 + 8}, {17, true, 1 + 4 + 8}, {18, false, 1 + 2 + 8},
+        {17, false, 1 + 4 + 8}, {17, true, 1 + 4 + 8},  {18, false, 1 + 2 + 8},
         {18, true, 1 + 2 + 8},  {16, false, 2 + 4 + 8}, {91, false, 15},
     };
     constexpr KeyModifiers ALL{true, true, true, true};
