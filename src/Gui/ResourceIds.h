@@ -3,3 +3,13 @@
 
 // The red cursor of a value that follows the mouse without a button.
 #define IDC_RED_CURSOR 119
+
+// Waiting for work to end.
+#define IDD_WORK 213
+
+// Asking for a line of text.
+#define IDD_TEXT_PROMPT 240
+#define IDC_PROMPT 1060
+
+// The text of both.
+#define IDC_DIALOG_TEXT 1059
