@@ -303,3 +303,13 @@
 #define IDC_SHOW_ZONE 1015
 #define IDC_KEYBOARD_MARKER 1016
 #define IDC_SHOW_CC 1075
+
+// Waiting for work to end.
+#define IDD_WORK 213
+
+// Asking for a line of text.
+#define IDD_TEXT_PROMPT 240
+#define IDC_PROMPT 1060
+
+// The text of both.
+#define IDC_DIALOG_TEXT 1059

@@ -20,13 +20,13 @@ public:
     void clearHilight() { m_counts = {}; }
 
     // How often a note was begun and not ended; 0 for what is no note.
-    int getCount(Note note) const { return note.isValid() ? m_counts[note.getValue()] : 0; }
+    int getCount(Note note) const { return note.isNote() ? m_counts[note.getNumber()] : 0; }
 
 private:
     void change(Note note, int difference) {
-        if (!note.isValid())
+        if (!note.isNote())
             return;
-        int& count = m_counts[note.getValue()];
+        int& count = m_counts[note.getNumber()];
         if (count + difference >= 0)
             count += difference;
     }
