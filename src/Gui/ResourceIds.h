@@ -278,3 +278,13 @@
 #define HELP_LAYER_NOTE_TOGGLE_OFF 5447
 #define HELP_LAYER_NOTE_TOGGLE_1 5448
 #define HELP_LAYER_NOTE_TOGGLE_2 5449
+
+// Waiting for work to end.
+#define IDD_WORK 213
+
+// Asking for a line of text.
+#define IDD_TEXT_PROMPT 240
+#define IDC_PROMPT 1060
+
+// The text of both.
+#define IDC_DIALOG_TEXT 1059

@@ -63,7 +63,7 @@ protected:
 private:
     static LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     static void registerClassOnce(HINSTANCE module);
-    LRESULT wndProc(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void handleLeftButtonUp();
     void paint();
     HFONT fontFor(int width, int height) const;
@@ -79,6 +79,7 @@ private:
     bool m_isToggle;
     Rect m_rect;
     const WindowsLib::Font* m_font = nullptr;
+    HFONT m_defaultFont = nullptr;  // The dialog's, if it came from one.
     bool m_reportOnRelease;
 };
 

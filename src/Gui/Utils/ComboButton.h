@@ -21,8 +21,9 @@ public:
     ComboButton& operator=(const ComboButton&) = delete;
     ~ComboButton();
 
-    // Takes the place of a static control, with its id, position, size and caption, and destroys it.
-    void create(HWND placeholder);
+    // Takes the place of a static control, with its position, size and caption, and destroys it. Also with its id,
+    // unless another is given.
+    void create(HWND placeholder, int id = 0);
 
     int getSelected() const { return m_selected; }
 
@@ -34,7 +35,8 @@ public:
 
 private:
     static LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT wndProc(UINT message, WPARAM wParam, LPARAM lParam);
+    static void registerClassOnce(HINSTANCE module);
+    LRESULT wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void handleLeftButtonDown();
     void paint();
 

@@ -1,7 +1,8 @@
 #include "Gui/Utils/Panel.h"
 
 #include "Backend/core/Trace.h"
-#include "Gui/Utils/WindowProperties.h"
+#include "Gui/Utils/WindowClass.h"
+#include "Gui/Utils/WindowProcedure.h"
 
 #include <algorithm>
 #include <string>
@@ -34,25 +35,16 @@ int heightOf(HWND window) {
 }
 
 void registerClassOnce(HINSTANCE module, WNDPROC procedure) {
-    static bool registered = false;
-    if (registered)
-        return;
-    WNDCLASSEXA windowClass{};
-    windowClass.cbSize = sizeof windowClass;
-    windowClass.lpfnWndProc = procedure;
-    windowClass.hInstance = module;
-    windowClass.hCursor = LoadCursorA(nullptr, IDC_ARROW);
-    windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
-    windowClass.lpszClassName = CLASS_NAME;
-    registered = RegisterClassExA(&windowClass) != 0;
+    static const bool registered =
+        registerWindowClass(CLASS_NAME, module, procedure, reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1));
+    static_cast<void>(registered);
 }
 
 }
 
 Panel::~Panel() {
     // A window that outlives its panel hears nobody from here on.
-    if (m_windowHandle && getObject<Panel>(m_windowHandle, "PanelPtr") == this)
-        RemovePropA(m_windowHandle, "PanelPtr");
+    forget(m_windowHandle, "PanelPtr", this);
 }
 
 void Panel::createWnd(HINSTANCE module, HWND parentWindow) {
@@ -304,12 +296,14 @@ Panel* Panel::ownerOf(HWND window, UINT message, UINT creation, const void* self
 LRESULT CALLBACK Panel::windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const void* self = message == WM_CREATE ? reinterpret_cast<CREATESTRUCTA*>(lParam)->lpCreateParams : nullptr;
     Panel* const panel = ownerOf(window, message, WM_CREATE, self);
-    return panel ? panel->wndProc(window, message, wParam, lParam) : DefWindowProcA(window, message, wParam, lParam);
+    if (!panel)
+        return DefWindowProcA(window, message, wParam, lParam);
+    return withoutExceptions([&] { return panel->wndProc(window, message, wParam, lParam); });
 }
 
 INT_PTR CALLBACK Panel::dialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     Panel* const panel = ownerOf(window, message, WM_INITDIALOG, reinterpret_cast<const void*>(lParam));
-    return panel ? panel->dlgProc(window, message, wParam, lParam) : 0;
+    return panel ? withoutExceptions([&] { return panel->dlgProc(window, message, wParam, lParam); }) : 0;
 }
 
 }

@@ -45,18 +45,19 @@ public:
     static Colours standardColours(MirelGuiIF& gui);
 
     static constexpr int DIAMETER = 21;
-    static constexpr int WIDTH = DIAMETER + 85;
+    static constexpr int KNOB_LEFT = 85;
+    static constexpr int WIDTH = DIAMETER + KNOB_LEFT;
     static constexpr int HEIGHT = 21;
 
-    // dialog: the skinned panel around it, known by createWnd. The listener may be null.
+    // The listener may be null.
     TimeIntervalCtl(MirelGuiIF& gui, Listener* listener);
     TimeIntervalCtl(const TimeIntervalCtl&) = delete;
     TimeIntervalCtl& operator=(const TimeIntervalCtl&) = delete;
     ~TimeIntervalCtl();
 
-    // Takes the place of a static control of a skinned panel, with its id, corner and caption, and destroys it.
-    void create(HWND placeholder);
-    void create(HWND placeholder, Colours colours);
+    // Takes the place of a static control of a skinned panel, with its corner and caption, and destroys it. Also with
+    // its id, unless another is given.
+    void create(HWND placeholder, const Colours& colours, int id = 0);
 
     // The limits of the value, in ppq, at least 1 each; 20 and 30720 at first. The value is cut to them.
     void setRange(std::int32_t min, std::int32_t max);
@@ -84,17 +85,18 @@ public:
 
 private:
     static LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT wndProc(UINT message, WPARAM wParam, LPARAM lParam);
+    static void registerClassOnce(HINSTANCE module);
+    LRESULT wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     // Painting.
-    void paint();
-    void paintAll(HDC dc);
-    void paintKnob(HDC dc);
-    void paintBox(HDC dc, const RECT& box, const WindowsLib::Brush& frame, const WindowsLib::Brush& fill);
-    void paintText(HDC dc, RECT box, HFONT font, COLORREF colour, const std::string& text);
-    COLORREF valueColour(bool enabled) const;
+    void paint() const;
+    void paintAll(HDC dc) const;
+    void paintKnob(HDC dc) const;
+    void paintValueBox(HDC dc) const;
+    void paintTypeBox(HDC dc) const;
     bool isEnabled() const;
-    void redraw();
+    void redraw() const;
+    TimeIntervalScale::Range range() const { return {m_min, m_max}; }
 
     RECT knobSquare() const;
     RECT valueBox() const;
@@ -104,6 +106,8 @@ private:
     // Mouse.
     void handleLeftButtonDown(POINT point);
     void handleMiddleButtonDown(POINT point);
+    void handleLeftButtonUp();
+    void handleCaptureChanged(HWND capturer);
     bool endLock();
     bool startLock(POINT point);
     void drag(int y);
@@ -112,9 +116,12 @@ private:
     // The value's field and menu.
     void openValue();
     void openEdit();
+    HBRUSH colourEdit(HDC dc) const;
     void openMenu();
     void editEnded(bool taken, std::int32_t value, bool byKey) override;
+    void handleTimer(WPARAM timer);
     void flipType();
+    int chooseFromMenu();
 
     MirelGuiIF* m_gui;
     HWND m_dialog = nullptr;
