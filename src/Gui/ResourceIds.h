@@ -303,7 +303,6 @@
 #define IDC_SHOW_ZONE 1015
 #define IDC_KEYBOARD_MARKER 1016
 #define IDC_SHOW_CC 1075
-
 // Waiting for work to end.
 #define IDD_WORK 213
 
