@@ -45,6 +45,10 @@ void LayerGuiMessageManager::handleMessage(unsigned int message, WPARAM wParam, 
         case MUTE_CHANGED: setFlag(&Layer::mute); break;
         case MONO_CHANGED: setFlag(&Layer::mono); break;
         case SOLO_CHANGED: setFlag(&Layer::solo); break;
+        case TOGGLE_CHANGED:
+            if (layer)
+                layer->toggle = NoteToggle(static_cast<NoteToggle::State>(lParam));
+            break;
         default: break;
     }
 }
