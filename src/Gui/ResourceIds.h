@@ -279,6 +279,30 @@
 #define HELP_LAYER_NOTE_TOGGLE_1 5448
 #define HELP_LAYER_NOTE_TOGGLE_2 5449
 
+// The small window that stays when all screens are hidden.
+#define IDC_FOCUS 116
+#define IDC_MAIN_RESET 117
+#define IDC_MAIN_THRU 118
+#define IDC_MAIN_GLOBAL_KEY 119
+
+// Dialogs of the output, zone, layer, control and computer input screens.
+#define IDD_CONTROL_MAIN 104
+#define IDD_ZONE_MAIN 110
+#define IDD_KEY_MAIN_SETTINGS 111
+#define IDD_CC 142
+#define IDD_COMPUTER_INPUT_MAIN 145
+#define IDD_CONTROL_SETTINGS 155
+#define IDD_LAYER_MAIN 183
+#define IDD_KEY_DOWN_FUNCTION 184
+#define IDD_KEY_UP_FUNCTION 185
+#define IDD_LAYER_SETTINGS 198
+#define IDD_MUSIC_KEYBOARD 238
+
+// The music keyboard's panel.
+#define IDC_SHOW_LAYER 1014
+#define IDC_SHOW_ZONE 1015
+#define IDC_KEYBOARD_MARKER 1016
+#define IDC_SHOW_CC 1075
 // Waiting for work to end.
 #define IDD_WORK 213
 

@@ -87,10 +87,11 @@ TEST(MetalFrame, CoversTheBorderAndLeavesTheDeskOut) {
     for (int y = 0; y < picture.height; ++y)
         for (int x = 0; x < picture.width; ++x) {
             const FramePart part = layout.partAt(x, y);
-            if (part == FramePart::desk)
+            if (part == FramePart::desk) {
                 ASSERT_EQ(picture.at(x, y), 0u) << x << ' ' << y;
-            else if (part == FramePart::caption)
+            } else if (part == FramePart::caption) {
                 ASSERT_TRUE(isMetal(picture.at(x, y))) << x << ' ' << y << std::hex << picture.at(x, y);
+            }
         }
 }
 
@@ -114,8 +115,9 @@ TEST(MetalFrame, LightsTheButtonUnderTheMouse) {
     const Picture lit = renderMetalFrame(layout, look);
     for (int y = 0; y < lit.height; ++y)
         for (int x = 0; x < lit.width; ++x)
-            if (layout.partAt(x, y) != FramePart::close)
+            if (layout.partAt(x, y) != FramePart::close) {
                 ASSERT_EQ(lit.at(x, y), dark.at(x, y));
+            }
     const int x = layout.close().left + 7;
     const int y = layout.close().top + 4;
     EXPECT_GT(lit.at(x, y) >> 16, (lit.at(x, y) & 0xff) + 40);  // Red.
