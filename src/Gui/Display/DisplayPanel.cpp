@@ -24,9 +24,9 @@ constexpr const char* OBJECT = "DisplayPanel";
 constexpr const char* PROCEDURE = "ORIG_PROC";
 constexpr UINT_PTR TIMER = 0;
 constexpr UINT TIMER_MILLISECONDS = 100;
-constexpr int GRIP_HEIGHT = 20;       // The part of the text at its bottom that resizes, in pixels.
-constexpr int LINE_HEIGHT = 5;        // Of the line that shows where the edge goes.
-constexpr int HIDDEN_EDGE = 6;        // What the text's edges above and below lie outside the panel, together.
+constexpr int GRIP_HEIGHT = 20;  // The part of the text at its bottom that resizes, in pixels.
+constexpr int LINE_HEIGHT = 5;   // Of the line that shows where the edge goes.
+constexpr int HIDDEN_EDGE = 6;   // What the text's edges above and below lie outside the panel, together.
 constexpr int BEYOND_THE_END = 30001;
 constexpr std::array<int, 4> COLUMNS = {90, 110, 165, 245};  // In dialog units.
 

@@ -1,8 +1,8 @@
 #include "Gui/Help/HelpPanel.h"
 
 #include "Backend/core/MirelUtils.h"
-#include "Gui/MirelGuiIF.h"
 #include "Gui/Help/ModuleTime.h"
+#include "Gui/MirelGuiIF.h"
 #include "Gui/ResourceIds.h"
 #include "Gui/Rules/AboutText.h"
 #include "Gui/Utils/GdiManager.h"

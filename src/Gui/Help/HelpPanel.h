@@ -12,7 +12,7 @@
 namespace Gui::Help {
 
 // Tells about whatever is under the pointer, and about the product. [gui]
-class HelpPanel : public SkinPanel, private Button::Listener {
+class HelpPanel : public SkinPanel, public Button::Listener {
 public:
     explicit HelpPanel(MirelGuiIF& gui);
 

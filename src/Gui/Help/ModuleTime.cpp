@@ -13,8 +13,7 @@ constexpr DWORD MAX_MODULE_PATH = 4096;
 std::optional<BuildTime> toLocalTime(const FILETIME& written) {
     SYSTEMTIME universal{};
     SYSTEMTIME local{};
-    if (!FileTimeToSystemTime(&written, &universal) ||
-        !SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local))
+    if (!FileTimeToSystemTime(&written, &universal) || !SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local))
         return std::nullopt;
     return BuildTime{local.wYear, local.wMonth, local.wDay, local.wHour, local.wMinute, local.wSecond};
 }
@@ -34,7 +33,8 @@ std::optional<BuildTime> getFileTime(const char* path) {
 
 std::optional<BuildTime> getModuleTime() {
     std::array<char, MAX_MODULE_PATH> path{};
-    const DWORD length = GetModuleFileNameA(static_cast<HMODULE>(Platform::getModuleInstance()), path.data(), MAX_MODULE_PATH);
+    const DWORD length =
+        GetModuleFileNameA(static_cast<HMODULE>(Platform::getModuleInstance()), path.data(), MAX_MODULE_PATH);
     return length > 0 && length < MAX_MODULE_PATH ? getFileTime(path.data()) : std::nullopt;
 }
 

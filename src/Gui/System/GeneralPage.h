@@ -12,7 +12,8 @@ namespace Gui::System {
 class GeneralPage : public SetupPage {
 public:
     // Settings of the host's window that are not offered keep their values.
-    GeneralPage(MirelGuiIF& gui, Backend::RegistrySettings& settings, bool offersAlwaysOnTop, bool offersMetallicBorder);
+    GeneralPage(MirelGuiIF& gui, Backend::RegistrySettings& settings, bool offersAlwaysOnTop,
+                bool offersMetallicBorder);
 
 private:
     void initialize() override;

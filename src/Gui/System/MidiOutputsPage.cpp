@@ -19,8 +19,7 @@ constexpr int COLUMN_WIDTH = 220;
 constexpr UINT UNCHECKED_IMAGE = 1;
 constexpr UINT CHECKED_IMAGE = 2;
 constexpr const char* LOOP_TITLE = "Invalid entry";
-constexpr const char* LOOP_TEXT =
-    "Invalid MIDI loopback port settings. Cannot enable input and output simultaneously.";
+constexpr const char* LOOP_TEXT = "Invalid MIDI loopback port settings. Cannot enable input and output simultaneously.";
 
 }
 

@@ -15,7 +15,7 @@ namespace Gui::System {
 
 // The strip at the top of the window: the default output, and the buttons for the screens, the setup, a reset and the
 // global keyboard. What it shows follows the window's copies of the desk's state when it is told to refresh. [gui]
-class SystemPanel : public SkinPanel, private Button::Listener {
+class SystemPanel : public SkinPanel, public Button::Listener {
 public:
     explicit SystemPanel(MirelGuiIF& gui);
 
