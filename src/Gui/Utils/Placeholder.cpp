@@ -1,5 +1,7 @@
 #include "Gui/Utils/Placeholder.h"
 
+#include "Gui/Utils/WindowText.h"
+
 namespace Gui {
 
 Placeholder::Placeholder(HWND placeholder)
@@ -22,13 +24,6 @@ HWND Placeholder::replace(const char* windowClass, HINSTANCE module, void* objec
         SetWindowPos(result, window, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     DestroyWindow(window);
     return result;
-}
-
-std::string getWindowText(HWND window) {
-    std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window)), '\0');
-    // The length may count more than there is.
-    text.resize(static_cast<std::size_t>(GetWindowTextA(window, text.data(), static_cast<int>(text.size()) + 1)));
-    return text;
 }
 
 }

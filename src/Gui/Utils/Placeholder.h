@@ -24,7 +24,4 @@ struct Placeholder {
     std::string caption;
 };
 
-// [gui] The words of a window.
-std::string getWindowText(HWND window);
-
 }

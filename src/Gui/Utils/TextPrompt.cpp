@@ -3,8 +3,8 @@
 #include "Backend/core/Text.h"
 #include "Gui/ResourceIds.h"
 #include "Gui/Utils/FieldText.h"
-#include "Gui/Utils/Placeholder.h"
 #include "Gui/Utils/WindowProcedure.h"
+#include "Gui/Utils/WindowText.h"
 #include "Platform/Shell.h"
 
 namespace Gui {

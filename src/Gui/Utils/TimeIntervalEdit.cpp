@@ -1,8 +1,8 @@
 #include "Gui/Utils/TimeIntervalEdit.h"
 
 #include "Backend/core/Text.h"
-#include "Gui/Utils/Placeholder.h"
 #include "Gui/Utils/WindowProperties.h"
+#include "Gui/Utils/WindowText.h"
 
 #include <windowsx.h>
 
