@@ -43,6 +43,7 @@ MirelGui::MirelGui(Backend::MirelIF& mirel, const Backend::RegistrySettings& set
       m_dataMenu(m_gdiManager, IDR_DATA_MENU),
       m_sequencePresetList(sequencePresets),
       m_setupDialog(*this, m_settings, !isVstPlugin, !isVstPlugin, !isVstPlugin),
+      m_displayPanel(*this, mirel.getDisplayMessageManager()),
       m_screenState(mirel.getScreenState()),
       m_isVstPlugin(isVstPlugin) {
     m_guiMessageManagerMaster.addMessageManager(&m_guiMessageManager);

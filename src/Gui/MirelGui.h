@@ -212,7 +212,7 @@ private:
     System::SetupDialog m_setupDialog;
     MirelGuiMessageManager m_guiMessageManager{*this};
     Help::HelpPanel m_helpPanel{*this};
-    Display::DisplayPanel m_displayPanel{*this};
+    Display::DisplayPanel m_displayPanel;
     ComputerInput::ComputerInputPanel m_computerInputPanel{*this};
     Controls::ControlPanel m_controlPanel{*this};
     Output::OutputPanel m_outputPanel{*this};

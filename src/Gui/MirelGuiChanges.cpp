@@ -160,9 +160,9 @@ void MirelGui::displayMidiOutputEvent(const MirelMidiMessage& message) {
     m_mirelIF.getDisplayMessageManager().postAddOutputEvent(message);
     const MidiMessage& event = message.getMidiMessage();
     const Backend::Note note(static_cast<std::uint8_t>(event.getD1()));
-    if (event.getStatus() == MidiMessage::noteOn)
+    if (event.getStatus() == MidiMessage::NoteOn)
         getMainMusicKeyboardCtl().noteOn(note);
-    else if (event.getStatus() == MidiMessage::noteOff)
+    else if (event.getStatus() == MidiMessage::NoteOff)
         getMainMusicKeyboardCtl().noteOff(note);
     m_outputPanel.getCcPanel().displayEvent(message);
 }

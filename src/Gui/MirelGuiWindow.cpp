@@ -73,7 +73,7 @@ LRESULT MirelGui::windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lP
         case WM_LBUTTONDOWN:
         case UM_RETURN_FOCUS: setFocus(); return 0;
         case WM_MOUSEWHEEL: handleMouseWheel(wParam, lParam); return 0;
-        case UM_HOVER: m_helpPanel.hover(reinterpret_cast<HWND>(lParam)); return 0;
+        case UM_HOVER: m_helpPanel.showHelp(reinterpret_cast<HWND>(lParam)); return 0;
         case WM_SYSCHAR: return 0;  // Alt with a key makes no sound.
         default: return DefWindowProcA(window, message, wParam, lParam);
     }
