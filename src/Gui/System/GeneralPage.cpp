@@ -7,6 +7,7 @@
 #include "Gui/Rules/SetupValues.h"
 #include "Gui/Utils/Placeholder.h"
 #include "Gui/Utils/Skinner.h"
+#include "Gui/Utils/WindowText.h"
 
 namespace Gui::System {
 

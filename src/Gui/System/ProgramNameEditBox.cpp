@@ -6,6 +6,7 @@
 #include "Gui/Utils/GdiManager.h"
 #include "Gui/Utils/Placeholder.h"
 #include "Gui/Utils/WindowProperties.h"
+#include "Gui/Utils/WindowText.h"
 
 namespace Gui::System {
 

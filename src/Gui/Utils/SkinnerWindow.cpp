@@ -8,6 +8,7 @@
 #include "Gui/Utils/Skinner.h"
 #include "Gui/Utils/WindowProcedure.h"
 #include "Gui/Utils/WindowProperties.h"
+#include "Gui/Utils/WindowText.h"
 
 #include <commctrl.h>
 
