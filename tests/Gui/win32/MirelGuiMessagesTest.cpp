@@ -386,7 +386,7 @@ TEST_F(MirelGuiHookTest, WithoutALibraryTheButtonStillChangesTheSetting) {
 TEST_F(MirelGuiHookTest, KeysThatSwitchTheHookAreHandedToIt) {
     open(TestSupport::RecordedHook::recordingFolder());
     using FunctionManagement::Functions::ChangeGlobalKeyboard;
-    ComputerInput::KeyConfiguration key(Key(112, true, false, false, false));
+    Backend::ComputerInput::KeyConfiguration key(Key(112, true, false, false, false));
     key.setGlobal(false);
     auto toggle = std::make_unique<ChangeGlobalKeyboard>(desk.mirel());
     auto off = std::make_unique<ChangeGlobalKeyboard>(desk.mirel());

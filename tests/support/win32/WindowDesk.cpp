@@ -63,7 +63,10 @@ void WindowDesk::prepareSettings(const std::function<void(RegistrySettings&)>& s
 }
 
 void WindowDesk::prepareProgramFolder(const std::string& folder) {
-    MirelUtils::createSettingsStore()->open(MirelUtils::getMainRegistryKeyLite())->writeText("ProgDir", folder);
+    const auto store = MirelUtils::createSettingsStore();
+    const auto key = store->open(MirelUtils::getMainRegistryKeyLite());
+    key->writeText("ProgDir", folder);
+    key->save();
 }
 
 void WindowDesk::start() {
