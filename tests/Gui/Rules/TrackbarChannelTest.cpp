@@ -10,6 +10,10 @@ TEST(TrackbarChannel, LiesInTheMiddleOfTheThumb) {
     EXPECT_EQ(getVerticalChannel({4, 50, 24, 60}, {8, 10, 192, 14}), (Rect{12, 15, 16, 15 + 174}));
 }
 
+TEST(TrackbarChannel, StaysUprightIfItIsToldSo) {
+    EXPECT_EQ(getVerticalChannel({4, 50, 24, 60}, {12, 8, 16, 192}), (Rect{12, 8, 16, 192}));
+}
+
 TEST(TrackbarChannel, CutsEachHalf) {
     EXPECT_EQ(getVerticalChannel({4, 50, 25, 61}, {8, 10, 192, 15}), (Rect{12, 15, 17, 15 + 174}));
 }

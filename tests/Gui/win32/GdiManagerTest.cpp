@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstring>
 #include <memory>
 #include <thread>
@@ -205,14 +206,20 @@ TEST(GdiManager, LeavesTheLastRowAndColumnOfASmoothKnobToTheBackground) {
     }
 }
 
-TEST(GdiManager, SoftensTheEdgeOfAKnob) {
-    const WindowsLib::Bitmap knob(GdiManager::createKnob(FOREGROUND, BACKGROUND, true, 21));
+TEST(GdiManager, DrawsAKnobRound) {
+    const WindowsLib::Bitmap knob(GdiManager::createKnob(FOREGROUND, BACKGROUND, true, 40));
     const Pixels pixels(knob.handle());
-    int mixed = 0;
-    for (int y = 0; y < 22; ++y)
-        for (int x = 0; x < 22; ++x)
-            mixed += pixels.at(x, y) != FOREGROUND && pixels.at(x, y) != BACKGROUND ? 1 : 0;
-    EXPECT_GT(mixed, 20);
+    const auto isDisc = [](COLORREF colour) { return GetRValue(colour) > (200 + 10) / 2; };
+    int area = 0;
+    for (int y = 0; y <= 40; ++y)
+        for (int x = 0; x <= 40; ++x) {
+            area += isDisc(pixels.at(x, y)) ? 1 : 0;
+            const double distance = std::hypot(x - 19.5, y - 19.5);
+            if (distance < 18.5 || distance > 21.5) {
+                EXPECT_EQ(isDisc(pixels.at(x, y)), distance < 20) << x << " " << y;
+            }
+        }
+    EXPECT_NEAR(area, 1257, 60);
 }
 
 TEST(GdiManager, KeepsAKnobForEachColourSizeAndSmoothness) {
@@ -232,7 +239,7 @@ TEST(GdiManager, KeepsAKnobForEachColourSizeAndSmoothness) {
     }
     EXPECT_EQ(&gdi.getKnob(FOREGROUND, BACKGROUND, true, 21), &knob);
     EXPECT_EQ(knob.handle(), handle);
-    EXPECT_NE(Pixels(others[0]->handle()).values, Pixels(handle).values);
+    EXPECT_NE(others[0]->handle(), handle);
 }
 
 TEST(GdiManager, HasARedCursor) {

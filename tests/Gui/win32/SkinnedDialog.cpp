@@ -38,6 +38,8 @@ HWND SkinnedDialog::add(const char* className, const char* text, DWORD style, co
 
 void SkinnedDialog::skin() {
     m_gui.getSkinner().skinWindow(m_dialog);
+    InvalidateRect(m_dialog, nullptr, TRUE);
+    UpdateWindow(m_dialog);
     TestSupport::pump();
     forgetMessages();
 }

@@ -135,7 +135,7 @@ TEST_F(SkinnerOptionsTest, EnableAnEditWithItsLabel) {
 
 TEST_F(SkinnerOptionsTest, EnableATimeIntervalWithItsLabel) {
     TimeIntervalCtl control(dialog.gui(), nullptr);
-    control.create(dialog.add("Static", "", 0, {10, 10, 60, 30}));
+    control.create(dialog.add("Static", "", 0, {10, 10, 60, 30}), TimeIntervalCtl::standardColours(dialog.gui()));
     pump();
     validateAll();
     Skinner::enableControl(dialog.handle(), control, IDC_SKIN_LABEL, false);
