@@ -3,6 +3,7 @@
 #include "Gui/Utils/DeviceContexts.h"
 #include "Gui/Utils/GdiManager.h"
 #include "Gui/Utils/RadioButton.h"
+#include "Platform/Shell.h"
 #include "tests/Gui/win32/WidgetPanel.h"
 
 #include <gtest/gtest.h>
@@ -25,6 +26,9 @@ constexpr COLORREF OFF = GdiManager::DARK_GREEN;
 constexpr COLORREF GREY = GdiManager::DARK_GREY;
 constexpr COLORREF BLACK = GdiManager::BLACK;
 constexpr COLORREF WHITE = GdiManager::WHITE;
+
+// Where the class of buttons is registered.
+const auto LIBRARY = static_cast<HINSTANCE>(Platform::getModuleInstance());
 
 class Reports : public Button::Listener {
 public:
@@ -77,7 +81,7 @@ TEST_F(ButtonTest, StaysHiddenWhereThePlaceholderIs) {
 }
 
 TEST_F(ButtonTest, AloneItIsHiddenInTheTopRow) {
-    push.create("R", 37, top.handle(), 117, GetModuleHandleA(nullptr));
+    push.create("R", 37, top.handle(), 117, LIBRARY);
     const RECT rect = rectInParent(push.getWindowHandle());
     const RECT expected = {37, 6, 66, 26};
     EXPECT_TRUE(EqualRect(&rect, &expected));
@@ -240,7 +244,7 @@ class SignTest : public ButtonTest {
 protected:
     int top(const char* caption, int height) {
         Button button(gui, nullptr, Button::Kind::push);
-        button.create(caption, 5, panel.getWindowHandle(), 300, GetModuleHandleA(nullptr));
+        button.create(caption, 5, panel.getWindowHandle(), 300, LIBRARY);
         button.setFont(gui.getGdiManager().getFont5());
         SetWindowPos(button.getWindowHandle(), HWND_TOP, 0, 0, 20, height, SWP_SHOWWINDOW);
         const Picture picture(button.getWindowHandle());
@@ -287,9 +291,8 @@ TEST_F(ButtonTest, SmallButtonsHaveFontsOfTheirOwn) {
     };
     for (const Size size : {Size{40, 15, true}, Size{40, 16, false}, Size{10, 40, true}, Size{11, 40, false}}) {
         Button button(gui, nullptr, Button::Kind::push);
-        button.create("H", 0, panel.getWindowHandle(), 300, GetModuleHandleA(nullptr));
+        button.create("H", 0, panel.getWindowHandle(), 300, LIBRARY);
         SetWindowPos(button.getWindowHandle(), HWND_TOP, 0, 0, size.width, size.height, SWP_SHOWWINDOW);
-        const std::vector<COLORREF> before = {Picture(button.getWindowHandle()).at(0, 0)};
         const int plain = textPixels(button, BLACK);
         button.setFont(huge);
         const int changed = textPixels(button, BLACK);

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -380,6 +381,31 @@ TEST_F(PanelTest, WindowThatOutlivesItsPanelIsLeftAlone) {
     SendMessageA(window, WM_APP, 0, 0);
     SendMessageA(dialog, WM_APP, 0, 0);
     EXPECT_TRUE(IsWindow(dialog));
+}
+
+class ThrowingPanel : public Panel {
+public:
+    explicit ThrowingPanel(int dialogId) : Panel(dialogId) {}
+
+    LRESULT wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_APP)
+            throw std::runtime_error("of a screen");
+        return Panel::wndProc(window, message, wParam, lParam);
+    }
+
+    INT_PTR dlgProc(HWND, UINT message, WPARAM, LPARAM) override {
+        if (message == WM_APP)
+            throw std::runtime_error("of a screen");
+        return 0;
+    }
+};
+
+TEST_F(PanelTest, NoExceptionLeavesAWindow) {
+    for (const int id : {0, IDD_TEST_SMALL}) {
+        ThrowingPanel panel{id};
+        ASSERT_TRUE(root.add(&panel));
+        EXPECT_EQ(SendMessageA(panel.getWindowHandle(), WM_APP, 0, 0), 0);
+    }
 }
 
 // The words of the trace.

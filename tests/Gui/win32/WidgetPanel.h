@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace Gui {
@@ -20,6 +21,9 @@ public:
 
     INT_PTR dlgProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override {
         messages.push_back({message, wParam, lParam});
+        if (message == WM_ENTERMENULOOP)
+            for (const WPARAM key : std::exchange(menuKeys, {VK_ESCAPE}))
+                PostMessageA(window, WM_KEYDOWN, key, 1);
         if (answer) {
             if (const LRESULT result = answer(messages.back())) {
                 SetWindowLongPtrA(window, DWLP_MSGRESULT, result);
@@ -42,6 +46,9 @@ public:
 
     std::vector<TestSupport::TestWindow::Message> messages;
 
+    // The keys that the next menu gets. Without any it closes again.
+    std::vector<WPARAM> menuKeys = {VK_ESCAPE};
+
     // What it answers instead of nothing; 0 goes on.
     std::function<LRESULT(const TestSupport::TestWindow::Message&)> answer;
 };
@@ -52,6 +59,8 @@ protected:
     WidgetTest() {
         panel.createWnd(GetModuleHandleA(nullptr), top.handle());
         panel.showWnd(true);
+        // A panel that is the root of its tree makes the window around it as small as it can.
+        SetWindowPos(top.handle(), nullptr, 0, 0, 500, 400, SWP_NOMOVE | SWP_NOZORDER);
         TestSupport::releaseButtons();
         SetCursorPos(0, 0);
         TestSupport::pump();
