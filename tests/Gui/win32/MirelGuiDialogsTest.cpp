@@ -128,7 +128,7 @@ TEST_F(MirelGuiDialogsTest, ImportConvertsBanksAndPrograms) {
 }
 
 TEST_F(MirelGuiDialogsTest, ImportAsksForThePresetsName) {
-    const std::string from = copy("tests/data/version2/key two.pst", "old.pst");
+    const std::string from = copy("tests/data/version2/key two.pst", "key two.pst");
     std::string offered;
     {
         const OtherThread user([&from, &offered] {
