@@ -5,8 +5,8 @@
 #include "Gui/MirelGuiIF.h"
 #include "Gui/ResourceIds.h"
 #include "Gui/Rules/SetupValues.h"
-#include "Gui/Utils/Placeholder.h"
 #include "Gui/Utils/Skinner.h"
+#include "Gui/Utils/WindowText.h"
 
 namespace Gui::System {
 

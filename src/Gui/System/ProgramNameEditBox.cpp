@@ -4,8 +4,8 @@
 #include "Gui/MirelGuiIF.h"
 #include "Gui/Rules/TextCut.h"
 #include "Gui/Utils/GdiManager.h"
-#include "Gui/Utils/Placeholder.h"
 #include "Gui/Utils/WindowProperties.h"
+#include "Gui/Utils/WindowText.h"
 
 namespace Gui::System {
 
