@@ -1,6 +1,7 @@
 #include "Gui/Utils/Button.h"
 
 #include "Gui/MirelGuiIF.h"
+#include "Gui/Rules/ButtonLook.h"
 #include "Gui/Utils/ButtonFill.h"
 #include "Gui/Utils/DeviceContexts.h"
 #include "Gui/Utils/GdiManager.h"
@@ -19,12 +20,6 @@ constexpr const char* OBJECT = "Button";
 constexpr int LONE_TOP = 6;
 constexpr int LONE_WIDTH = 29;
 constexpr int LONE_HEIGHT = 20;
-constexpr int SMALL_HEIGHT = 15;
-constexpr int SMALL_WIDTH = 10;
-
-bool isSign(const std::string& caption) {
-    return caption == "+" || caption == "-";
-}
 
 }
 
@@ -131,14 +126,14 @@ void Button::paint() {
     const SelectScope fontScope(dc, font ? font : GetStockObject(SYSTEM_FONT));
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, textColour());
-    if (m_caption == "+" || (m_caption == "-" && rect.bottom <= SMALL_HEIGHT))
+    if (m_caption == "+" || (m_caption == "-" && rect.bottom < SMALL_BUTTON_HEIGHT))
         OffsetRect(&rect, 0, -1);
     DrawTextA(dc, m_caption.c_str(), -1, &rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 }
 
 HFONT Button::fontFor(int width, int height) const {
     const GdiManager& gdi = m_gui->getGdiManager();
-    if (height <= SMALL_HEIGHT || width <= SMALL_WIDTH)
+    if (isSmallButton(width, height))
         return isSign(m_caption) ? gdi.getFont5().handle() : gdi.getFont3().handle();
     return m_font ? m_font->handle() : m_defaultFont;
 }

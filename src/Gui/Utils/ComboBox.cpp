@@ -137,12 +137,10 @@ LRESULT ComboBox::wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
             KillTimer(window, MENU_TIMER);
             m_menuShowing = false;
             return 0;
-        case WM_DESTROY: {
+        case WM_DESTROY:
             m_windowHandle = nullptr;
             RemovePropA(window, SkinProperties::COMBO_BOX);
-            const WNDPROC original = unsubclass(window, PROCEDURE);
-            return original ? CallWindowProcA(original, window, message, wParam, lParam) : 0;
-        }
+            return passOnForTheLastTime(window, PROCEDURE, message, wParam, lParam);
         default: break;
     }
     return callOriginal(window, PROCEDURE, message, wParam, lParam);

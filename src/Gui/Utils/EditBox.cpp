@@ -33,8 +33,7 @@ LRESULT EditBox::wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam
         return callOriginal(window, PROCEDURE, message, wParam, lParam);
     m_windowHandle = nullptr;
     RemovePropA(window, OBJECT);
-    const WNDPROC original = unsubclass(window, PROCEDURE);
-    return original ? CallWindowProcA(original, window, message, wParam, lParam) : 0;
+    return passOnForTheLastTime(window, PROCEDURE, message, wParam, lParam);
 }
 
 LRESULT CALLBACK EditBox::windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -1,7 +1,5 @@
 #include "Gui/Utils/Placeholder.h"
 
-#include "Gui/Utils/WindowText.h"
-
 namespace Gui {
 
 Placeholder::Placeholder(HWND placeholder)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Backend/core/Rect.h"
+#include "Gui/Utils/WindowText.h"
 
 #include <windows.h>
 

@@ -116,8 +116,9 @@ public:
         // The top window first follows when the root shows.
         const int height = START_HEIGHT + (root.showing ? root.contentHeight() : 0);
         ASSERT_EQ(top.bottom - top.top, height) << m_log.str();
-        if (root.showing)
+        if (root.showing) {
             ASSERT_EQ(top.right - top.left, root.contentWidth() + 4) << m_log.str();
+        }
     }
 
 private:
@@ -163,7 +164,7 @@ private:
     void settleWidths() {
         for (int round = 0; round < 4; ++round)
             for (const auto& node : m_nodes)
-                if (node->isDialog)
+                if (node->parent)
                     for (const bool show : {true, false})
                         node->panel->showWnd(show);
     }

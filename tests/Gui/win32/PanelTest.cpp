@@ -185,9 +185,6 @@ TEST_F(PanelTest, PanelOfNoHeightIsVisibleButNobodysNeighbour) {
     EXPECT_EQ(rectInParent(below.getWindowHandle()).top, 0);
     const int height = rectInParent(below.getWindowHandle()).bottom;
     EXPECT_EQ(below.getHeight(), height);
-    flat.showWnd(false);
-    EXPECT_EQ(rectInParent(below.getWindowHandle()).top, 0);
-    EXPECT_EQ(below.getHeight(), height);
 }
 
 TEST_F(PanelTest, ContainerTakesPartWithWhatItHolds) {

@@ -36,7 +36,8 @@ bool ConsoleDesk::start(const SingleInstance& instance, int showCommand) {
     m_gui.reset(manager().sendCreateMirelGui(false));
     if (!m_gui)
         return false;
-    m_frame = std::make_unique<FrameWindow>(*this, frameOptions());
+    FrameWindow::Listener& listener = *this;
+    m_frame = std::make_unique<FrameWindow>(listener, frameOptions());
     m_gui->create(m_frame->getWindowHandle());
     m_gui->initialize();
     m_frame->setGui(m_gui.get());
