@@ -5,7 +5,6 @@
 #include "Gui/MirelGuiIF.h"
 #include "Gui/ResourceIds.h"
 #include "Gui/Rules/SetupValues.h"
-#include "Gui/Utils/Placeholder.h"
 #include "Gui/Utils/Skinner.h"
 #include "Gui/Utils/WindowText.h"
 

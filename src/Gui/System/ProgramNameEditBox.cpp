@@ -4,7 +4,6 @@
 #include "Gui/MirelGuiIF.h"
 #include "Gui/Rules/TextCut.h"
 #include "Gui/Utils/GdiManager.h"
-#include "Gui/Utils/Placeholder.h"
 #include "Gui/Utils/WindowProperties.h"
 #include "Gui/Utils/WindowText.h"
 
