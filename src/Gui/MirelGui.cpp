@@ -68,7 +68,7 @@ std::string MirelGui::findHookFolder() {
 void MirelGui::create(HWND parentWindow) {
     constexpr const char* FUNCTION = "Gui::MirelGui::create";
     trace(__LINE__, FUNCTION, "IN");
-    static_cast<void>(CoInitialize(nullptr));
+    m_isComReady = SUCCEEDED(CoInitialize(nullptr));
     Skinner::startHook();
     m_guiMessageManagerMaster.setThreadId(GetCurrentThreadId());
     m_parentWindow = parentWindow;
@@ -195,7 +195,8 @@ void MirelGui::destroy() {
     m_keyboardHookProxy.setWindowHandle(nullptr);
     m_keyboardLossWatch.reset();
     Skinner::endHook();
-    CoUninitialize();
+    if (m_isComReady)
+        CoUninitialize();
 }
 
 Backend::MirelMessageManager& MirelGui::getMirelMessageManager() {

@@ -220,6 +220,7 @@ private:
     Backend::ScreenState m_screenState;
     const bool m_isVstPlugin;
     HWND m_focusWindow = nullptr;
+    bool m_isComReady = false;
     HeldKeys m_heldKeys;
     std::unique_ptr<KeyboardLossWatch> m_keyboardLossWatch;
 };

@@ -41,8 +41,7 @@ void MirelGui::importVersion2File() {
                 .run(m_windowHandle);
     } else if (from->ends_with(".pst")) {
         if (const auto to = TextPrompt("Enter Preset Name", "Preset Name:", "default preset name").run(m_windowHandle))
-            ImportVersion2PresetDialog(getMirelMessageManager(), "Importing Preset...", *from, *to)
-                .run(m_windowHandle);
+            ImportVersion2PresetDialog(getMirelMessageManager(), "Importing Preset...", *from, *to).run(m_windowHandle);
     }
 }
 

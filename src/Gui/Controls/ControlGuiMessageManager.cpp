@@ -18,8 +18,7 @@ bool ControlGuiMessageManager::wantMessage(unsigned int message) {
 void ControlGuiMessageManager::handleMessage(unsigned int message, WPARAM wParam, LPARAM lParam) {
     const auto find = [this, wParam] {
         constexpr int BYTE = 0xff;
-        return m_panel.getControlMap().find(
-            Cell(static_cast<int>(wParam >> 16), static_cast<int>(wParam & BYTE)));
+        return m_panel.getControlMap().find(Cell(static_cast<int>(wParam >> 16), static_cast<int>(wParam & BYTE)));
     };
     switch (message) {
         case CONTROLS_CHANGED:

@@ -24,9 +24,7 @@ void ZoneGuiMessageManager::handleMessage(unsigned int message, WPARAM wParam, L
             if (const auto zones = takePayload<Backend::Zones::ZoneMap>(lParam))
                 m_panel.setZoneMap(*zones);
             break;
-        case SELECTED_CHANGED:
-            m_panel.setSelected(static_cast<Backend::Zones::ZoneId>(wParam), lParam != 0);
-            break;
+        case SELECTED_CHANGED: m_panel.setSelected(static_cast<Backend::Zones::ZoneId>(wParam), lParam != 0); break;
         default: break;
     }
 }

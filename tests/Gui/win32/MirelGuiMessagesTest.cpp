@@ -281,6 +281,21 @@ TEST_F(MirelGuiMessagesTest, MenusOpenForProgramsAndOutputs) {
     }
 }
 
+TEST_F(MirelGuiMessagesTest, AHoverShowsTheHelpOfWhatIsThere) {
+    gui().showHelp(true);
+    const HWND root = FindWindowExA(desk.window(), nullptr, "TamselPanel2008", nullptr);
+    const HWND text = GetDlgItem(FindWindowExA(root, nullptr, nullptr, "Gui::Help::HelpPanel"), 1074);
+    SendMessageA(desk.window(), UM_HOVER, 0, reinterpret_cast<LPARAM>(systemControl(102)));
+    const std::string help = textOf(text);
+    EXPECT_FALSE(help.empty());
+    SendMessageA(desk.window(), UM_HOVER, 0, 0);
+    EXPECT_EQ(textOf(text), help);
+    gui().displayHelp(std::string("Own words."));
+    EXPECT_EQ(textOf(text), "Own words.");
+    gui().displayHelp(systemControl(102));
+    EXPECT_EQ(textOf(text), help);
+}
+
 TEST_F(MirelGuiMessagesTest, ADockedWindowTellsTheDesk) {
     gui().setDockToBottomEdge(true);
     EXPECT_TRUE(gui().getDockToBottomEdge());

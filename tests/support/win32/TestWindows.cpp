@@ -171,6 +171,10 @@ void releaseButtons() {
     pump();
 }
 
+void keyForMenu(HWND owner, WPARAM key) {
+    PostMessageA(owner, WM_KEYDOWN, key, 1);
+}
+
 OtherThread::OtherThread(std::function<void()> work) : m_work(std::move(work)) {
     m_thread = CreateThread(
         nullptr, 0,

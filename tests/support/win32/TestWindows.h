@@ -96,6 +96,9 @@ void mouseButton(DWORD flags);  // MOUSEEVENTF_LEFTDOWN and its kin.
 void clickLeft(HWND window, int x, int y);
 void releaseButtons();  // Whichever are down.
 
+// Queues a press of a key for a menu that is going to open on this window.
+void keyForMenu(HWND owner, WPARAM key);
+
 // Does something on another thread, which may see a dialog of this one, and ends it with this object.
 class OtherThread {
 public:

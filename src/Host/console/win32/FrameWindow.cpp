@@ -2,6 +2,7 @@
 #include "Host/console/win32/FrameWindow.h"
 
 #include "Gui/MirelGuiIF.h"
+#include "Gui/Rules/WindowMove.h"
 #include "Gui/Utils/UserMessages.h"
 #include "Host/console/FramePlacement.h"
 #include "Host/console/FrameTitle.h"
@@ -84,8 +85,10 @@ void FrameWindow::show(int command) {
     MSG message;
     while (PeekMessageA(&message, m_window, Gui::UM_SIZE_CHANGED, Gui::UM_MOVE_WINDOW, PM_REMOVE))
         DispatchMessageA(&message);
-    if (!m_wasMoved)
-        place(centreFrame(position(), workArea()));
+    if (!m_wasPlaced) {
+        const Rect middle = centreFrame(position(), workArea());
+        place(m_options.dockToBottomEdge ? dockFrame(middle, workArea()) : middle);
+    }
     refreshTitle();
     ShowWindow(m_window, command);
 }
@@ -174,7 +177,7 @@ bool FrameWindow::handleDeskMessage(UINT message, WPARAM wParam, LPARAM lParam) 
             return true;
         case Gui::UM_BANK_CHANGED: refreshTitle(); return true;
         case Gui::UM_MOVE_WINDOW:
-            m_wasMoved = true;
+            m_wasPlaced = m_wasPlaced || !Gui::unpackWindowMove(wParam).isRelative();
             place(moveFrame(position(), wParam, static_cast<std::uintptr_t>(lParam)));
             return true;
         case Gui::UM_SYSTEM_PANEL_SHOWN:

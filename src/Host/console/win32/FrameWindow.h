@@ -101,7 +101,7 @@ private:
     FrameLook m_look;
     SIZE m_deskSize{};
     std::string m_title;
-    bool m_wasMoved = false;  // The desk has said where it wants to be.
+    bool m_wasPlaced = false;  // The desk has said where it wants to be, and not only by how much it grew.
 };
 
 }

@@ -147,6 +147,17 @@ TEST_F(FrameWindowTest, ShowsInTheMiddleWhenTheDeskKnowsNoPlace) {
     EXPECT_NEAR(rect.top - area.top, area.bottom - rect.bottom, 1);
 }
 
+TEST_F(FrameWindowTest, ADockedDeskWithoutAPlaceBeginsAtTheBottom) {
+    FrameWindow::Options options;
+    options.dockToBottomEdge = true;
+    open(options);
+    // As it grows before it is shown.
+    PostMessageA(window(), Gui::UM_MOVE_WINDOW, packWindowMove({true, 0}),
+                 static_cast<LPARAM>(packWindowMove({true, -400})));
+    frame->show(SW_SHOWNORMAL);
+    EXPECT_EQ(position().bottom, workArea().bottom);
+}
+
 TEST_F(FrameWindowTest, DocksAtTheBottomOfTheScreen) {
     open();
     show();
