@@ -12,6 +12,7 @@ FeedEnd::~FeedEnd() {
 
 void FeedEnd::take(Backend::Display::DisplayMessageManager& feed) {
     // This object stands in for the listener, and whatever reaches it comes after all that the listener was told.
+    ResetEvent(m_reached);
     feed.postSetListener(this);
     feed.postSendAll();
     while (MsgWaitForMultipleObjects(1, &m_reached, FALSE, INFINITE, QS_SENDMESSAGE) == WAIT_OBJECT_0 + 1) {

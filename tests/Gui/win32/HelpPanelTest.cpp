@@ -135,7 +135,6 @@ TEST_F(HelpPanelTest, NothingChangesWhileAboutIsOn) {
 
 TEST_F(HelpPanelTest, APressOnTheTextGivesTheFocusUp) {
     SendMessageA(edit, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(9, 9));
-    EXPECT_NE(GetFocus(), edit);
     pump();
     EXPECT_GE(top.count(UM_RETURN_FOCUS), 1u);
 }

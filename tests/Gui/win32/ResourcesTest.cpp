@@ -176,8 +176,11 @@ TEST(HelpTexts, AreSentences) {
 
 TEST(HelpTexts, OfFunctionsAreThoseOfTheList) {
     int rows = 0;
-    std::apply([&](const auto&... row) { ((EXPECT_EQ(loadText(row.helpId), row.helpText), ++rows), ...); },
-               Backend::FunctionManagement::FUNCTION_LIST);
+    const auto check = [&](const auto& row) {
+        EXPECT_EQ(loadText(row.helpId), row.helpText);
+        ++rows;
+    };
+    std::apply([&](const auto&... row) { (check(row), ...); }, Backend::FunctionManagement::FUNCTION_LIST);
     EXPECT_EQ(rows, 64);
 }
 

@@ -64,6 +64,17 @@ protected:
         pump();
     }
 
+    // Does so until the desk hears of it: a list doesn't open again right after it has closed.
+    Lines chosen(int id, std::initializer_list<WPARAM> keys) {
+        Lines posted;
+        EXPECT_TRUE(pumpUntil([&] {
+            choose(id, keys);
+            posted = gui.takePosted();
+            return !posted.empty();
+        }));
+        return posted;
+    }
+
     TestSupport::TestWindow top{600, 100};
     TestSupport::DeskGui gui;
     std::unique_ptr<SystemPanel> panel;
@@ -89,8 +100,9 @@ TEST_F(SystemPanelTest, HasItsControls) {
     EXPECT_EQ(textOf(panel->getWindowHandle()), "Gui::System::SystemPanel");
     for (const ControlRow& row : CONTROLS) {
         ASSERT_NE(item(row.id), nullptr) << row.id;
-        if (row.caption)
+        if (row.caption) {
             EXPECT_EQ(textOf(item(row.id)), row.caption);
+        }
         EXPECT_EQ((GetWindowLongPtrA(item(row.id), GWL_STYLE) & WS_VISIBLE) != 0, row.visible) << row.id;
         EXPECT_EQ(reinterpret_cast<std::intptr_t>(GetPropA(item(row.id), "HELP")), row.helpId) << row.id;
     }
@@ -104,10 +116,8 @@ TEST_F(SystemPanelTest, ShowsItsFirstRowWholeAndTheOthersNotAtAll) {
         const RECT rect = rectInParent(item(row.id));
         EXPECT_GE(rect.left, 0) << row.id;
         EXPECT_LE(rect.right, client.right) << row.id;
-        if (row.visible)
-            EXPECT_LE(rect.bottom, client.bottom) << row.id;
-        else
-            EXPECT_GE(rect.top, client.bottom) << row.id;
+        EXPECT_EQ(rect.bottom <= client.bottom, row.visible) << row.id;
+        EXPECT_EQ(rect.top < client.bottom, row.visible) << row.id;
     }
 }
 
@@ -209,11 +219,9 @@ TEST_F(SystemPanelTest, ListsOutputsThatCanBeUsed) {
     create();
     EXPECT_EQ(textOf(item(1014)), "Four");
     // The first of the list, then the second, which is the port of index 3.
-    choose(1014, {VK_HOME, VK_RETURN});
-    EXPECT_EQ(gui.takePosted(), Lines{"33258 mode=3 value=0"});
+    EXPECT_EQ(chosen(1014, {VK_HOME, VK_RETURN}), Lines{"33258 mode=3 value=0"});
     EXPECT_EQ(textOf(item(1014)), "One");
-    choose(1014, {VK_END, VK_RETURN});
-    EXPECT_EQ(gui.takePosted(), Lines{"33258 mode=3 value=3"});
+    EXPECT_EQ(chosen(1014, {VK_END, VK_RETURN}), Lines{"33258 mode=3 value=3"});
 }
 
 TEST_F(SystemPanelTest, AnOutputThatCannotBeUsedIsNotShown) {
