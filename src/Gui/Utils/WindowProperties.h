@@ -52,4 +52,11 @@ inline LRESULT callOriginal(HWND window, const char* name, UINT message, WPARAM 
                     : DefWindowProcA(window, message, wParam, lParam);
 }
 
+// The same at the end of the window, which gets its own procedure back first.
+inline LRESULT passOnForTheLastTime(HWND window, const char* name, UINT message, WPARAM wParam, LPARAM lParam) {
+    const WNDPROC original = unsubclass(window, name);
+    return original ? CallWindowProcA(original, window, message, wParam, lParam)
+                    : DefWindowProcA(window, message, wParam, lParam);
+}
+
 }

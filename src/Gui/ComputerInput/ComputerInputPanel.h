@@ -1,0 +1,54 @@
+#pragma once
+
+#include "Backend/input/KeyConfigurationMap.h"
+#include "Gui/ComputerInput/ComputerInputGuiMessageManager.h"
+#include "Gui/ComputerInput/MainPanel.h"
+#include "Gui/ComputerInput/SettingsPanel.h"
+#include "Gui/Preset/PresetGuiOwner.h"
+#include "Gui/Utils/SkinPanel.h"
+
+#include <vector>
+
+namespace Gui::ComputerInput {
+
+// The keys of the computer's keyboard and what they do. It also tells the global keyboard which keys to take. [gui]
+class ComputerInputPanel : public SkinPanel, public Preset::PresetGuiOwner {
+public:
+    // [backend] Takes a copy of the keys.
+    explicit ComputerInputPanel(MirelGuiIF& gui);
+
+    // Adds the sub-panels. Once, when the window is there.
+    void setupPanels();
+
+    // Shows the keys and hands them to the global keyboard.
+    void load();
+
+    MainPanel& getMainPanel() { return m_mainPanel; }
+    SettingsPanel& getSettingsPanel() { return m_settingsPanel; }
+    ComputerInputGuiMessageManager& getMessageManager() { return m_messageManager; }
+
+    // The keys, as the desk last told them, and whether a release looks its key up with its modifiers.
+    const Backend::ComputerInput::KeyConfigurationMap& getKeyConfigurations() const { return m_keys; }
+    bool getUseKeyUpMod() const { return m_useKeyUpMod; }
+    void setKeys(const std::vector<Backend::ComputerInput::KeyConfiguration>& keys);
+    void setAllKeys(Backend::ComputerInput::KeyConfigurationMap keys, bool useKeyUpMod);
+
+    // Tells the global keyboard anew which keys switch it.
+    void updateControlKeys();
+
+    void addPreset(const std::string& name, bool selectedOnly) override;
+    void editPreset(const std::string& oldName, const std::string& newName) override;
+    void deletePreset(const std::string& name) override;
+    std::vector<std::string> getPresetNames() override;
+
+private:
+    void updateExcludedKeys();
+
+    Backend::ComputerInput::KeyConfigurationMap m_keys;
+    bool m_useKeyUpMod;
+    ComputerInputGuiMessageManager m_messageManager{*this};
+    MainPanel m_mainPanel;
+    SettingsPanel m_settingsPanel;
+};
+
+}

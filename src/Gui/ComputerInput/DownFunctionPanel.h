@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Gui/ResourceIds.h"
+#include "Gui/Utils/SkinPanel.h"
+
+namespace Gui::ComputerInput {
+
+// What a key does when it goes down. [gui]
+class DownFunctionPanel : public SkinPanel {
+public:
+    explicit DownFunctionPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_KEY_DOWN_FUNCTION) {}
+
+    // Fills the fields anew.
+    void refresh() {}
+
+    // The outputs have changed.
+    void refreshOutputs() {}
+};
+
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Gui/ResourceIds.h"
+#include "Gui/Utils/SkinPanel.h"
+
+namespace Gui::ComputerInput {
+
+// What holds for a key as a whole. [gui]
+class MainSettingsPanel : public SkinPanel {
+public:
+    explicit MainSettingsPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_KEY_MAIN_SETTINGS) {}
+
+    // Fills the fields anew.
+    void refresh() {}
+};
+
+}

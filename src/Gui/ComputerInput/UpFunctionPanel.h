@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Gui/ResourceIds.h"
+#include "Gui/Utils/SkinPanel.h"
+
+namespace Gui::ComputerInput {
+
+// What a key does when it comes up. [gui]
+class UpFunctionPanel : public SkinPanel {
+public:
+    explicit UpFunctionPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_KEY_UP_FUNCTION) {}
+
+    // Fills the fields anew.
+    void refresh() {}
+
+    // The outputs have changed.
+    void refreshOutputs() {}
+};
+
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Gui/ResourceIds.h"
+#include "Gui/Utils/SkinPanel.h"
+
+namespace Gui::Controls {
+
+// The grid of controls. [gui]
+class MainPanel : public SkinPanel {
+public:
+    explicit MainPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_CONTROL_MAIN) {}
+};
+
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "Backend/core/DisplayListener.h"
+#include "Gui/Display/FeedEnd.h"
+#include "Gui/Utils/PopupMenu.h"
+#include "Gui/Utils/SkinPanel.h"
+
+#include <windows.h>
+
+#include <cstddef>
+#include <optional>
+#include <string>
+
+namespace Backend::Display {
+class DisplayMessageManager;
+}
+
+namespace Gui::Display {
+
+// The log of events and messages. Its text comes from the log's own thread, at most ten times a second and only while
+// the panel shows. The bottom edge can be dragged. [gui]
+class DisplayPanel : public SkinPanel, public Backend::Display::DisplayListener {
+public:
+    // The log must run for as long as the panel has a window.
+    DisplayPanel(MirelGuiIF& gui, Backend::Display::DisplayMessageManager& display);
+
+    void createWnd(HINSTANCE module, HWND parentWindow) override;
+    void showWnd(bool show) override;
+    INT_PTR dlgProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    // [display] See DisplayListener. The window's thread must be answering messages.
+    void append(const char* text) override;
+    void setText(const char* text) override;
+
+    // Large characters fill the panel from side to side; small ones stand in columns.
+    void setLargeFont(bool large);
+
+private:
+    static LRESULT CALLBACK editProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT editProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void showPointer(HWND edit, LPARAM lParam);
+    void handlePress(HWND edit, LPARAM lParam);
+    void showMenu(LPARAM position);
+    void copyText() const;
+    void clearText() const;
+
+    void handleTimer() const;
+    void handleSize(int height) const;
+    void handleDestroy();
+    void moveLine(int y);
+    void drawLine(int y) const;
+    void endResizing(int y);
+    int onScreen(int y) const;
+    std::string readText() const;
+
+    Backend::Display::DisplayMessageManager& m_display;
+    HWND m_edit = nullptr;
+    PopupMenu m_menu;
+    std::size_t m_length = 0;  // [display] What the edit holds, in bytes, as far as that thread knows.
+    bool m_resizing = false;
+    bool m_largeFont = false;
+    std::optional<int> m_line;  // Where the edge would go, on the screen.
+    FeedEnd m_feedEnd;
+};
+
+}

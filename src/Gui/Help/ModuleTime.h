@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Gui/Rules/AboutText.h"
+
+#include <windows.h>
+
+#include <optional>
+
+namespace Gui::Help {
+
+// [any] When the file of the library was last written, in local time; nothing if it can't be opened.
+std::optional<BuildTime> getModuleTime();
+
+// [any] The same of any file.
+std::optional<BuildTime> getFileTime(const char* path);
+
+}

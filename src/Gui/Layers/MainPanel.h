@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Gui/ResourceIds.h"
+#include "Gui/Utils/SkinPanel.h"
+
+namespace Gui::Layers {
+
+// The strip of the layers, and the tempo. [gui]
+class MainPanel : public SkinPanel {
+public:
+    explicit MainPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_LAYER_MAIN) {}
+
+    // The program has another tempo or tempo source.
+    void refreshTempo() {}
+
+    // The inputs have changed.
+    void refreshTempoSources() {}
+};
+
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Gui/ResourceIds.h"
+#include "Gui/Utils/SkinPanel.h"
+
+namespace Gui::Layers {
+
+// The fields of one layer or of several. [gui]
+class SettingsPanel : public SkinPanel {
+public:
+    explicit SettingsPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_LAYER_SETTINGS) {}
+
+    // Fills the fields anew.
+    void refresh() {}
+
+    // The outputs have changed.
+    void refreshOutputs() {}
+};
+
+}

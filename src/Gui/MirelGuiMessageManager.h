@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Backend/core/GuiMessageManager.h"
+
+namespace Gui {
+
+class MirelGui;
+
+// Brings the desk's notifications to its window (Backend/core/WindowMessages.h). [gui]
+class MirelGuiMessageManager : public Backend::GuiMessageManager {
+public:
+    explicit MirelGuiMessageManager(MirelGui& gui) : m_gui(gui) {}
+
+    bool wantMessage(unsigned int message) override;
+    void handleMessage(unsigned int message, WPARAM wParam, LPARAM lParam) override;
+
+private:
+    // Messages that bring more than a flag or a number.
+    void handlePayload(unsigned int message, WPARAM wParam, LPARAM lParam);
+
+    MirelGui& m_gui;
+};
+
+}

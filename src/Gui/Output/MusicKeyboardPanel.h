@@ -1,0 +1,32 @@
+#pragma once
+
+#include "Gui/Utils/Button.h"
+#include "Gui/Utils/MusicKeyboardCtl.h"
+#include "Gui/Utils/SkinPanel.h"
+
+namespace Gui::Output {
+
+// The music keyboard, and the buttons of the panels around it. [gui]
+class MusicKeyboardPanel : public SkinPanel, private Button::Listener {
+public:
+    explicit MusicKeyboardPanel(MirelGuiIF& gui);
+
+    void createWnd(HINSTANCE module, HWND parentWindow) override;
+
+    MusicKeyboardCtl& getMusicKeyboardCtl() { return m_keyboard; }
+
+    // Each tells whether its panel shows.
+    Button& getCcButton() { return m_ccButton; }
+    Button& getZoneButton() { return m_zoneButton; }
+    Button& getLayerButton() { return m_layerButton; }
+
+private:
+    void buttonChanged(int id, bool state) override;
+
+    MusicKeyboardCtl m_keyboard;
+    Button m_ccButton;
+    Button m_zoneButton;
+    Button m_layerButton;
+};
+
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "Gui/System/SetupPage.h"
+
+namespace Backend {
+class RegistrySettings;
+}
+
+namespace Gui::System {
+
+// How the log looks. [gui]
+class DisplayPage : public SetupPage {
+public:
+    DisplayPage(MirelGuiIF& gui, Backend::RegistrySettings& settings);
+
+private:
+    void initialize() override;
+    void apply() override;
+
+    Backend::RegistrySettings& m_settings;
+};
+
+}

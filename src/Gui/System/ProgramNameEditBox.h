@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Gui/Utils/EditBox.h"
+
+#include <string>
+
+namespace Gui {
+class MirelGuiIF;
+}
+
+namespace Gui::System {
+
+// A box over the list of programs in which the current program's name is changed. It closes when it loses the focus,
+// and saves the name unless Esc took the focus from it; Enter and a click into it save too. [gui]
+class ProgramNameEditBox : public EditBox {
+public:
+    // What a name can hold, in bytes.
+    static constexpr int MAX_NAME = 200;
+
+    explicit ProgramNameEditBox(MirelGuiIF& gui) : m_gui(gui) {}
+
+    // Ends an open box without saving.
+    ~ProgramNameEditBox() override;
+
+    // Covers the list, a control of a panel, and takes the focus.
+    void open(HWND list);
+
+    LRESULT wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
+
+private:
+    static void giveFocusBack(HWND window);
+    std::string readName(HWND window) const;
+    void handleFocusLost(HWND window);
+
+    MirelGuiIF& m_gui;
+};
+
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace Gui {
+
+class MirelGuiIF;
+
+// A button that goes round several states, each with its text. The first counts as off, the others as on. [gui]
+class ComboButton {
+public:
+    // Posted to the parent after each press. l: the control id.
+    static UINT changeMessage();
+
+    // The texts of the states, in the order of the presses.
+    ComboButton(MirelGuiIF& gui, std::vector<std::string> texts);
+    ComboButton(const ComboButton&) = delete;
+    ComboButton& operator=(const ComboButton&) = delete;
+    ~ComboButton();
+
+    // Takes the place of a static control, with its position, size and caption, and destroys it. Also with its id,
+    // unless another is given.
+    void create(HWND placeholder, int id = 0);
+
+    int getSelected() const { return m_selected; }
+
+    // Draws it anew; no message. An index without a state shows no text.
+    void setSelected(int index);
+
+    HWND getWindowHandle() const { return m_windowHandle; }
+    int getId() const { return m_id; }
+
+private:
+    static LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    static void registerClassOnce(HINSTANCE module);
+    LRESULT wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void handleLeftButtonDown();
+    void paint();
+
+    MirelGuiIF* m_gui;
+    HWND m_windowHandle = nullptr;
+    int m_id = 0;
+    std::vector<std::string> m_texts;
+    int m_selected = 0;
+};
+
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace Gui {
+
+// A dialog with one line of text that stays for as long as something else works, and that the user can't close. [gui]
+class ModalDialog {
+public:
+    // closeMessage: what the dialog's window gets when the work is done.
+    ModalDialog(UINT closeMessage, std::string text) : m_closeMessage(closeMessage), m_text(std::move(text)) {}
+    virtual ~ModalDialog() = default;
+
+    // Starts the work, which ends with closeMessage to this window.
+    virtual void start(HWND dialog) = 0;
+
+    // Shows the dialog in front of its owner until the message comes.
+    void run(HWND owner);
+
+private:
+    static INT_PTR CALLBACK dialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+    INT_PTR dlgProc(HWND dialog, UINT message);
+
+    UINT m_closeMessage;
+    std::string m_text;
+};
+
+}

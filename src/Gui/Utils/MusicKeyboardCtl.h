@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Backend/midi/Note.h"
+
+#include <array>
+#include <cstddef>
+
+namespace Gui {
+
+// A keyboard of all 128 notes that shows which of them sound. [gui]
+class MusicKeyboardCtl {
+public:
+    static constexpr std::size_t KEYS = 128;
+
+    // A note sounds once more, or once less. Numbers that are no note are ignored.
+    void noteOn(Backend::Note note) { change(note, 1); }
+    void noteOff(Backend::Note note) { change(note, -1); }
+
+    // Nothing sounds.
+    void clearHilight() { m_counts = {}; }
+
+    // How often a note was begun and not ended; 0 for what is no note.
+    int getCount(Backend::Note note) const { return note.isNote() ? m_counts[note.getNumber()] : 0; }
+
+private:
+    void change(Backend::Note note, int difference) {
+        if (!note.isNote())
+            return;
+        int& count = m_counts[note.getNumber()];
+        if (count + difference >= 0)
+            count += difference;
+    }
+
+    std::array<int, KEYS> m_counts{};
+};
+
+}

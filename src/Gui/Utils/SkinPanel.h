@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Gui/Utils/Panel.h"
+#include "Gui/Utils/Skinner.h"
+
+namespace Gui {
+
+class MirelGuiIF;
+
+// The panel that every screen is made of: in the desk's look, and without a keyboard focus of its own. Keys, clicks and
+// the focus go up to the main window.
+class SkinPanel : public Panel {
+public:
+    // See Panel. The gui must outlive the panel's window.
+    explicit SkinPanel(MirelGuiIF& gui, int dialogId = 0, bool hasBorder = false)
+        : Panel(dialogId, hasBorder), m_gui(&gui), m_skinner(gui) {}
+
+    // A panel that hides gives the keyboard back to the main window.
+    void showWnd(bool show) override;
+    void createWnd(HINSTANCE module, HWND parentWindow) override;
+
+    // Derived classes hand over what they don't answer themselves.
+    LRESULT wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
+    INT_PTR dlgProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
+
+protected:
+    MirelGuiIF& gui() const { return *m_gui; }
+    Skinner& skinner() { return m_skinner; }
+
+private:
+    MirelGuiIF* m_gui;
+    Skinner m_skinner;
+};
+
+}

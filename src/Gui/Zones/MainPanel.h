@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Gui/ResourceIds.h"
+#include "Gui/Utils/SkinPanel.h"
+
+namespace Gui::Zones {
+
+// The bars of the zones. [gui]
+class MainPanel : public SkinPanel {
+public:
+    explicit MainPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_ZONE_MAIN) {}
+};
+
+}

@@ -1,0 +1,19 @@
+// Where the desk's window is on the screen. Rectangles are those of whole windows, in pixels.
+#pragma once
+
+#include "Backend/core/Rect.h"
+
+#include <cstdint>
+
+namespace Host::Console {
+
+// [any] The window after a move that a message asks for; the words are those of Gui::packWindowMove.
+Rect moveFrame(const Rect& window, std::uintptr_t x, std::uintptr_t y);
+
+// [any] The window at the bottom of its screen.
+Rect dockFrame(const Rect& window, const Rect& workArea);
+
+// [any] The window in the middle of a screen, its top left corner on it in any case.
+Rect centreFrame(const Rect& window, const Rect& workArea);
+
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Backend/core/Rect.h"
+#include "Host/console/FrameLayout.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace Host::Console {
+
+// A picture of 0x00RRGGBB, row after row from the top.
+struct Picture {
+    int width = 0;
+    int height = 0;
+    std::vector<std::uint32_t> pixels;
+
+    std::uint32_t& at(int x, int y) {
+        return pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x)];
+    }
+    std::uint32_t at(int x, int y) const {
+        return pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x)];
+    }
+};
+
+// What the border shows besides metal.
+struct FrameLook {
+    bool isActive = true;
+    FramePart hovered = FramePart::outside;  // The button under the mouse.
+    FramePart pressed = FramePart::outside;
+
+    bool operator==(const FrameLook&) const = default;
+};
+
+// [any] The border of a desk's window, of brushed metal with two round buttons. Where the desk and the icon will be it
+// is black and metal. An empty layout gives an empty picture.
+Picture renderMetalFrame(const FrameLayout& layout, const FrameLook& look);
+
+}

@@ -1,0 +1,165 @@
+#include "Host/console/win32/ConsoleDesk.h"
+
+#include "Backend/core/Bank.h"
+#include "Backend/core/MirelMessageManager.h"
+#include "Backend/core/MirelUtils.h"
+#include "Backend/core/RegistrySettings.h"
+#include "Backend/functions/SelectType.h"
+#include "Gui/MirelGuiIF.h"
+#include "Host/console/DeskFileName.h"
+#include "Host/console/FrameTitle.h"
+#include "Host/console/StartChoices.h"
+#include "Host/console/win32/SingleInstance.h"
+#include "Platform/Files.h"
+#include "Platform/Shell.h"
+
+namespace Host::Console {
+
+using Backend::MirelUtils;
+
+ConsoleDesk::ConsoleDesk(std::shared_ptr<MidiSystem> system, const CommandLine& line)
+    : m_line(line),
+      m_desk(std::move(system), {PRODUCT, MirelUtils::getMirelAppDataDir(), "", !line.recordFile.empty()}) {}
+
+ConsoleDesk::~ConsoleDesk() {
+    removeWindow();
+}
+
+Backend::MirelMessageManager& ConsoleDesk::manager() {
+    return m_desk.mirel().getMessageManager();
+}
+
+bool ConsoleDesk::start(const SingleInstance& instance, int showCommand) {
+    m_desk.start();
+    m_isStopped = false;
+    chooseOutputs();
+    m_gui.reset(manager().sendCreateMirelGui(false));
+    if (!m_gui)
+        return false;
+    FrameWindow::Listener& listener = *this;
+    m_frame = std::make_unique<FrameWindow>(listener, frameOptions());
+    m_gui->create(m_frame->getWindowHandle());
+    m_gui->initialize();
+    m_frame->setGui(m_gui.get());
+    m_frame->show(showCommand);
+    loadFirstPrograms();
+    instance.announce(m_frame->getWindowHandle());
+    return true;
+}
+
+void ConsoleDesk::run() {
+    MSG message;
+    while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+        TranslateMessage(&message);
+        DispatchMessageA(&message);
+        // What the desk hears about its program it doesn't tell its host.
+        if (m_frame)
+            m_frame->refreshTitle();
+    }
+}
+
+void ConsoleDesk::stop() {
+    removeWindow();
+    if (std::exchange(m_isStopped, true))
+        return;
+    m_desk.stop();
+    if (!m_line.recordFile.empty() && !m_desk.ports().recorder().write(m_line.recordFile))
+        Platform::showMessage(m_line.recordFile + ": can't be written.", PRODUCT);
+}
+
+void ConsoleDesk::closeRequested() {
+    PostQuitMessage(0);
+}
+
+// The system ends the program as soon as this returns.
+void ConsoleDesk::sessionEnds() {
+    if (m_gui)
+        m_gui->destroy();
+    if (!std::exchange(m_isStopped, true))
+        m_desk.stop();
+}
+
+void ConsoleDesk::openRequested(const OpenRequest& request) {
+    if (!request.bank.empty())
+        openBank(request.bank);
+    for (const std::string& file : request.files)
+        openFile(file);
+    if (!request.program.empty())
+        openProgram(request.program);
+}
+
+void ConsoleDesk::timePassed() {
+    m_frame->refreshTitle();
+    if (!m_desk.hasFailed() || std::exchange(m_hasToldFailure, true))
+        return;
+    Platform::showMessage("The player has stopped. Start the desk again.", PRODUCT);
+    closeRequested();
+}
+
+FrameWindow::Options ConsoleDesk::frameOptions() {
+    const auto& settings = m_desk.mirel().getRegistrySettings();
+    return {settings.getUseSkinBorder(), settings.getAlwaysOnTop(), settings.getDockToBottomEdge(),
+            settings.getGlobalKeyboard()};
+}
+
+void ConsoleDesk::chooseOutputs() {
+    const auto outputs = m_desk.ports().outputs();
+    if (!m_line.recordFile.empty())
+        for (std::size_t i = 0; i < outputs.size(); ++i)
+            if (outputs[i].id == MidiPortId{Recorder::NAME, PortList::BUILT_IN})
+                manager().postEnableMidiOutput(static_cast<int>(i), true);
+    m_desk.waitUntilIdle();
+    const int output = findBetterOutput(outputs, m_desk.mirel().getRegistrySettings().getDefaultMidiOutput());
+    if (output >= 0)
+        manager().postChangeDefaultMidiOutput(SelectType(SelectType::specific, output));
+}
+
+void ConsoleDesk::loadFirstPrograms() {
+    const std::string& defaultBank = m_desk.mirel().getRegistrySettings().getDefaultBank();
+    if (m_line.bank.empty() && !defaultBank.empty())
+        manager().postLoadBank(defaultBank);
+    openRequested({m_line.bank, m_line.program, m_line.files});
+}
+
+void ConsoleDesk::openFile(const std::string& path) {
+    switch (kindOfDeskFile(path)) {
+        case DeskFileKind::bank: return openBank(path);
+        case DeskFileKind::program: return openProgram(path);
+        case DeskFileKind::none:
+            return Platform::showMessage(path + ": is neither a bank (.bnk) nor a program (.prg).", PRODUCT);
+    }
+}
+
+void ConsoleDesk::openBank(const std::string& path) {
+    if (Platform::Files::size(path))
+        manager().postLoadBank(withLowerCaseExtension(path));
+    else
+        Platform::showMessage(path + ": can't be read.", PRODUCT);
+}
+
+void ConsoleDesk::openProgram(const std::string& wanted) {
+    if (kindOfDeskFile(wanted) == DeskFileKind::program) {
+        if (Platform::Files::size(wanted))
+            manager().postLoadProgram(withLowerCaseExtension(wanted));
+        else
+            Platform::showMessage(wanted + ": can't be read.", PRODUCT);
+        return;
+    }
+    m_desk.waitUntilIdle();
+    const int index = findProgram(m_desk.mirel().getCurrentBank().getProgramNames(), wanted);
+    if (index >= 0)
+        manager().postChangeProgram(SelectType(SelectType::specific, index));
+    else
+        Platform::showMessage("The bank has no program \"" + wanted + "\".", PRODUCT);
+}
+
+void ConsoleDesk::removeWindow() {
+    if (m_gui)
+        m_gui->destroy();
+    if (m_frame)
+        m_frame->setGui(nullptr);
+    m_gui.reset();
+    m_frame.reset();
+}
+
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "Host/common/PortDesk.h"
+#include "Host/console/CommandLine.h"
+#include "Host/console/OpenRequest.h"
+#include "Host/console/win32/FrameWindow.h"
+
+#include <memory>
+#include <string>
+
+namespace Gui {
+class MirelGuiIF;
+}
+
+namespace Host::Console {
+
+class SingleInstance;
+
+// The whole program: a desk on the computer's ports, its window and the frame around it. [main]
+class ConsoleDesk : private FrameWindow::Listener {
+public:
+    // The data folder must be in use already.
+    ConsoleDesk(std::shared_ptr<MidiSystem> system, const CommandLine& line);
+    ~ConsoleDesk();
+    ConsoleDesk(const ConsoleDesk&) = delete;
+    ConsoleDesk& operator=(const ConsoleDesk&) = delete;
+
+    // Starts the desk and shows it. False if this build has no window.
+    bool start(const SingleInstance& instance, int showCommand);
+
+    // Runs until the user closes the window, or it is closed otherwise.
+    void run();
+
+    // Takes the window away, ends all that sounds and keeps the settings and the recording.
+    void stop();
+
+    HWND getFrameWindow() const { return m_frame->getWindowHandle(); }
+    Gui::MirelGuiIF& gui() { return *m_gui; }
+    PortDesk& desk() { return m_desk; }
+
+private:
+    void closeRequested() override;
+    void sessionEnds() override;
+    void openRequested(const OpenRequest& request) override;
+    void timePassed() override;
+
+    Backend::MirelMessageManager& manager();
+    FrameWindow::Options frameOptions();
+    void chooseOutputs();
+    void loadFirstPrograms();
+    void openFile(const std::string& path);
+    void openBank(const std::string& path);
+    void openProgram(const std::string& wanted);
+    void removeWindow();
+
+    const CommandLine m_line;
+    PortDesk m_desk;
+    std::unique_ptr<FrameWindow> m_frame;
+    std::unique_ptr<Gui::MirelGuiIF> m_gui;
+    bool m_isStopped = true;
+    bool m_hasToldFailure = false;
+};
+
+}

@@ -1,0 +1,302 @@
+// What a desk's window does for the desk. The metallic border's messages are in FrameWindowBorder.cpp.
+#include "Host/console/win32/FrameWindow.h"
+
+#include "Gui/MirelGuiIF.h"
+#include "Gui/Rules/WindowMove.h"
+#include "Gui/Utils/UserMessages.h"
+#include "Host/console/FramePlacement.h"
+#include "Host/console/FrameTitle.h"
+#include "Host/console/win32/ResourceIds.h"
+#include "Host/console/win32/SingleInstance.h"
+
+#include <shellapi.h>
+
+namespace Host::Console {
+
+namespace {
+
+constexpr const char* CLASS_NAME = "MirelConsoleFrame";
+constexpr UINT_PTR TIMER = 1;
+constexpr UINT TIMER_INTERVAL = 500;  // In milliseconds.
+
+void registerClassOnce() {
+    static const ATOM registered = [] {
+        WNDCLASSEXA description{};
+        description.cbSize = sizeof description;
+        description.lpfnWndProc = DefWindowProcA;
+        description.hInstance = GetModuleHandleA(nullptr);
+        description.hCursor = LoadCursorA(nullptr, IDC_ARROW);
+        description.lpszClassName = CLASS_NAME;
+        return RegisterClassExA(&description);
+    }();
+    static_cast<void>(registered);
+}
+
+HICON loadIcon(int width, int height) {
+    return static_cast<HICON>(
+        LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDI_MIREL_CONSOLE), IMAGE_ICON, width, height, 0));
+}
+
+RECT toWindows(const Rect& rect) {
+    return {rect.left, rect.top, rect.right, rect.bottom};
+}
+
+Rect fromWindows(const RECT& rect) {
+    return {rect.left, rect.top, rect.right, rect.bottom};
+}
+
+}
+
+FrameWindow::FrameWindow(Listener& listener, const Options& options)
+    : m_listener(listener),
+      m_options(options),
+      m_icon(loadIcon(GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON))),
+      m_smallIcon(loadIcon(GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON))),
+      m_title(PRODUCT) {
+    registerClassOnce();
+    m_window =
+        CreateWindowExA(WS_EX_APPWINDOW | (options.alwaysOnTop ? WS_EX_TOPMOST : 0u), CLASS_NAME, m_title.c_str(),
+                        style(), 0, 0, 0, 0, nullptr, nullptr, GetModuleHandleA(nullptr), nullptr);
+    SetWindowLongPtrA(m_window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    SetWindowLongPtrA(m_window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&windowProcedure));
+    SendMessageA(m_window, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(m_icon));
+    SendMessageA(m_window, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(m_smallIcon));
+    // The desk alone decides about its size.
+    const HMENU menu = GetSystemMenu(m_window, FALSE);
+    DeleteMenu(menu, SC_SIZE, MF_BYCOMMAND);
+    DeleteMenu(menu, SC_MAXIMIZE, MF_BYCOMMAND);
+    DragAcceptFiles(m_window, TRUE);
+    SetTimer(m_window, TIMER, TIMER_INTERVAL, nullptr);
+    setDeskSize(0, 0);
+}
+
+FrameWindow::~FrameWindow() {
+    DestroyWindow(m_window);
+    DestroyIcon(m_icon);
+    DestroyIcon(m_smallIcon);
+}
+
+void FrameWindow::setGui(Gui::MirelGuiIF* gui) {
+    m_gui = gui;
+    refreshTitle();
+}
+
+void FrameWindow::show(int command) {
+    MSG message;
+    while (PeekMessageA(&message, m_window, Gui::UM_SIZE_CHANGED, Gui::UM_MOVE_WINDOW, PM_REMOVE))
+        DispatchMessageA(&message);
+    if (!m_wasPlaced) {
+        const Rect middle = centreFrame(position(), workArea());
+        place(m_options.dockToBottomEdge ? dockFrame(middle, workArea()) : middle);
+    }
+    refreshTitle();
+    ShowWindow(m_window, command);
+}
+
+void FrameWindow::comeToFront() {
+    if (IsIconic(m_window))
+        ShowWindow(m_window, SW_RESTORE);
+    SetForegroundWindow(m_window);
+}
+
+void FrameWindow::refreshTitle() {
+    std::string title = PRODUCT;
+    if (m_gui) {
+        const auto& program = static_cast<const Gui::MirelGuiIF*>(m_gui)->getCurrentProgram();
+        title = makeFrameTitle(m_gui->getCurrentBankName(), program.getName(), program.getIndex(),
+                               m_options.globalKeyboard);
+    }
+    if (title == m_title)
+        return;
+    m_title = title;
+    SetWindowTextA(m_window, m_title.c_str());
+    paintBorder();
+}
+
+LRESULT CALLBACK FrameWindow::windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    auto* const self = reinterpret_cast<FrameWindow*>(GetWindowLongPtrA(window, GWLP_USERDATA));
+    return self->wndProc(message, wParam, lParam);
+}
+
+LRESULT FrameWindow::wndProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (handleDeskMessage(message, wParam, lParam))
+        return 0;
+    if (LRESULT result = 0; m_options.useSkinBorder && handleBorderMessage(message, wParam, lParam, result))
+        return result;
+    switch (message) {
+        case WM_CLOSE: m_listener.closeRequested(); return 0;
+        case WM_ENDSESSION:
+            if (wParam)
+                m_listener.sessionEnds();
+            return 0;
+        case WM_TIMER: m_listener.timePassed(); return 0;
+        case WM_SETFOCUS:
+            if (m_gui)
+                m_gui->setFocus();
+            return 0;
+        case WM_ERASEBKGND: {
+            RECT client;
+            GetClientRect(m_window, &client);
+            FillRect(reinterpret_cast<HDC>(wParam), &client, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+            return 1;
+        }
+        case WM_GETMINMAXINFO: {
+            // A desk may be smaller than other windows, and higher than the screen.
+            constexpr LONG LARGEST = 0x7fff;
+            auto& info = *reinterpret_cast<MINMAXINFO*>(lParam);
+            info.ptMinTrackSize = {1, 1};
+            info.ptMaxTrackSize = {LARGEST, LARGEST};
+            return 0;
+        }
+        case WM_DROPFILES: takeDroppedFiles(reinterpret_cast<HDROP>(wParam)); return 0;
+        case WM_COPYDATA: {
+            OpenRequest request;
+            if (!SingleInstance::read(*reinterpret_cast<const COPYDATASTRUCT*>(lParam), request))
+                return FALSE;
+            // Who sent it waits; a message box that this may open must not keep it.
+            ReplyMessage(TRUE);
+            comeToFront();
+            m_listener.openRequested(request);
+            return TRUE;
+        }
+        case WM_DISPLAYCHANGE: comeIntoReach(); break;
+        default: break;
+    }
+    return DefWindowProcA(m_window, message, wParam, lParam);
+}
+
+bool FrameWindow::handleDeskMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case Gui::UM_SIZE_CHANGED: setDeskSize(static_cast<int>(wParam), static_cast<int>(lParam)); return true;
+        case Gui::UM_DOCK_CHANGED: setDock(wParam != 0); return true;
+        case Gui::UM_ALWAYS_ON_TOP_CHANGED: setAlwaysOnTop(wParam != 0); return true;
+        case Gui::UM_SKIN_BORDER_CHANGED: setSkinBorder(wParam != 0); return true;
+        case Gui::UM_GLOBAL_KEYBOARD_CHANGED:
+            m_options.globalKeyboard = wParam != 0;
+            refreshTitle();
+            return true;
+        case Gui::UM_BANK_CHANGED: refreshTitle(); return true;
+        case Gui::UM_MOVE_WINDOW:
+            m_wasPlaced = m_wasPlaced || !Gui::unpackWindowMove(wParam).isRelative();
+            place(moveFrame(position(), wParam, static_cast<std::uintptr_t>(lParam)));
+            return true;
+        case Gui::UM_SYSTEM_PANEL_SHOWN:
+        case Gui::UM_MIDI_THRU_CHANGED: return true;  // The desk shows both itself.
+        default: return false;
+    }
+}
+
+DWORD FrameWindow::style() const {
+    constexpr DWORD COMMON = WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
+    // Without a caption the system draws nothing of its own.
+    return COMMON | (m_options.useSkinBorder ? WS_POPUP : WS_OVERLAPPED | WS_CAPTION);
+}
+
+void FrameWindow::setDeskSize(int width, int height) {
+    m_deskSize = {width, height};
+    Rect rect = position();
+    RECT size{0, 0, width, height};
+    if (m_options.useSkinBorder) {
+        const FrameLayout wanted = FrameLayout::around(width, height);
+        size = {0, 0, wanted.width(), wanted.height()};
+    } else {
+        AdjustWindowRectEx(&size, style(), FALSE, WS_EX_APPWINDOW);
+    }
+    rect.right = rect.left + (size.right - size.left);
+    rect.bottom = rect.top + (size.bottom - size.top);
+    place(rect);
+}
+
+// The desk stays where it is on the screen, the border changes around it.
+void FrameWindow::setSkinBorder(bool useSkinBorder) {
+    if (useSkinBorder == m_options.useSkinBorder)
+        return;
+    POINT before{0, 0};
+    ClientToScreen(m_window, &before);
+    m_options.useSkinBorder = useSkinBorder;
+    m_look = {GetActiveWindow() == m_window, FramePart::outside, FramePart::outside};
+    const DWORD visible = static_cast<DWORD>(GetWindowLongPtrA(m_window, GWL_STYLE)) & (WS_VISIBLE | WS_MINIMIZE);
+    SetWindowLongPtrA(m_window, GWL_STYLE, static_cast<LONG_PTR>(style() | visible));
+    SetWindowPos(m_window, nullptr, 0, 0, 0, 0,
+                 SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    setDeskSize(m_deskSize.cx, m_deskSize.cy);
+    POINT after{0, 0};
+    ClientToScreen(m_window, &after);
+    if (!IsIconic(m_window)) {
+        Rect rect = position();
+        const std::int32_t dx = before.x - after.x;
+        const std::int32_t dy = before.y - after.y;
+        place({rect.left + dx, rect.top + dy, rect.right + dx, rect.bottom + dy});
+    }
+    RedrawWindow(m_window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
+void FrameWindow::setAlwaysOnTop(bool alwaysOnTop) {
+    m_options.alwaysOnTop = alwaysOnTop;
+    SetWindowPos(m_window, alwaysOnTop ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+// From here on the desk itself keeps the lower edge in its place.
+void FrameWindow::setDock(bool dock) {
+    m_options.dockToBottomEdge = dock;
+    if (dock)
+        place(dockFrame(position(), workArea()));
+}
+
+void FrameWindow::place(const Rect& rect) {
+    if (IsIconic(m_window)) {
+        WINDOWPLACEMENT placement{};
+        placement.length = sizeof placement;
+        GetWindowPlacement(m_window, &placement);
+        placement.rcNormalPosition = toWindows(rect);
+        SetWindowPlacement(m_window, &placement);
+        return;
+    }
+    SetWindowPos(m_window, nullptr, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+Rect FrameWindow::position() const {
+    if (IsIconic(m_window)) {
+        WINDOWPLACEMENT placement{};
+        placement.length = sizeof placement;
+        GetWindowPlacement(m_window, &placement);
+        return fromWindows(placement.rcNormalPosition);
+    }
+    RECT rect;
+    GetWindowRect(m_window, &rect);
+    return fromWindows(rect);
+}
+
+Rect FrameWindow::workArea() const {
+    const RECT rect = toWindows(position());
+    MONITORINFO info{};
+    info.cbSize = sizeof info;
+    GetMonitorInfoA(MonitorFromRect(&rect, MONITOR_DEFAULTTONEAREST), &info);
+    return fromWindows(info.rcWork);
+}
+
+// A screen that goes must not take the desk along.
+void FrameWindow::comeIntoReach() {
+    const RECT rect = toWindows(position());
+    if (!MonitorFromRect(&rect, MONITOR_DEFAULTTONULL))
+        place(centreFrame(position(), workArea()));
+    else if (m_options.dockToBottomEdge && rect.bottom > workArea().bottom)
+        place(dockFrame(position(), workArea()));
+}
+
+void FrameWindow::takeDroppedFiles(HDROP drop) {
+    OpenRequest request;
+    const UINT count = DragQueryFileA(drop, 0xffffffff, nullptr, 0);
+    for (UINT i = 0; i < count; ++i) {
+        std::string path(DragQueryFileA(drop, i, nullptr, 0) + 1, '\0');
+        path.resize(DragQueryFileA(drop, i, path.data(), static_cast<UINT>(path.size())));
+        request.files.push_back(path);
+    }
+    DragFinish(drop);
+    comeToFront();
+    m_listener.openRequested(request);
+}
+
+}

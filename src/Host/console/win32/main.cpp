@@ -1,0 +1,98 @@
+// The desk with a window.
+#include "Backend/core/MirelUtils.h"
+#include "Host/common/MidiSystem.h"
+#include "Host/console/CommandLine.h"
+#include "Host/console/FrameTitle.h"
+#include "Host/console/win32/ConsoleDesk.h"
+#include "Host/console/win32/SingleInstance.h"
+#include "Platform/Shell.h"
+
+#include <windows.h>
+
+#include <cstdlib>
+#include <exception>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace Host::Console;
+
+constexpr const char* PORT_NAME = "Mirel";
+constexpr int DONE = 0;
+constexpr int FAILED = 1;
+
+// To who started the program: a file or a terminal if there is one, else a box.
+void tell(DWORD stream, const std::string& text) {
+    HANDLE file = GetStdHandle(stream);
+    if ((!file || file == INVALID_HANDLE_VALUE) && AttachConsole(ATTACH_PARENT_PROCESS))
+        file =
+            CreateFileA("CONOUT$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
+    DWORD written = 0;
+    if (!file || file == INVALID_HANDLE_VALUE ||
+        !WriteFile(file, text.data(), static_cast<DWORD>(text.size()), &written, nullptr))
+        Platform::showMessage(text, PRODUCT);
+}
+
+int fail(const std::string& error) {
+    tell(STD_ERROR_HANDLE, "MirelConsole: " + error + "\n");
+    return FAILED;
+}
+
+// What the other desk can understand, wherever it was started.
+std::string makeFull(const std::string& path) {
+    std::string full(GetFullPathNameA(path.c_str(), 0, nullptr, nullptr), '\0');
+    full.resize(GetFullPathNameA(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
+    return full.empty() ? path : full;
+}
+
+OpenRequest makeRequest(const CommandLine& line) {
+    OpenRequest request{line.bank.empty() ? "" : makeFull(line.bank), line.program, {}};
+    if (request.program.ends_with(".prg"))
+        request.program = makeFull(request.program);
+    for (const std::string& file : line.files)
+        request.files.push_back(makeFull(file));
+    return request;
+}
+
+int runDesk(const CommandLine& line, int showCommand) {
+    if (!line.dataFolder.empty())
+        Backend::MirelUtils::useDataFolder(line.dataFolder);
+    SingleInstance instance(Backend::MirelUtils::getMirelAppDataDir());
+    switch (instance.enter(makeRequest(line))) {
+        case SingleInstance::Result::handedOver:
+            return line.recordFile.empty() ? DONE
+                                           : fail("a desk runs with these data already, so --record does nothing");
+        case SingleInstance::Result::failed: return fail("a desk runs with these data already, and does not answer");
+        case SingleInstance::Result::first: break;
+    }
+    ConsoleDesk desk(Host::createMidiSystem(PORT_NAME), line);
+    if (!desk.start(instance, showCommand))
+        return fail("this build has no window");
+    desk.run();
+    desk.stop();
+    return DONE;
+}
+
+}
+
+int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int showCommand) {
+    std::string error;
+    const std::vector<std::string> arguments(__argv + (__argc > 0 ? 1 : 0), __argv + __argc);
+    const auto line = CommandLine::parse(arguments, error);
+    if (!line)
+        return fail(error + "; MirelConsole --help tells more");
+    switch (line->action) {
+        case CommandLine::Action::showHelp: tell(STD_OUTPUT_HANDLE, CommandLine::USAGE); return DONE;
+        case CommandLine::Action::showVersion:
+            tell(STD_OUTPUT_HANDLE, std::string(PRODUCT) + " " + VERSION + "\n");
+            return DONE;
+        case CommandLine::Action::run: break;
+    }
+    try {
+        return runDesk(*line, showCommand);
+    } catch (const std::exception& failure) {
+        return fail(failure.what());
+    }
+}

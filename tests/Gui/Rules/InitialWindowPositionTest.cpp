@@ -1,0 +1,32 @@
+#include "Gui/Rules/InitialWindowPosition.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Gui::chooseInitialWindowPosition;
+using Gui::WindowPosition;
+
+constexpr Rect LAST{30, 400, 630, 700};
+
+TEST(InitialWindowPosition, IsTheLastTopLeftCorner) {
+    EXPECT_EQ(chooseInitialWindowPosition(LAST, false, {0, 0, 600, 100}), (WindowPosition{30, 400}));
+}
+
+TEST(InitialWindowPosition, KeepsTheBottomEdgeOfADockedWindow) {
+    EXPECT_EQ(chooseInitialWindowPosition(LAST, true, {0, 0, 600, 100}), (WindowPosition{30, 600}));
+    EXPECT_EQ(chooseInitialWindowPosition(LAST, true, {5, 0, 605, 300}), (WindowPosition{30, 400}));
+}
+
+TEST(InitialWindowPosition, AddsTheTopOfADockedWindowThatIsElsewhere) {
+    EXPECT_EQ(chooseInitialWindowPosition(LAST, true, {0, 20, 600, 120}), (WindowPosition{30, 620}));
+}
+
+TEST(InitialWindowPosition, IsKnownOnlyWithoutNegativeCoordinates) {
+    EXPECT_TRUE((WindowPosition{0, 0}).isKnown());
+    EXPECT_FALSE((WindowPosition{-1, 0}).isKnown());
+    EXPECT_FALSE((WindowPosition{0, -1}).isKnown());
+    EXPECT_FALSE(WindowPosition().isKnown());
+}
+
+}

@@ -1,0 +1,27 @@
+#include "Host/console/DeskFileName.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace Host::Console;
+
+TEST(DeskFileName, KnowsBanksAndProgramsByTheirExtensions) {
+    EXPECT_EQ(kindOfDeskFile("C:\\My Music\\live.bnk"), DeskFileKind::bank);
+    EXPECT_EQ(kindOfDeskFile("live.BNK"), DeskFileKind::bank);
+    EXPECT_EQ(kindOfDeskFile("lead.Prg"), DeskFileKind::program);
+}
+
+TEST(DeskFileName, TakesNothingElse) {
+    for (const char* path : {"", "bnk", "a.bnk.txt", "a.prgx", "folder.bnk\\file", "folder.prg/file", ".", "a."})
+        EXPECT_EQ(kindOfDeskFile(path), DeskFileKind::none) << path;
+}
+
+TEST(DeskFileName, LowersTheExtensionAlone) {
+    EXPECT_EQ(withLowerCaseExtension("C:\\A.B\\Lead.PRG"), "C:\\A.B\\Lead.prg");
+    EXPECT_EQ(withLowerCaseExtension("Zo\xc3\x8b.BNK"), "Zo\xc3\x8b.bnk");
+    EXPECT_EQ(withLowerCaseExtension("FOLDER.X\\NAME"), "FOLDER.X\\NAME");
+    EXPECT_EQ(withLowerCaseExtension(""), "");
+}
+
+}

@@ -1,0 +1,209 @@
+// The program as a user starts it.
+#include "Gui/Utils/UserMessages.h"
+#include "Platform/Files.h"
+#include "tests/support/ProjectFolder.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tests/support/win32/TestWindows.h"
+
+#include <gtest/gtest.h>
+
+namespace Host::Console {
+namespace {
+
+using TestSupport::eventually;
+using TestSupport::projectFile;
+using TestSupport::textOf;
+
+std::string programPath() {
+    std::string path(0x8000, '\0');
+    path.resize(GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return path.substr(0, path.rfind('\\') + 1) + MIREL_CONSOLE;
+}
+
+// A process of the program; what it writes goes into a file.
+class Program {
+public:
+    Program(const std::string& arguments, const std::string& outputFile) {
+        SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+        const HANDLE output = CreateFileA(outputFile.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                          &inherited, CREATE_ALWAYS, 0, nullptr);
+        STARTUPINFOA info{};
+        info.cb = sizeof info;
+        info.dwFlags = STARTF_USESTDHANDLES;
+        info.hStdOutput = output;
+        info.hStdError = output;
+        std::string line = "\"" + programPath() + "\" " + arguments;
+        EXPECT_TRUE(
+            CreateProcessA(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &info, &m_process))
+            << line;
+        CloseHandle(output);
+    }
+
+    ~Program() {
+        TerminateProcess(m_process.hProcess, 99);
+        WaitForSingleObject(m_process.hProcess, INFINITE);
+        CloseHandle(m_process.hProcess);
+        CloseHandle(m_process.hThread);
+    }
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    // The exit status; 98 for one that hangs.
+    DWORD wait() const {
+        constexpr DWORD LIMIT = 60000;
+        constexpr DWORD HANGS = 98;
+        if (WaitForSingleObject(m_process.hProcess, LIMIT) != WAIT_OBJECT_0)
+            return HANGS;
+        DWORD status = HANGS;
+        GetExitCodeProcess(m_process.hProcess, &status);
+        return status;
+    }
+
+    // Its frame, once it is visible.
+    HWND waitForFrame() const {
+        HWND frame = nullptr;
+        eventually([this, &frame] {
+            frame = findFrame();
+            return frame != nullptr || WaitForSingleObject(m_process.hProcess, 0) == WAIT_OBJECT_0;
+        });
+        return frame;
+    }
+
+    HWND findFrame() const {
+        for (HWND window = FindWindowExA(nullptr, nullptr, "MirelConsoleFrame", nullptr); window;
+             window = FindWindowExA(nullptr, window, "MirelConsoleFrame", nullptr)) {
+            DWORD process = 0;
+            GetWindowThreadProcessId(window, &process);
+            if (process == m_process.dwProcessId && IsWindowVisible(window))
+                return window;
+        }
+        return nullptr;
+    }
+
+private:
+    PROCESS_INFORMATION m_process{};
+};
+
+class MirelConsoleTest : public testing::Test {
+protected:
+    std::string data() const { return "--data \"" + folder.file("data") + "\""; }
+    std::string output() const { return folder.file("output.txt"); }
+    std::string readOutput() const { return Platform::Files::read(output()).value_or(""); }
+
+    std::string copy(const std::string& from, const std::string& name) const {
+        EXPECT_TRUE(Platform::Files::replace(folder.file(name), Platform::Files::read(projectFile(from)).value_or("")));
+        return folder.file(name);
+    }
+
+    static bool waitForTitle(HWND frame, const std::string& title) {
+        return eventually([&] { return textOf(frame) == title; });
+    }
+
+    TestSupport::TemporaryFolder folder;
+};
+
+TEST_F(MirelConsoleTest, TellsItsUsageAndVersion) {
+    EXPECT_EQ(Program("--help", output()).wait(), 0u);
+    EXPECT_TRUE(readOutput().starts_with("usage: MirelConsole")) << readOutput();
+    EXPECT_EQ(Program("--version", output()).wait(), 0u);
+    EXPECT_EQ(readOutput(), "Mirel Console 3 LE 3.2\n");
+}
+
+TEST_F(MirelConsoleTest, SaysWhatItDoesNotUnderstand) {
+    EXPECT_EQ(Program("--bogus", output()).wait(), 1u);
+    EXPECT_EQ(readOutput(), "MirelConsole: there is no option --bogus; MirelConsole --help tells more\n");
+}
+
+TEST_F(MirelConsoleTest, ShowsADeskThatFillsItsFrameAndClosesIt) {
+    const Program program(data(), output());
+    const HWND frame = program.waitForFrame();
+    ASSERT_NE(frame, nullptr) << readOutput();
+    EXPECT_TRUE(waitForTitle(frame, "Mirel Console 3 LE"));
+    const HWND desk = FindWindowExA(frame, nullptr, "MirelGuiWindow2008LE", nullptr);
+    ASSERT_NE(desk, nullptr);
+    RECT client;
+    RECT inside;
+    GetClientRect(frame, &client);
+    GetClientRect(desk, &inside);
+    EXPECT_EQ(client.right, inside.right);
+    EXPECT_EQ(client.bottom, inside.bottom);
+    EXPECT_GT(inside.right, 300);
+    PostMessageA(frame, WM_CLOSE, 0, 0);
+    EXPECT_EQ(program.wait(), 0u);
+    EXPECT_TRUE(Platform::Files::size(folder.file("data/settings")));
+}
+
+TEST_F(MirelConsoleTest, OpensABankAndAProgramInIt) {
+    const std::string bank = copy("tests/data/banks/three.bnk", "Live Set.bnk");
+    const Program program(data() + " --bank \"" + bank + "\" --program 2", output());
+    const HWND frame = program.waitForFrame();
+    ASSERT_NE(frame, nullptr) << readOutput();
+    EXPECT_TRUE(eventually([frame] {
+        const std::string title = textOf(frame);
+        return title.starts_with("2 - ") && title.ends_with(" - Live Set - Mirel Console 3 LE");
+    })) << textOf(frame);
+}
+
+TEST_F(MirelConsoleTest, OpensAFileOfAnyCase) {
+    const std::string bank = copy("tests/data/banks/three.bnk", "Loud.BNK");
+    const Program program(data() + " \"" + bank + "\"", output());
+    const HWND frame = program.waitForFrame();
+    ASSERT_NE(frame, nullptr) << readOutput();
+    EXPECT_TRUE(eventually([frame] { return textOf(frame).ends_with(" - Loud - Mirel Console 3 LE"); }))
+        << textOf(frame);
+}
+
+TEST_F(MirelConsoleTest, ASecondStartHandsItsFilesToTheFirst) {
+    const Program first(data(), output());
+    const HWND frame = first.waitForFrame();
+    ASSERT_NE(frame, nullptr) << readOutput();
+    const std::string bank = copy("tests/data/banks/three.bnk", "Late.bnk");
+    const Program second(data() + " \"" + bank + "\"", folder.file("second.txt"));
+    EXPECT_EQ(second.wait(), 0u);
+    EXPECT_TRUE(eventually([frame] { return textOf(frame).ends_with(" - Late - Mirel Console 3 LE"); }))
+        << textOf(frame);
+    const Program other("--data \"" + folder.file("other") + "\"", folder.file("third.txt"));
+    EXPECT_NE(other.waitForFrame(), nullptr);
+}
+
+TEST_F(MirelConsoleTest, ComesBackWhereItWas) {
+    const auto corner = [](HWND frame) {
+        RECT rect;
+        GetWindowRect(frame, &rect);
+        return POINT{rect.left, rect.top};
+    };
+    {
+        const Program program(data(), output());
+        const HWND frame = program.waitForFrame();
+        ASSERT_NE(frame, nullptr) << readOutput();
+        SetWindowPos(frame, nullptr, 33, 44, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        PostMessageA(frame, WM_CLOSE, 0, 0);
+        EXPECT_EQ(program.wait(), 0u);
+    }
+    const Program program(data(), output());
+    const HWND frame = program.waitForFrame();
+    ASSERT_NE(frame, nullptr) << readOutput();
+    EXPECT_EQ(corner(frame).x, 33);
+    EXPECT_EQ(corner(frame).y, 44);
+}
+
+TEST_F(MirelConsoleTest, WritesWhatWasPlayed) {
+    const std::string record = folder.file("played.mid");
+    const Program program(data() + " --record \"" + record + "\"", output());
+    const HWND frame = program.waitForFrame();
+    ASSERT_NE(frame, nullptr) << readOutput();
+    const HWND desk = FindWindowExA(frame, nullptr, "MirelGuiWindow2008LE", nullptr);
+    // A key of the built-in keys that plays a note.
+    SendMessageA(desk, WM_KEYDOWN, 'Q', 1);
+    SendMessageA(desk, WM_KEYUP, 'Q', static_cast<LPARAM>(0xc0000001));
+    SendMessageA(desk, WM_KEYDOWN, 'Z', 1);
+    SendMessageA(desk, WM_KEYUP, 'Z', static_cast<LPARAM>(0xc0000001));
+    PostMessageA(frame, WM_CLOSE, 0, 0);
+    EXPECT_EQ(program.wait(), 0u);
+    const std::string content = Platform::Files::read(record).value_or("");
+    EXPECT_TRUE(content.starts_with("MThd"));
+    EXPECT_NE(content.find('\x90'), std::string::npos);
+}
+
+}
+}

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "Backend/core/Mirel.h"
+#include "Backend/midi/MidiPlayer.h"
+#include "Gui/MirelGui.h"
+#include "Platform/MessageThread.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tests/support/win32/TestWindows.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace TestSupport {
+
+// A whole desk with its real window, in a host's window that remembers what it gets. The thread of the test is the
+// window's. One at a time.
+class WindowDesk : private Backend::MidiEngine::MidiPlayer {
+public:
+    WindowDesk();
+    ~WindowDesk() override;
+    WindowDesk(const WindowDesk&) = delete;
+    WindowDesk& operator=(const WindowDesk&) = delete;
+
+    // Before start: settings as an earlier run left them, and the folder of the program.
+    void prepareSettings(const std::function<void(Backend::RegistrySettings&)>& set);
+    void prepareProgramFolder(const std::string& folder);
+
+    // The host's start, with two inputs and three outputs, without a window.
+    void start();
+
+    // Makes the window, fills it, and waits until all is done.
+    Gui::MirelGui& open(bool isVstPlugin = false);
+
+    // Destroys the window and its object.
+    void close();
+
+    Backend::Mirel& mirel() { return *m_mirel; }
+    Gui::MirelGui& gui() { return *m_gui; }
+    HWND window() { return m_gui->getWindowHandle(); }
+
+    // Hands out messages until nothing goes on on any thread.
+    void settle();
+
+    // The size of the desk's window.
+    SIZE size();
+
+    // Posts what the desk would, with an object that the window is to free, and waits until it is done.
+    void tell(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+
+    // The keys that the desk got since the last call: "down CODE MODIFIERS", with "repeat", or "up CODE MODIFIERS".
+    std::vector<std::string> takeKeys();
+
+    std::string file(const std::string& name) const { return m_folder.file(name); }
+
+    TestWindow host{800, 600};
+
+private:
+    class WitnessMirel;
+
+    void playMidi(const Backend::MidiEngine::MirelMidiMessage&) override {}
+    void enableMidiInput(int, bool) override {}
+    void enableMidiOutput(int, bool) override {}
+    DWORD getThreadId() override { return m_threadId; }
+    void pulseSequencer() override {}
+    void setTempo(int) override {}
+    void setTempoSource(char) override {}
+    char getTempoSource() override { return -1; }
+
+    TemporaryFolder m_folder;
+    const DWORD m_threadId = Platform::currentThreadId();
+    std::vector<std::string> m_keys;
+    std::unique_ptr<Backend::Mirel> m_mirel;
+    std::unique_ptr<Gui::MirelGui> m_gui;
+    bool m_isRunning = false;
+};
+
+}
