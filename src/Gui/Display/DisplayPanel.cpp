@@ -67,7 +67,7 @@ void DisplayPanel::showWnd(bool show) {
 
 INT_PTR DisplayPanel::dlgProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case UM_DISPLAY_CREATED: m_display.postSendAll(); return 1;
+        case UM_DISPLAY_CREATED: requestText(true); return 1;
         case WM_TIMER: handleTimer(); return 1;
         case WM_SIZE: handleSize(HIWORD(lParam)); return 1;
         case WM_DESTROY: handleDestroy(); return 1;
@@ -81,8 +81,17 @@ INT_PTR DisplayPanel::dlgProc(HWND window, UINT message, WPARAM wParam, LPARAM l
     }
 }
 
-void DisplayPanel::handleTimer() const {
-    if (isVisible())
+void DisplayPanel::handleTimer() {
+    // One request at a time: with the log's thread waiting for this one, a post to its full queue would wait for ever.
+    if (isVisible() && (!m_isAwaitingText || m_display.isIdle()))
+        requestText(false);
+}
+
+void DisplayPanel::requestText(bool all) {
+    m_isAwaitingText = true;
+    if (all)
+        m_display.postSendAll();
+    else
         m_display.postFlush();
 }
 
@@ -109,14 +118,20 @@ void DisplayPanel::append(const char* text) {
         const std::string shown = readText();
         m_length = shown.size();
         if (DisplayText::isFull(m_length, added))
-            setText(DisplayText::makeRoom(shown, added).c_str());
+            replaceText(DisplayText::makeRoom(shown, added).c_str());
     }
     SendMessageA(m_edit, EM_SETSEL, BEYOND_THE_END, BEYOND_THE_END);
     SendMessageA(m_edit, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(text));
     m_length += added;
+    m_isAwaitingText = false;
 }
 
 void DisplayPanel::setText(const char* text) {
+    replaceText(text);
+    m_isAwaitingText = false;
+}
+
+void DisplayPanel::replaceText(const char* text) {
     const std::size_t length = std::strlen(text);
     if (length >= DisplayText::CAPACITY)
         return;

@@ -7,6 +7,7 @@
 
 #include <windows.h>
 
+#include <atomic>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -44,19 +45,22 @@ private:
     void copyText() const;
     void clearText() const;
 
-    void handleTimer() const;
+    void requestText(bool all);
+    void handleTimer();
     void handleSize(int height) const;
     void handleDestroy();
     void moveLine(int y);
     void drawLine(int y) const;
     void endResizing(int y);
     int onScreen(int y) const;
+    void replaceText(const char* text);
     std::string readText() const;
 
     Backend::Display::DisplayMessageManager& m_display;
     HWND m_edit = nullptr;
     PopupMenu m_menu;
     std::size_t m_length = 0;  // [display] What the edit holds, in bytes, as far as that thread knows.
+    std::atomic<bool> m_isAwaitingText = false;  // The log's thread may be telling, or about to.
     bool m_resizing = false;
     bool m_largeFont = false;
     std::optional<int> m_line;  // Where the edge would go, on the screen.

@@ -2,6 +2,8 @@
 
 #include "Backend/core/DisplayMessageManager.h"
 
+#include <thread>
+
 namespace Gui::Display {
 
 FeedEnd::FeedEnd() : m_reached(CreateEventA(nullptr, FALSE, FALSE, nullptr)) {}
@@ -11,14 +13,18 @@ FeedEnd::~FeedEnd() {
 }
 
 void FeedEnd::take(Backend::Display::DisplayMessageManager& feed) {
-    // This object stands in for the listener, and whatever reaches it comes after all that the listener was told.
     ResetEvent(m_reached);
-    feed.postSetListener(this);
-    feed.postSendAll();
+    // This object stands in for the listener, and whatever reaches it comes after all that the listener was told. A
+    // full queue would keep this thread in the posts, so another one makes them.
+    std::thread poster([&] {
+        feed.postSetListener(this);
+        feed.postSendAll();
+    });
     while (MsgWaitForMultipleObjects(1, &m_reached, FALSE, INFINITE, QS_SENDMESSAGE) == WAIT_OBJECT_0 + 1) {
         MSG unused;
         PeekMessageA(&unused, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
     }
+    poster.join();
     feed.postSetListener(nullptr);
 }
 

@@ -378,17 +378,15 @@ TEST_F(DisplayPanelTest, CanGoInAFlood) {
     for (int round = 0; round < 10; ++round) {
         DisplayPanel other(gui, feed());
         other.createWnd(static_cast<HINSTANCE>(Platform::getModuleInstance()), top.handle());
+        other.showWnd(true);
         const HWND text = GetDlgItem(other.getWindowHandle(), 1074);
         feed().postSetListener(&other);
         std::atomic<bool> stop = false;
         std::thread flood([&] {
-            while (!stop) {
+            while (!stop)
                 feed().postAddText("flood\r\n");
-                if (feed().isIdle())
-                    feed().postSendAll();
-            }
         });
-        EXPECT_TRUE(pumpUntil([&] { return GetWindowTextLengthA(text) > 1000; }));
+        EXPECT_TRUE(pumpUntil([&] { return GetWindowTextLengthA(text) > 100; }));
         DestroyWindow(other.getWindowHandle());
         stop = true;
         flood.join();

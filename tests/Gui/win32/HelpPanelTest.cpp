@@ -24,7 +24,9 @@ using TestSupport::rectInParent;
 class HelpPanelTest : public testing::Test {
 protected:
     HelpPanelTest() {
-        panel.createWnd(static_cast<HINSTANCE>(Platform::getModuleInstance()), top.handle());
+        root.createWnd(static_cast<HINSTANCE>(Platform::getModuleInstance()), top.handle());
+        root.add(&panel);
+        root.showWnd(true);
         panel.showWnd(true);
         pump();
         top.forgetMessages();
@@ -38,6 +40,7 @@ protected:
 
     TestSupport::TestWindow top{600, 250};
     TestSupport::FakeMirelGui gui;
+    SkinPanel root{gui};
     HelpPanel panel{gui};
     HWND edit = nullptr;
 };

@@ -41,8 +41,10 @@ protected:
     }
 
     void create() {
+        root.createWnd(static_cast<HINSTANCE>(Platform::getModuleInstance()), top.handle());
         panel = std::make_unique<SystemPanel>(gui);
-        panel->createWnd(static_cast<HINSTANCE>(Platform::getModuleInstance()), top.handle());
+        root.add(panel.get());
+        root.showWnd(true);
         panel->showWnd(true);
         pump();
         gui.takePosted();
@@ -77,6 +79,7 @@ protected:
 
     TestSupport::TestWindow top{600, 100};
     TestSupport::DeskGui gui;
+    SkinPanel root{gui};
     std::unique_ptr<SystemPanel> panel;
 };
 
