@@ -25,7 +25,7 @@ TEST(StartChoices, FindNoProgramThatIsNotThere) {
 PortRow row(const char* name, bool enabled, bool available, int copy = 1) {
     PortSettings settings;
     settings.enabled = enabled;
-    return {{name, copy}, settings, available};
+    return {{name, copy}, settings, available, std::nullopt};
 }
 
 TEST(StartChoices, KeepTheUsersOutputEvenWhileItIsAbsent) {

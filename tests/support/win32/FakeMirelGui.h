@@ -139,6 +139,7 @@ private:
     // Keeps nothing.
     class NoStore : public Platform::SettingsStore {
         std::unique_ptr<Platform::SettingsKey> open(const std::string&) override { return nullptr; }
+        std::unique_ptr<Platform::SettingsKey> openExisting(const std::string&) override { return nullptr; }
     };
 
     [[noreturn]] static void missing(const char* operation);
