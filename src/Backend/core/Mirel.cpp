@@ -123,7 +123,7 @@ void Mirel::addSequencePreset(const std::string& name, const std::string& sequen
 
 Gui::MirelGuiIF* Mirel::createMirelGui(bool isVstPlugin) {
     return Gui::MirelGuiFactory::createMirelGui(*this, m_registrySettings, m_midiInputPorts, m_midiOutputPorts,
-                                           getSequencePresetList(), isVstPlugin);
+                                                getSequencePresetList(), isVstPlugin);
 }
 
 void Mirel::moveWindow(const RelativeFixedValue& x, const RelativeFixedValue& y) {

@@ -3,7 +3,6 @@
 #include "Gui/Rules/ButtonLook.h"
 #include "Gui/Utils/DeviceContexts.h"
 #include "Gui/Utils/GdiManager.h"
-#include "Gui/Utils/WindowText.h"
 #include "Gui/Utils/SkinProperties.h"
 #include "Gui/Utils/Skinner.h"
 #include "Gui/Utils/WindowProcedure.h"
