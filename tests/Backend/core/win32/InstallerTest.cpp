@@ -16,7 +16,10 @@ namespace {
 
 using Values = std::map<std::string, std::string>;
 
-constexpr const char* SCRATCH = "Software\\MirelInstallerTest";
+// Of this process alone: others run beside it.
+std::string scratch() {
+    return "Software\\MirelInstallerTest" + std::to_string(GetCurrentProcessId());
+}
 constexpr const char* DRIVERS = "Software\\Microsoft\\Windows NT\\CurrentVersion\\Drivers32";
 constexpr const char* INSTALLED = "Software\\Microsoft\\Windows NT\\CurrentVersion\\userinstallable.drivers";
 constexpr const char* DESCRIPTIONS = "Software\\Microsoft\\Windows NT\\CurrentVersion\\drivers.desc";
@@ -26,8 +29,8 @@ class InstallerTest : public testing::Test {
 protected:
     InstallerTest() {
         removeScratch();
-        machine = makeKey(HKEY_CURRENT_USER, std::string(SCRATCH) + "\\Machine");
-        user = makeKey(HKEY_CURRENT_USER, std::string(SCRATCH) + "\\User");
+        machine = makeKey(HKEY_CURRENT_USER, scratch() + "\\Machine");
+        user = makeKey(HKEY_CURRENT_USER, scratch() + "\\User");
         RegOverridePredefKey(HKEY_LOCAL_MACHINE, machine);
         RegOverridePredefKey(HKEY_CURRENT_USER, user);
         Platform::setMessageSink(
@@ -79,7 +82,7 @@ protected:
     std::vector<std::string> messages;
 
 private:
-    static void removeScratch() { RegDeleteTreeA(HKEY_CURRENT_USER, SCRATCH); }
+    static void removeScratch() { RegDeleteTreeA(HKEY_CURRENT_USER, scratch().c_str()); }
 
     HKEY machine = nullptr;
     HKEY user = nullptr;
