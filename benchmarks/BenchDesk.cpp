@@ -33,6 +33,12 @@ std::string useFolder(const std::string& folder) {
 
 }
 
+void BenchDesk::Player::playMidi(const MirelMidiMessage& message) {
+    last = Platform::monotonicMicroseconds();
+    ++events;
+    Host::PortPlayer::playMidi(message);
+}
+
 BenchDesk::BenchDesk(const std::string& dataFolder, Slices slices)
     : m_pauses(slices == Slices::EVERY_MILLISECOND),
       m_ports(std::make_shared<NoMidiSystem>(), {useFolder(dataFolder), std::string()}, [](const MirelMidiMessage&) {}),

@@ -36,13 +36,25 @@ public:
     // How many slices somebody waited for so far.
     std::int64_t awaitedSlices() const { return m_awaitedSlices; }
 
+    // [any] How many events the desk has handed to its host so far, and when the last one, on the monotonic clock.
+    std::int64_t playedEvents() const { return m_player.events; }
+    std::int64_t lastPlayed() const { return m_player.last; }
+
 private:
+    struct Player : Host::PortPlayer {
+        using Host::PortPlayer::PortPlayer;
+        void playMidi(const Backend::MidiEngine::MirelMidiMessage& message) override;
+
+        std::atomic<std::int64_t> events{0};
+        std::atomic<std::int64_t> last{0};
+    };
+
     void playTimeSlice(std::int32_t from, std::int32_t to);
     void playWithoutPause();
 
     const bool m_pauses;
     Host::MidiPorts m_ports;
-    Host::PortPlayer m_player{m_ports};
+    Player m_player{m_ports};
     Host::ObservedMirel m_mirel;
     std::atomic<std::int64_t> m_awaitedSlices{0};
     std::atomic<bool> m_isEnding{false};
