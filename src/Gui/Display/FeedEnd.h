@@ -15,7 +15,7 @@ namespace Gui::Display {
 class FeedEnd : private Backend::Display::DisplayListener {
 public:
     FeedEnd();
-    ~FeedEnd();
+    ~FeedEnd() override;
     FeedEnd(const FeedEnd&) = delete;
     FeedEnd& operator=(const FeedEnd&) = delete;
 

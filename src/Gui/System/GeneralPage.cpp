@@ -56,7 +56,7 @@ void GeneralPage::fillChannels() {
 void GeneralPage::apply() {
     const int velocity = readVelocity(getWindowText(control(IDC_SETUP_VELOCITY)));
     const bool stackNotes = isChecked(IDC_SETUP_STACK_NOTES);
-    const int channel = static_cast<signed char>(SendMessageA(control(IDC_SETUP_CHANNEL), CB_GETCURSEL, 0, 0));
+    const int channel = static_cast<int>(SendMessageA(control(IDC_SETUP_CHANNEL), CB_GETCURSEL, 0, 0));
 
     Backend::MirelMessageManager& desk = gui().getMirelMessageManager();
     desk.postSetMouseSensitivity(readMouseSensitivity(getWindowText(control(IDC_SETUP_MOUSE_SENSITIVITY))));

@@ -15,6 +15,7 @@ constexpr const char* CAPTION = "Mirel Console Setup";
 template <class Port>
 std::vector<SetupPort> describePorts(const std::vector<Port>& ports) {
     std::vector<SetupPort> described;
+    described.reserve(ports.size());
     for (const Port& port : ports)
         described.push_back({port.name, port.available, port.enabled});
     return described;

@@ -6,8 +6,8 @@
 
 // What the header below takes for granted, but for the macros of that name.
 namespace Gdiplus {
-using std::max;
-using std::min;
+using std::max;  // NOLINT(misc-unused-using-decls)
+using std::min;  // NOLINT(misc-unused-using-decls)
 }
 
 #include <gdiplus.h>

@@ -13,17 +13,17 @@ public:
     static constexpr std::size_t KEYS = 128;
 
     // A note sounds once more, or once less. Numbers that are no note are ignored.
-    void noteOn(Backend::Note note) { change(note, 1); }
-    void noteOff(Backend::Note note) { change(note, -1); }
+    void noteOn(const Backend::Note& note) { change(note, 1); }
+    void noteOff(const Backend::Note& note) { change(note, -1); }
 
     // Nothing sounds.
     void clearHilight() { m_counts = {}; }
 
     // How often a note was begun and not ended; 0 for what is no note.
-    int getCount(Backend::Note note) const { return note.isNote() ? m_counts[note.getNumber()] : 0; }
+    int getCount(const Backend::Note& note) const { return note.isNote() ? m_counts[note.getNumber()] : 0; }
 
 private:
-    void change(Backend::Note note, int difference) {
+    void change(const Backend::Note& note, int difference) {
         if (!note.isNote())
             return;
         int& count = m_counts[note.getNumber()];

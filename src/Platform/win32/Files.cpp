@@ -64,7 +64,7 @@ fs::path temporaryPath(const fs::path& target) {
     for (;;) {
         const std::wstring name =
             L"." + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(counter.fetch_add(1)) + L".tmp";
-        const fs::path path = target.parent_path() / name;
+        fs::path path = target.parent_path() / name;
         if (GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES)
             return path;
     }

@@ -60,7 +60,7 @@ std::string nodeName(IXMLDOMNode& node) {
     BSTR name = nullptr;
     if (FAILED(node.get_nodeName(&name)))
         return {};
-    const std::string utf8 = toUtf8(name);
+    std::string utf8 = toUtf8(name);
     SysFreeString(name);
     return utf8;
 }
