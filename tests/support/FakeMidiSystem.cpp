@@ -108,6 +108,7 @@ bool FakeMidiSystem::receive(const std::string& name, const Bytes& bytes, std::i
 }
 
 Host::MidiPortIds FakeMidiSystem::list() {
+    ++m_timesListed;
     const std::lock_guard lock(m_mutex);
     return m_plugged;
 }

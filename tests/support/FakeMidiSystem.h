@@ -34,6 +34,9 @@ public:
     // How many sends hang at the moment, of all ports.
     int hanging() const { return m_hanging; }
 
+    // How often somebody asked what is plugged in.
+    int timesListed() const { return m_timesListed; }
+
     // What was sent to an output, by its name and copy.
     std::vector<Bytes> sent(const std::string& name, int copy = 1) const;
 
@@ -72,6 +75,7 @@ private:
     std::map<Key, int> m_openOutputs;
     std::map<Key, int> m_timesOpened;
     std::atomic<int> m_hanging{0};
+    std::atomic<int> m_timesListed{0};
 };
 
 }

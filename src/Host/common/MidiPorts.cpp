@@ -59,6 +59,15 @@ void apply(const PortRow& row, PortLine& line, MidiPortId& opened, MakeOpener ma
     }
 }
 
+// Adds the port if it has failed since it was told last.
+template <class Port>
+void takeFailure(const char* kind, Port& port, std::vector<std::string>& failures) {
+    if (!port.line->isWanted() || port.line->isOpen())
+        port.isFailureTold = false;
+    else if (port.line->hasFailed() && !std::exchange(port.isFailureTold, true))
+        failures.push_back(std::string(kind) + " \"" + port.opened.name + "\"");
+}
+
 }
 
 MidiPorts::MidiPorts(std::shared_ptr<MidiSystem> system, Options options, InputTranslator::Sink sink)
@@ -118,7 +127,8 @@ void MidiPorts::applyInput(std::size_t index) {
         const std::size_t next = m_inputs.size();
         m_inputs.push_back({std::make_shared<InputTranslator>(static_cast<char>(next), m_sink, m_clock),
                             std::make_unique<PortLine>("midi in " + std::to_string(next + 1)),
-                            {}});
+                            {},
+                            false});
     }
     Input& input = m_inputs[index];
     const PortRow& row = m_inputList.rows()[index];
@@ -129,7 +139,7 @@ void MidiPorts::applyInput(std::size_t index) {
 void MidiPorts::applyOutput(std::size_t index) {
     while (m_outputs.size() <= index) {
         const std::size_t next = m_outputs.size();
-        m_outputs.push_back({std::make_unique<PortLine>("midi out " + std::to_string(next + 1)), {}});
+        m_outputs.push_back({std::make_unique<PortLine>("midi out " + std::to_string(next + 1)), {}, false});
         m_playing[next] = m_outputs.back().line.get();
     }
     Output& output = m_outputs[index];
@@ -156,6 +166,16 @@ PortLine::Opener MidiPorts::outputOpener(const MidiPortId& id) const {
     return [system = m_system, id] {
         return id.copy == PortList::BUILT_IN ? system->openVirtualOutput(id.name) : system->openOutput(id);
     };
+}
+
+std::vector<std::string> MidiPorts::takeFailures() {
+    std::vector<std::string> failures;
+    const std::lock_guard lock(m_mutex);
+    for (Input& input : m_inputs)
+        takeFailure("MIDI input", input, failures);
+    for (Output& output : m_outputs)
+        takeFailure("MIDI output", output, failures);
+    return failures;
 }
 
 void MidiPorts::save() {

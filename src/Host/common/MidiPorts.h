@@ -86,6 +86,10 @@ public:
     // [any but player] Waits for that, at most this long as ports may hang. False if it was not enough.
     bool waitUntilIdle(std::chrono::milliseconds limit = OPEN_LIMIT) const;
 
+    // [any] The ports that should be open and could not be opened, or failed, each once until it is open again: "MIDI
+    // output "Synth"".
+    std::vector<std::string> takeFailures();
+
     // [any] Events that outputs were too slow for.
     std::uint64_t droppedEvents() const;
 
@@ -102,10 +106,12 @@ private:
         std::shared_ptr<InputTranslator> translator;
         std::unique_ptr<PortLine> line;
         MidiPortId opened;
+        bool isFailureTold = false;
     };
     struct Output {
         std::unique_ptr<PortLine> line;
         MidiPortId opened;
+        bool isFailureTold = false;
     };
 
     MidiPortIds present();

@@ -39,6 +39,7 @@ void PortDesk::start() {
     manager.sendSetMidiInputPorts(m_ports.inputPorts());
     manager.sendSetMidiOutputPorts(m_ports.outputPorts());
     m_ports.waitUntilIdle();  // What is played to a port that is not open yet is lost.
+    logFailures();
     startPlayer();
     manager.sendEndInitialize();
     m_isRunning = true;
@@ -92,7 +93,13 @@ void PortDesk::watchPorts() {
         postPorts();
         m_toldSwitches = switches;
     }
+    logFailures();
     m_ports.update();
+}
+
+void PortDesk::logFailures() {
+    for (const std::string& port : m_ports.takeFailures())
+        m_mirel->displayString(port + " does not work. It will be tried again.\r\n");
 }
 
 // On the engine's thread, which must not wait for the backend: the backend may be waiting for the engine, or have

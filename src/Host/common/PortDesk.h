@@ -70,6 +70,9 @@ private:
 
     void startPlayer();
 
+    // [any] Says in the log which ports don't work.
+    void logFailures();
+
     // [watcher] Tells the desk of ports that were switched, and looks for ports that came or went.
     void watchPorts();
 
