@@ -1,6 +1,7 @@
 #include "Host/console/win32/ConsoleDesk.h"
 
 #include "Backend/core/Bank.h"
+#include "Backend/core/MessageManagerMaster.h"
 #include "Backend/core/MirelMessageManager.h"
 #include "Backend/core/MirelUtils.h"
 #include "Backend/core/RegistrySettings.h"
@@ -12,6 +13,7 @@
 #include "Host/console/win32/SingleInstance.h"
 #include "Platform/Files.h"
 #include "Platform/Shell.h"
+#include "Platform/Sleep.h"
 
 namespace Host::Console {
 
@@ -42,8 +44,9 @@ bool ConsoleDesk::start(const SingleInstance& instance, int showCommand) {
     m_gui->initialize();
     m_frame->setGui(m_gui.get());
     m_frame->show(showCommand);
-    loadFirstPrograms();
+    // Before what may open a box: another start shall not wait for its answer.
     instance.announce(m_frame->getWindowHandle());
+    loadFirstPrograms();
     return true;
 }
 
@@ -60,23 +63,27 @@ void ConsoleDesk::run() {
 
 void ConsoleDesk::stop() {
     removeWindow();
-    if (std::exchange(m_isStopped, true))
-        return;
-    m_desk.stop();
-    if (!m_line.recordFile.empty() && !m_desk.ports().recorder().write(m_line.recordFile))
+    if (!endDesk())
         Platform::showMessage(m_line.recordFile + ": can't be written.", PRODUCT);
+}
+
+// False if what was played could not be written.
+bool ConsoleDesk::endDesk() {
+    if (std::exchange(m_isStopped, true))
+        return true;
+    m_desk.stop();
+    return m_line.recordFile.empty() || m_desk.ports().recorder().write(m_line.recordFile);
 }
 
 void ConsoleDesk::closeRequested() {
     PostQuitMessage(0);
 }
 
-// The system ends the program as soon as this returns.
+// The system ends the program as soon as this returns, and waits for no box.
 void ConsoleDesk::sessionEnds() {
     if (m_gui)
         m_gui->destroy();
-    if (!std::exchange(m_isStopped, true))
-        m_desk.stop();
+    endDesk();
 }
 
 void ConsoleDesk::openRequested(const OpenRequest& request) {
@@ -145,12 +152,19 @@ void ConsoleDesk::openProgram(const std::string& wanted) {
             Platform::showMessage(wanted + ": can't be read.", PRODUCT);
         return;
     }
-    m_desk.waitUntilIdle();
+    waitForBank();
     const int index = findProgram(m_desk.mirel().getCurrentBank().getProgramNames(), wanted);
     if (index >= 0)
         manager().postChangeProgram(SelectType(SelectType::specific, index));
     else
         Platform::showMessage("The bank has no program \"" + wanted + "\".", PRODUCT);
+}
+
+// The desk may wait for its log, and that for this thread's windows.
+void ConsoleDesk::waitForBank() {
+    while (!m_desk.mirel().getMessageManagerMaster().isIdle())
+        Platform::sleepAnsweringWindows(1);
+    m_desk.waitUntilIdle();
 }
 
 void ConsoleDesk::removeWindow() {

@@ -51,7 +51,9 @@ private:
     void openFile(const std::string& path);
     void openBank(const std::string& path);
     void openProgram(const std::string& wanted);
+    void waitForBank();
     void removeWindow();
+    bool endDesk();
 
     const CommandLine m_line;
     PortDesk m_desk;
