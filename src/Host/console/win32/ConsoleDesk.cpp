@@ -12,7 +12,6 @@
 #include "Host/console/StartChoices.h"
 #include "Host/console/win32/SingleInstance.h"
 #include "Platform/Files.h"
-#include "Platform/Shell.h"
 #include "Platform/Sleep.h"
 
 namespace Host::Console {
@@ -64,7 +63,7 @@ void ConsoleDesk::run() {
 void ConsoleDesk::stop() {
     removeWindow();
     if (!endDesk())
-        Platform::showMessage(m_line.recordFile + ": can't be written.", PRODUCT);
+        tell(m_line.recordFile + ": can't be written.");
 }
 
 // False if what was played could not be written.
@@ -99,8 +98,14 @@ void ConsoleDesk::timePassed() {
     m_frame->refreshTitle();
     if (!m_desk.hasFailed() || std::exchange(m_hasToldFailure, true))
         return;
-    Platform::showMessage("The player has stopped. Start the desk again.", PRODUCT);
+    tell("The player has stopped. Start the desk again.");
     closeRequested();
+}
+
+// In a box over the frame, never over the window of another program that the user works in at the moment.
+void ConsoleDesk::tell(const std::string& text) const {
+    const HWND frame = m_frame ? m_frame->getWindowHandle() : nullptr;
+    MessageBoxA(IsIconic(frame) ? nullptr : frame, text.c_str(), PRODUCT, MB_OK);
 }
 
 FrameWindow::Options ConsoleDesk::frameOptions() {
@@ -132,8 +137,7 @@ void ConsoleDesk::openFile(const std::string& path) {
     switch (kindOfDeskFile(path)) {
         case DeskFileKind::bank: return openBank(path);
         case DeskFileKind::program: return openProgram(path);
-        case DeskFileKind::none:
-            return Platform::showMessage(path + ": is neither a bank (.bnk) nor a program (.prg).", PRODUCT);
+        case DeskFileKind::none: return tell(path + ": is neither a bank (.bnk) nor a program (.prg).");
     }
 }
 
@@ -141,7 +145,7 @@ void ConsoleDesk::openBank(const std::string& path) {
     if (Platform::Files::size(path))
         manager().postLoadBank(withLowerCaseExtension(path));
     else
-        Platform::showMessage(path + ": can't be read.", PRODUCT);
+        tell(path + ": can't be read.");
 }
 
 void ConsoleDesk::openProgram(const std::string& wanted) {
@@ -149,7 +153,7 @@ void ConsoleDesk::openProgram(const std::string& wanted) {
         if (Platform::Files::size(wanted))
             manager().postLoadProgram(withLowerCaseExtension(wanted));
         else
-            Platform::showMessage(wanted + ": can't be read.", PRODUCT);
+            tell(wanted + ": can't be read.");
         return;
     }
     waitForBank();
@@ -157,7 +161,7 @@ void ConsoleDesk::openProgram(const std::string& wanted) {
     if (index >= 0)
         manager().postChangeProgram(SelectType(SelectType::specific, index));
     else
-        Platform::showMessage("The bank has no program \"" + wanted + "\".", PRODUCT);
+        tell("The bank has no program \"" + wanted + "\".");
 }
 
 // The desk may wait for its log, and that for this thread's windows.

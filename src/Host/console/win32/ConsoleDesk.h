@@ -45,6 +45,7 @@ private:
     void timePassed() override;
 
     Backend::MirelMessageManager& manager();
+    void tell(const std::string& text) const;
     FrameWindow::Options frameOptions();
     void chooseOutputs();
     void loadFirstPrograms();

@@ -25,13 +25,14 @@ std::string programPath() {
 // A process of the program; what it writes goes into a file.
 class Program {
 public:
-    Program(const std::string& arguments, const std::string& outputFile) {
+    Program(const std::string& arguments, const std::string& outputFile, WORD show = SW_SHOWNORMAL) {
         SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
         const HANDLE output = CreateFileA(outputFile.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
                                           &inherited, CREATE_ALWAYS, 0, nullptr);
         STARTUPINFOA info{};
         info.cb = sizeof info;
-        info.dwFlags = STARTF_USESTDHANDLES;
+        info.dwFlags = STARTF_USESTDHANDLES | STARTF_USESHOWWINDOW;
+        info.wShowWindow = show;
         info.hStdOutput = output;
         info.hStdError = output;
         std::string line = "\"" + programPath() + "\" " + arguments;
@@ -82,8 +83,8 @@ public:
         return nullptr;
     }
 
-    // The text of the box that it asks its user with, which is closed then.
-    std::string answerBox() const {
+    // The box that it asks its user with.
+    HWND waitForBox() const {
         HWND box = nullptr;
         eventually([this, &box] {
             for (box = FindWindowExA(nullptr, nullptr, "#32770", nullptr); box;
@@ -95,6 +96,12 @@ public:
             }
             return false;
         });
+        return box;
+    }
+
+    // The text of the box, which is closed then.
+    std::string answerBox() const {
+        const HWND box = waitForBox();
         const std::string text = textOf(GetDlgItem(box, 0xffff));
         PostMessageA(box, WM_COMMAND, IDOK, 0);
         eventually([box] { return !IsWindow(box); });
@@ -225,6 +232,20 @@ TEST_F(MirelConsoleTest, SaysThatAFileIsNoneOfTheDesks) {
     EXPECT_EQ(program.answerBox(), "The bank has no program \"nothing\".");
     PostMessageA(frame, WM_CLOSE, 0, 0);
     EXPECT_EQ(program.wait(), 0u);
+}
+
+TEST_F(MirelConsoleTest, ItsBoxesDisableNoOtherProgram) {
+    const TestSupport::TestWindow worker;
+    SetForegroundWindow(worker.handle());
+    const Program program(data() + " --bank \"" + folder.file("missing.bnk") + "\"", output(), SW_SHOWMINNOACTIVE);
+    HWND box = nullptr;
+    const TestSupport::OtherThread user([&program, &box] {
+        box = program.waitForBox();
+        EXPECT_EQ(GetWindow(box, GW_OWNER), nullptr);
+        PostMessageA(box, WM_COMMAND, IDOK, 0);
+    });
+    EXPECT_TRUE(TestSupport::pumpUntil([&box] { return box && !IsWindow(box); }));
+    EXPECT_TRUE(IsWindowEnabled(worker.handle()));
 }
 
 TEST_F(MirelConsoleTest, ABankThatIsBrokenLeavesADeskThatCanBeUsed) {
