@@ -245,6 +245,10 @@ TEST_F(MirelGuiKeysTest, KeysAreReleasedWhenTheWindowIsDragged) {
 }
 
 TEST_F(MirelGuiKeysTest, KeysAreReleasedWhenTheWindowGoes) {
+    const TestWindow other;
+    SetForegroundWindow(other.handle());  // The hook brings them.
+    desk.settle();
+    desk.takeKeys();
     send(WM_KEYDOWN, 'A', FIRST);
     send(WM_KEYDOWN, 'S', FIRST);
     desk.takeKeys();

@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <objbase.h>
+
 #include <limits>
 
 namespace Gui {
@@ -199,6 +201,15 @@ TEST_F(MirelGuiLifeTest, AHostThatDestroysItsWindowFirstLosesNothing) {
     EXPECT_TRUE(desk.mirel().getScreenState().help);
     desk.close();
     EXPECT_EQ(desk.mirel().getGuiWindowHandle(), nullptr);
+}
+
+TEST_F(MirelGuiLifeTest, ItsThreadCanUseComWhileItLives) {
+    desk.open();
+    EXPECT_EQ(CoInitialize(nullptr), S_FALSE);
+    CoUninitialize();
+    desk.close();
+    EXPECT_EQ(CoInitialize(nullptr), S_OK);
+    CoUninitialize();
 }
 
 TEST_F(MirelGuiLifeTest, AWindowThatTheHostDestroyedIsKnownNoMore) {
