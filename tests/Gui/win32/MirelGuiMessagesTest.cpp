@@ -124,6 +124,39 @@ TEST_F(MirelGuiMessagesTest, FlagsGoIntoTheWindowsSettingsAndToTheHost) {
         }
 }
 
+// Their next press asks for the opposite of what they show.
+TEST_F(MirelGuiMessagesTest, ThruIsShownByItsButtons) {
+    for (const HWND button : {systemControl(1021), GetDlgItem(desk.window(), 118)})
+        for (const bool thru : {false, true}) {
+            desk.mirel().getMessageManager().postChangeMidiThru(OnOffToggle(OnOffToggle::toggle), false);
+            desk.tell(33265, thru);
+            SendMessageA(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+            desk.settle();
+            EXPECT_EQ(desk.mirel().getRegistrySettings().getMidiThru(), !thru);
+        }
+}
+
+TEST_F(MirelGuiMessagesTest, TheLogsFontFollowsItsSetting) {
+    const HWND root = FindWindowExA(desk.window(), nullptr, "TamselPanel2008", nullptr);
+    const HWND edit = GetDlgItem(FindWindowExA(root, nullptr, nullptr, "Gui::Display::DisplayPanel"), 1074);
+    const auto font = [edit] { return reinterpret_cast<HFONT>(SendMessageA(edit, WM_GETFONT, 0, 0)); };
+    EXPECT_EQ(font(), gui().getGdiManager().getSmallFont().handle());
+    desk.tell(33225, 1);
+    EXPECT_EQ(font(), gui().getGdiManager().getLargeFont().handle());
+    desk.tell(33225, 0);
+    EXPECT_EQ(font(), gui().getGdiManager().getSmallFont().handle());
+}
+
+// What a message brings may be missing.
+TEST_F(MirelGuiMessagesTest, MessagesWithoutTheirObjectsDoNothing) {
+    const std::string before = state();
+    for (const UINT message : {33220u, 33221u, 33222u, 33223u, 33228u, 33255u, 33256u})
+        desk.tell(message);
+    EXPECT_EQ(state(), before);
+    EXPECT_EQ(gui().getMidiOutputPorts().size(), 3u);
+    EXPECT_EQ(desk.host.count(UM_MOVE_WINDOW), 0u);
+}
+
 TEST_F(MirelGuiMessagesTest, NumbersGoIntoTheWindowsSettings) {
     desk.tell(33257, 2);
     EXPECT_EQ(gui().getDefaultMidiOutput(), 2);
