@@ -12,6 +12,8 @@
 
 #include <objbase.h>
 
+#include <utility>
+
 namespace Gui {
 
 namespace {
@@ -68,6 +70,7 @@ std::string MirelGui::findHookFolder() {
 void MirelGui::create(HWND parentWindow) {
     constexpr const char* FUNCTION = "Gui::MirelGui::create";
     trace(__LINE__, FUNCTION, "IN");
+    m_isCreated = true;
     m_isComReady = SUCCEEDED(CoInitialize(nullptr));
     Skinner::startHook();
     m_guiMessageManagerMaster.setThreadId(GetCurrentThreadId());
@@ -182,11 +185,10 @@ void MirelGui::initialize() {
 }
 
 void MirelGui::destroy() {
-    if (!m_windowHandle)
+    if (!std::exchange(m_isCreated, false))
         return;
-    DestroyWindow(m_windowHandle);
-    m_windowHandle = nullptr;
-    m_focusWindow = nullptr;
+    if (m_windowHandle)  // The host may have destroyed it with its own.
+        DestroyWindow(m_windowHandle);
     m_mirelIF.setGuiWindowHandle(nullptr);
     // The log's thread must not show anything to a panel that is gone.
     m_mirelIF.getDisplayMessageManager().postSetListener(nullptr);
@@ -219,9 +221,21 @@ int MirelGui::getNumberOfPrograms() {
     return static_cast<int>(m_currentBank.getProgramNames().size());
 }
 
+// That of a minimised host is where it comes back to.
 Rect MirelGui::getMainWindowPosition() {
     RECT rect{};
-    GetWindowRect(m_parentWindow, &rect);
+    WINDOWPLACEMENT placement{};
+    placement.length = sizeof placement;
+    if (IsIconic(m_parentWindow) && GetWindowPlacement(m_parentWindow, &placement)) {
+        rect = placement.rcNormalPosition;
+        MONITORINFO monitor{};
+        monitor.cbSize = sizeof monitor;
+        // It counts from the corner of what the task bar leaves.
+        if (GetMonitorInfoA(MonitorFromRect(&rect, MONITOR_DEFAULTTONEAREST), &monitor))
+            OffsetRect(&rect, monitor.rcWork.left - monitor.rcMonitor.left, monitor.rcWork.top - monitor.rcMonitor.top);
+    } else {
+        GetWindowRect(m_parentWindow, &rect);
+    }
     return {rect.left, rect.top, rect.right, rect.bottom};
 }
 

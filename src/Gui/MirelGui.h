@@ -168,6 +168,7 @@ private:
     static LRESULT CALLBACK focusControlProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     static void registerClassOnce();
     LRESULT windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    bool hasKeyboard() const;
     void handleKeyDown(WPARAM wParam, LPARAM lParam);
     void handleKeyUp(WPARAM wParam, LPARAM lParam);
     void showKeyReleased(const Key& key);
@@ -175,7 +176,8 @@ private:
     void handleSize(WPARAM wParam, LPARAM lParam);
     void handleMouseWheel(WPARAM wParam, LPARAM lParam) const;
     void handleHookChanged(bool globalKeyboard);
-    void handleDestroy();
+    void handleDestroy(HWND window);
+    void takeLastMessages(HWND window);
     void buttonChanged(int id, bool state) override;
 
     // MirelGuiPanels.cpp
@@ -186,6 +188,7 @@ private:
 
     // MirelGuiChanges.cpp
     void showGlobalKeyboard();
+    void waitForDesk() const;
     void postToHost(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
 
     GdiManager m_gdiManager = GdiManager::create();
@@ -220,6 +223,7 @@ private:
     Backend::ScreenState m_screenState;
     const bool m_isVstPlugin;
     HWND m_focusWindow = nullptr;
+    bool m_isCreated = false;
     bool m_isComReady = false;
     HeldKeys m_heldKeys;
     std::unique_ptr<KeyboardLossWatch> m_keyboardLossWatch;

@@ -10,6 +10,7 @@
 #include "Backend/midi/SequencePresetManager.h"
 #include "Gui/Utils/UserMessages.h"
 #include "Platform/Files.h"
+#include "Platform/Sleep.h"
 
 #include <algorithm>
 
@@ -154,6 +155,9 @@ void MirelGui::handleGlobalKeyboardChanged(bool globalKeyboard) {
 void MirelGui::showGlobalKeyboard() {
     m_systemPanel.refreshSettings();
     m_globalKeyButton.setState(m_settings.getGlobalKeyboard());
+    // The keys that the hook has brought end elsewhere from now on.
+    if (!m_settings.getGlobalKeyboard() && !hasKeyboard())
+        releaseHeldKeys();
 }
 
 void MirelGui::displayMidiOutputEvent(const MirelMidiMessage& message) {
@@ -189,16 +193,22 @@ void MirelGui::addSequencePreset(const std::string& name, const std::string& seq
     getMirelMessageManager().postAddSequencePreset(name, sequence);
 }
 
+// The desk may wait for its log, and that for this thread's windows.
+void MirelGui::waitForDesk() const {
+    while (!m_mirelIF.getMessageManagerMaster().isIdle())
+        Platform::sleepAnsweringWindows(1);
+}
+
 // A preset may just be on its way to its file.
 void MirelGui::editSequencePreset(const std::string& name, const std::string& newName) {
-    m_mirelIF.getMessageManagerMaster().waitUntilIdle();
+    waitForDesk();
     SequencePresetManager presets = readSequencePresets();
     presets.editSequencePreset(name, newName);
     m_sequencePresetList = presets.getSequencePresetList();
 }
 
 void MirelGui::deleteSequencePreset(const std::string& name) {
-    m_mirelIF.getMessageManagerMaster().waitUntilIdle();
+    waitForDesk();
     SequencePresetManager presets = readSequencePresets();
     presets.deleteSequencePreset(name);
     m_sequencePresetList = presets.getSequencePresetList();

@@ -1,8 +1,10 @@
 // The messages of the window and the keys of the computer's keyboard.
 #include "Gui/MirelGui.h"
 
+#include "Backend/core/MessageRanges.h"
 #include "Backend/core/MirelIF.h"
 #include "Backend/core/MirelMessageManager.h"
+#include "Backend/core/WindowMessages.h"
 #include "Backend/functions/OnOffToggle.h"
 #include "Backend/functions/RelativeFixedValue.h"
 #include "Gui/ResourceIds.h"
@@ -13,6 +15,8 @@
 #include "Platform/Shell.h"
 
 #include <windowsx.h>
+
+#include <optional>
 
 namespace Gui {
 
@@ -59,7 +63,11 @@ LRESULT MirelGui::windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lP
         case WM_SYSKEYDOWN: handleKeyDown(wParam, lParam); return 0;
         case WM_KEYUP:
         case WM_SYSKEYUP: handleKeyUp(wParam, lParam); return 0;
-        case WM_DESTROY: handleDestroy(); return 0;
+        case WM_DESTROY: handleDestroy(window); return 0;
+        case WM_NCDESTROY:
+            m_windowHandle = nullptr;
+            m_focusWindow = nullptr;
+            return 0;
         case WM_SIZE:
             m_windowHandle = window;  // The first one comes before its creation has returned.
             handleSize(wParam, lParam);
@@ -162,13 +170,21 @@ void MirelGui::handleMouseWheel(WPARAM wParam, LPARAM lParam) const {
         SendMessageA(window, UM_MOUSEWHEEL, wParam, lParam);
 }
 
+bool MirelGui::hasKeyboard() const {
+    const HWND focus = GetFocus();
+    return focus && (focus == m_windowHandle || focus == m_focusWindow);
+}
+
 void MirelGui::handleHookChanged(bool globalKeyboard) {
     m_settings.setGlobalKeyboard(globalKeyboard);
     showGlobalKeyboard();
     postToHost(UM_GLOBAL_KEYBOARD_CHANGED, globalKeyboard);
 }
 
-void MirelGui::handleDestroy() {
+void MirelGui::handleDestroy(HWND window) {
+    releaseHeldKeys();
+    m_mirelIF.setGuiWindowHandle(nullptr);
+    takeLastMessages(window);
     m_screenState.system = m_systemPanel.isVisible();
     m_screenState.help = m_helpPanel.isVisible();
     m_screenState.display = m_displayPanel.isVisible();
@@ -182,6 +198,26 @@ void MirelGui::handleDestroy() {
     m_settings.setLastWindowPosition(getMainWindowPosition());
     getMirelMessageManager().postSetLastWindowPosition(m_settings.getLastWindowPosition());
     getMirelMessageManager().postRemoveGuiWindowHandle();
+}
+
+// What the desk has sent in messages belongs to whoever takes them, and the system only forgets those of a window that
+// is gone.
+void MirelGui::takeLastMessages(HWND window) {
+    std::optional<int> exitCode;
+    MSG message;
+    while (PeekMessageA(&message, window, Backend::MIREL_GUI_RANGE.first, Backend::ZONE_GUI_RANGE.last, PM_REMOVE)) {
+        if (message.message == WM_QUIT)  // It comes through any filter.
+            exitCode = static_cast<int>(message.wParam);
+        // A menu would wait for a choice.
+        if (message.hwnd != window || message.message == Backend::WindowMessages::SHOW_PROGRAM_MENU ||
+            message.message == Backend::WindowMessages::SHOW_DEFAULT_MIDI_OUTPUT_MENU)
+            continue;
+        withoutExceptions([&] {
+            return m_guiMessageManagerMaster.handleMessage(window, message.message, message.wParam, message.lParam);
+        });
+    }
+    if (exitCode)
+        PostQuitMessage(*exitCode);
 }
 
 void MirelGui::buttonChanged(int id, bool state) {

@@ -85,8 +85,9 @@ bool MessageThread::post(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void MessageThread::postUntilAccepted(UINT message, WPARAM wParam, LPARAM lParam) {
+    // This thread may have a window that the other one sends something to before it goes on with its queue.
     while (!post(message, wParam, lParam))
-        sleepMilliseconds(RETRY_MILLISECONDS);
+        sleepAnsweringWindows(RETRY_MILLISECONDS);
 }
 
 bool MessageThread::get(MSG& message) {

@@ -13,6 +13,7 @@
 
 #include <windowsx.h>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -54,10 +55,16 @@ void DisplayPanel::createWnd(HINSTANCE module, HWND parentWindow) {
     setObject(m_edit, OBJECT, this);
     subclass(m_edit, PROCEDURE, editProcedure);
     SendMessageA(m_edit, EM_LIMITTEXT, DisplayText::CAPACITY, 0);
-    modifyHeight(DisplayText::limitHeight(gui().getRegistrySettings().getDisplayHeight()));
+    modifyHeight(firstHeight());
     setLargeFont(m_largeFont);
     SetTimer(getWindowHandle(), TIMER, TIMER_MILLISECONDS, nullptr);
     PostMessageA(getWindowHandle(), UM_DISPLAY_CREATED, 0, 0);
+}
+
+// Its lower edge must be where the pointer can get, to be dragged up again.
+int DisplayPanel::firstHeight() const {
+    const int height = gui().getRegistrySettings().getDisplayHeight();
+    return DisplayText::limitHeight(std::min(height, GetSystemMetrics(SM_CYVIRTUALSCREEN)));
 }
 
 void DisplayPanel::showWnd(bool show) {
@@ -77,6 +84,7 @@ INT_PTR DisplayPanel::dlgProc(HWND window, UINT message, WPARAM wParam, LPARAM l
             return 1;
         case WM_LBUTTONUP: endResizing(onScreen(GET_Y_LPARAM(lParam))); return 1;
         case WM_NCLBUTTONUP: endResizing(GET_Y_LPARAM(lParam)); return 1;
+        case WM_CAPTURECHANGED: giveResizingUp(); return 1;
         default: return SkinPanel::dlgProc(window, message, wParam, lParam);
     }
 }
@@ -106,6 +114,7 @@ void DisplayPanel::handleSize(int height) const {
 
 void DisplayPanel::handleDestroy() {
     KillTimer(getWindowHandle(), TIMER);
+    giveResizingUp();
     m_feedEnd.take(m_display);
     const RECT rect = windowRect(getWindowHandle());
     gui().getMirelMessageManager().postSetDisplayHeight(rect.bottom - rect.top);
@@ -262,13 +271,18 @@ void DisplayPanel::drawLine(int y) const {
     PatBlt(screen.dc(), rect.left, y, rect.right - rect.left, LINE_HEIGHT, PATINVERT);
 }
 
-void DisplayPanel::endResizing(int y) {
-    if (!m_resizing)
-        return;
+// Something else takes the mouse, or the panel goes.
+void DisplayPanel::giveResizingUp() {
     if (m_line)
         drawLine(*m_line);
     m_line.reset();
     m_resizing = false;
+}
+
+void DisplayPanel::endResizing(int y) {
+    if (!m_resizing)
+        return;
+    giveResizingUp();
     ReleaseCapture();
     modifyHeight(DisplayText::limitHeight(y - windowRect(getWindowHandle()).top));
 }

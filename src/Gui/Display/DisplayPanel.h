@@ -45,12 +45,14 @@ private:
     void copyText() const;
     void clearText() const;
 
+    int firstHeight() const;
     void requestText(bool all);
     void handleTimer();
     void handleSize(int height) const;
     void handleDestroy();
     void moveLine(int y);
     void drawLine(int y) const;
+    void giveResizingUp();
     void endResizing(int y);
     int onScreen(int y) const;
     void replaceText(const char* text);

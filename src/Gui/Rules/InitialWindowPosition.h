@@ -18,7 +18,8 @@ struct WindowPosition {
 };
 
 // [any] Where the host's window is to begin, from where it was at the end of the last run. A window that is docked to
-// its bottom edge keeps that edge, now that it may be of another height; host is the rectangle that it has now.
+// its bottom edge keeps that edge, now that it may be of another height; host is the rectangle that it has now. Unknown
+// if that would be above the screen or beyond all numbers.
 WindowPosition chooseInitialWindowPosition(const Rect& last, bool dockToBottomEdge, const Rect& host);
 
 }

@@ -12,7 +12,6 @@ namespace Gui::System {
 
 namespace {
 
-constexpr int CHANNELS = 16;
 constexpr int MAX_VELOCITY = 127;
 constexpr int MAX_VELOCITY_LENGTH = 3;
 constexpr int MAX_MOUSE_SENSITIVITY = 100;
@@ -48,9 +47,9 @@ void GeneralPage::initialize() {
 
 void GeneralPage::fillChannels() {
     const HWND channels = control(IDC_SETUP_CHANNEL);
-    for (int channel = 1; channel <= CHANNELS; ++channel)
+    for (int channel = 1; channel <= MIDI_CHANNELS; ++channel)
         SendMessageA(channels, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::to_string(channel).c_str()));
-    SendMessageA(channels, CB_SETCURSEL, static_cast<WPARAM>(m_settings.getLiteChannel()), 0);
+    SendMessageA(channels, CB_SETCURSEL, static_cast<WPARAM>(limitChannel(m_settings.getLiteChannel())), 0);
 }
 
 void GeneralPage::apply() {

@@ -4,7 +4,21 @@
 
 namespace Gui {
 
-KeyboardHookProxy::KeyboardHookProxy(const std::string& folder) : m_library(LoadLibraryA((folder + LIBRARY).c_str())) {
+namespace {
+
+// Null for a file that is missing or no library, about which the system says nothing to the user then.
+HMODULE loadSilently(const std::string& path) {
+    DWORD before = 0;
+    const BOOL isSilent = SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &before);
+    const HMODULE library = LoadLibraryA(path.c_str());
+    if (isSilent)
+        SetThreadErrorMode(before, nullptr);
+    return library;
+}
+
+}
+
+KeyboardHookProxy::KeyboardHookProxy(const std::string& folder) : m_library(loadSilently(folder + LIBRARY)) {
     if (!m_library)
         return;
     find(m_setWindowHandle, "setWindowHandle");

@@ -10,14 +10,20 @@
 
 namespace Gui {
 
+inline void traceException(const char* what) {
+    Backend::Trace::channel().trace("src\\Gui\\Utils\\WindowProcedure", __LINE__, "withoutExceptions", what);
+}
+
 // The result of a call; 0 for one that ends in an exception, which is only traced.
 template <class Call>
 auto withoutExceptions(Call call) -> decltype(call()) {
     try {
         return call();
     } catch (const std::exception& exception) {
-        Backend::Trace::channel().trace("src\\Gui\\Utils\\WindowProcedure", __LINE__, "withoutExceptions",
-                                        exception.what());
+        traceException(exception.what());
+        return 0;
+    } catch (...) {
+        traceException("an exception of no known kind");
         return 0;
     }
 }

@@ -1,12 +1,15 @@
 #include "Host/console/FramePlacement.h"
 
 #include "Gui/Rules/WindowMove.h"
+#include "Host/console/FrameLayout.h"
 
 #include <algorithm>
 
 namespace Host::Console {
 
 namespace {
+
+constexpr std::int32_t GRIP_WIDTH = 100;
 
 Rect moveTo(const Rect& window, std::int32_t left, std::int32_t top) {
     return {left, top, left + window.right - window.left, top + window.bottom - window.top};
@@ -20,6 +23,16 @@ Rect moveFrame(const Rect& window, std::uintptr_t x, std::uintptr_t y) {
 
 Rect dockFrame(const Rect& window, const Rect& workArea) {
     return moveTo(window, window.left, workArea.bottom - (window.bottom - window.top));
+}
+
+Rect bringIntoReach(const Rect& window, const Rect& workArea, bool isDocked) {
+    const std::int32_t width = std::min(GRIP_WIDTH, window.right - window.left);
+    const std::int32_t left =
+        std::max(std::min(window.left, workArea.right - width), workArea.left + width - (window.right - window.left));
+    std::int32_t top = std::min(window.top, workArea.bottom - FrameLayout::TOP);
+    if (!isDocked)
+        top = std::max(top, workArea.top);
+    return moveTo(window, left, top);
 }
 
 Rect centreFrame(const Rect& window, const Rect& workArea) {

@@ -13,6 +13,10 @@ Rect moveFrame(const Rect& window, std::uintptr_t x, std::uintptr_t y);
 // [any] The window at the bottom of its screen.
 Rect dockFrame(const Rect& window, const Rect& workArea);
 
+// [any] The window moved as little as lets the user get hold of its title: with some of it between the sides of the
+// screen, and its top not above it unless the window is docked to the bottom.
+Rect bringIntoReach(const Rect& window, const Rect& workArea, bool isDocked);
+
 // [any] The window in the middle of a screen, its top left corner on it in any case.
 Rect centreFrame(const Rect& window, const Rect& workArea);
 

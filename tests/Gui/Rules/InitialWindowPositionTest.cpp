@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace {
 
 using Gui::chooseInitialWindowPosition;
@@ -20,6 +22,17 @@ TEST(InitialWindowPosition, KeepsTheBottomEdgeOfADockedWindow) {
 
 TEST(InitialWindowPosition, AddsTheTopOfADockedWindowThatIsElsewhere) {
     EXPECT_EQ(chooseInitialWindowPosition(LAST, true, {0, 20, 600, 120}), (WindowPosition{30, 620}));
+}
+
+TEST(InitialWindowPosition, OfNonsenseIsUnknown) {
+    constexpr std::int32_t LOWEST = std::numeric_limits<std::int32_t>::min();
+    constexpr std::int32_t HIGHEST = std::numeric_limits<std::int32_t>::max();
+    const Rect host{0, 20, 600, 120};
+    EXPECT_FALSE(chooseInitialWindowPosition({LOWEST, LOWEST, LOWEST, LOWEST}, true, host).isKnown());
+    EXPECT_FALSE(chooseInitialWindowPosition({0, HIGHEST, 0, HIGHEST}, true, {0, 200, 0, 100}).isKnown());
+    EXPECT_FALSE(chooseInitialWindowPosition({30, 10, 630, 40}, true, host).isKnown());
+    EXPECT_EQ(chooseInitialWindowPosition({HIGHEST, 0, 0, HIGHEST}, true, {0, 0, 600, 100}),
+              (WindowPosition{HIGHEST, HIGHEST - 100}));
 }
 
 TEST(InitialWindowPosition, IsKnownOnlyWithoutNegativeCoordinates) {

@@ -14,6 +14,13 @@ TEST(SetupValues, VelocityIsASignedByte) {
     EXPECT_EQ(readVelocity("300"), 44);
 }
 
+TEST(SetupValues, AChannelIsOneOfSixteen) {
+    EXPECT_EQ(limitChannel(0), 0);
+    EXPECT_EQ(limitChannel(15), 15);
+    EXPECT_EQ(limitChannel(16), 0);
+    EXPECT_EQ(limitChannel(-1), 0);
+}
+
 TEST(SetupValues, MouseSensitivityCanDivide) {
     EXPECT_EQ(readMouseSensitivity("4"), 4);
     EXPECT_EQ(readMouseSensitivity("1"), 1);

@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <limits>
 #include <memory>
 #include <thread>
 
@@ -268,6 +269,16 @@ TEST_F(DisplayPanelTest, BeginsNoLowerThanTwentyFive) {
     EXPECT_EQ(windowHeight(), 25);
 }
 
+TEST_F(DisplayPanelTest, BeginsNoHigherThanTheScreen) {
+    for (const int height : {70000, std::numeric_limits<int>::max()}) {
+        create(height);
+        EXPECT_EQ(windowHeight(), GetSystemMetrics(SM_CYVIRTUALSCREEN)) << height;
+        EXPECT_EQ(panel->getHeight(), windowHeight());
+        DestroyWindow(panel->getWindowHandle());
+        DestroyWindow(root.getWindowHandle());
+    }
+}
+
 TEST_F(DisplayPanelTest, TheTextFollowsTheHeight) {
     createShown(150);
     const auto width = rectInParent(edit).right - rectInParent(edit).left;
@@ -304,6 +315,19 @@ TEST_F(DisplayPanelTest, ADragEndsOutsideTheWindowToo) {
     SendMessageA(panel->getWindowHandle(), WM_NCLBUTTONUP, HTBORDER, MAKELPARAM(rect.left + 5, rect.top + 99));
     EXPECT_NE(GetCapture(), panel->getWindowHandle());
     EXPECT_EQ(windowHeight(), 99);
+}
+
+TEST_F(DisplayPanelTest, ADragEndsWithoutAnEffectWhenSomethingElseTakesTheMouse) {
+    createShown(150);
+    RECT client{};
+    GetClientRect(edit, &client);
+    SendMessageA(edit, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(30, client.bottom - 5));
+    SendMessageA(panel->getWindowHandle(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(30, 100));
+    SetCapture(top.handle());
+    ReleaseCapture();
+    SendMessageA(panel->getWindowHandle(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(30, 60));
+    SendMessageA(panel->getWindowHandle(), WM_LBUTTONUP, 0, MAKELPARAM(30, 60));
+    EXPECT_EQ(windowHeight(), 150);
 }
 
 TEST_F(DisplayPanelTest, MovesWithoutADragChangeNothing) {

@@ -1,5 +1,7 @@
 #include "Backend/input/Key.h"
 #include "Gui/Utils/KeyboardHookProxy.h"
+#include "Platform/Files.h"
+#include "tests/support/TemporaryFolder.h"
 #include "tests/support/win32/RecordedHook.h"
 
 #include <gtest/gtest.h>
@@ -58,6 +60,16 @@ TEST(KeyboardHookProxy, DoesNothingWithALibraryWithoutFunctions) {
         callAll(proxy);
     }
     EXPECT_EQ(GetModuleHandleA(path.c_str()), nullptr);
+}
+
+TEST(KeyboardHookProxy, DoesNothingWithAFileThatIsNoLibrary) {
+    const TestSupport::TemporaryFolder folder;
+    ASSERT_TRUE(Platform::Files::replace(folder.file("KeyboardHook_64.dll"), "no library at all"));
+    const RecordedHook hook;
+    const DWORD before = GetThreadErrorMode();
+    callAll(KeyboardHookProxy(folder.path()));
+    EXPECT_EQ(hook.takeCalls(), "");
+    EXPECT_EQ(GetThreadErrorMode(), before);
 }
 
 TEST(KeyboardHookProxy, FreesTheLibraryWithItself) {

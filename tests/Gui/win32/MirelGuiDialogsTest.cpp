@@ -19,6 +19,12 @@ constexpr int FILE_NAME = 0x47c;
 constexpr int PROMPT_TEXT = 1059;
 constexpr int FILE_KIND = 0x470;
 
+struct ImportRow {
+    const char* source;
+    const char* name;
+    const char* result;
+};
+
 class MirelGuiDialogsTest : public testing::Test {
 protected:
     MirelGuiDialogsTest() {
@@ -34,6 +40,21 @@ protected:
             SendMessageA(GetDlgItem(dialog, FILE_NAME), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(path.c_str()));
         PostMessageA(dialog, WM_COMMAND, path.empty() ? IDCANCEL : IDOK, 0);
         eventually([dialog] { return !IsWindow(dialog); });
+    }
+
+    // [other thread] The kinds of files that a dialog offers, which is cancelled then.
+    static std::string takeKinds(const std::string& title) {
+        std::string kinds;
+        const HWND dialog = waitForDialog([&title](HWND window) { return textOf(window) == title; });
+        const HWND list = GetDlgItem(dialog, FILE_KIND);
+        const auto count = SendMessageA(list, CB_GETCOUNT, 0, 0);
+        for (LRESULT i = 0; i < count; ++i) {
+            char text[256] = "";
+            SendMessageA(list, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text));
+            kinds += std::string(text) + ";";
+        }
+        answer(title, "");
+        return kinds;
     }
 
     static std::string systemPath(const std::string& path) {
@@ -87,27 +108,32 @@ TEST_F(MirelGuiDialogsTest, LoadThatIsCancelledChangesNothing) {
 TEST_F(MirelGuiDialogsTest, LoadOffersBanksAndPrograms) {
     std::string kinds;
     {
-        const OtherThread user([&kinds] {
-            const HWND dialog = waitForDialog([](HWND window) { return textOf(window) == "Load"; });
-            const HWND list = GetDlgItem(dialog, FILE_KIND);
-            const auto count = SendMessageA(list, CB_GETCOUNT, 0, 0);
-            for (LRESULT i = 0; i < count; ++i) {
-                char text[256] = "";
-                SendMessageA(list, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text));
-                kinds += std::string(text) + ";";
-            }
-            answer("Load", "");
-        });
+        const OtherThread user([&kinds] { kinds = takeKinds("Load"); });
         desk.gui().showLoadDialog();
     }
     EXPECT_EQ(kinds, "Bank Files;Program Files;");
 }
 
-struct ImportRow {
-    const char* source;
-    const char* name;
-    const char* result;
-};
+TEST_F(MirelGuiDialogsTest, ImportOffersBanksProgramsAndPresets) {
+    std::string kinds;
+    {
+        const OtherThread user([&kinds] { kinds = takeKinds("Select Version 2 File To Import"); });
+        desk.gui().importVersion2File();
+    }
+    EXPECT_EQ(kinds, "Bank Files;Program Files;Preset Files;");
+    for (const ImportRow& row : {ImportRow{"tests/data/version2/bank.txt", "old.bnk", "Bank Files;"},
+                                 ImportRow{"tests/data/version2/program.txt", "old.prg", "Program Files;"}}) {
+        const std::string from = copy(row.source, row.name);
+        {
+            const OtherThread user([&] {
+                answer("Select Version 2 File To Import", from);
+                kinds = takeKinds("Select Name Of New File");
+            });
+            desk.gui().importVersion2File();
+        }
+        EXPECT_EQ(kinds, row.result) << row.name;
+    }
+}
 
 TEST_F(MirelGuiDialogsTest, ImportConvertsBanksAndPrograms) {
     for (const ImportRow& row : {ImportRow{"tests/data/version2/bank.txt", "old.bnk", "new.bnk"},

@@ -244,6 +244,45 @@ TEST_F(MirelGuiKeysTest, KeysAreReleasedWhenTheWindowIsDragged) {
     EXPECT_EQ(desk.takeKeys(), (Strings{"down 65 0", "up 65 0"}));
 }
 
+TEST_F(MirelGuiKeysTest, KeysAreReleasedWhenTheWindowGoes) {
+    const TestWindow other;
+    SetForegroundWindow(other.handle());  // The hook brings them.
+    desk.settle();
+    desk.takeKeys();
+    send(WM_KEYDOWN, 'A', FIRST);
+    send(WM_KEYDOWN, 'S', FIRST);
+    desk.takeKeys();
+    desk.gui().destroy();
+    desk.settle();
+    EXPECT_EQ(desk.takeKeys(), (Strings{"up 65 0", "up 83 0"}));
+}
+
+// Another program has the keyboard, and only the hook has brought its keys.
+TEST_F(MirelGuiKeysTest, KeysOfTheHookAreReleasedWhenItEnds) {
+    const TestWindow other;
+    SetForegroundWindow(other.handle());
+    desk.settle();
+    for (const bool byControlKey : {false, true}) {
+        desk.tell(33266, 1);
+        send(WM_KEYDOWN, 'A', FIRST);
+        desk.takeKeys();
+        if (byControlKey)
+            send(KeyboardHookProxy::getStateMessage(), 0, 0);
+        else
+            desk.tell(33266, 0);
+        desk.settle();
+        EXPECT_EQ(desk.takeKeys(), Strings{"up 65 0"}) << byControlKey;
+    }
+}
+
+TEST_F(MirelGuiKeysTest, KeysStayDownWhenTheHookEndsUnderTheWindowsOwnKeyboard) {
+    desk.tell(33266, 1);
+    send(WM_KEYDOWN, 'A', FIRST);
+    desk.takeKeys();
+    desk.tell(33266, 0);
+    EXPECT_EQ(desk.takeKeys(), Strings());
+}
+
 TEST_F(MirelGuiKeysTest, AKeyThatIsUpIsNotReleasedAgain) {
     send(WM_KEYDOWN, 'A', FIRST);
     send(WM_KEYUP, 'A', RELEASED);

@@ -1,3 +1,4 @@
+#include "Backend/core/MessagePayload.h"
 #include "Backend/core/ScreenState.h"
 #include "Backend/core/Trace.h"
 #include "Gui/ResourceIds.h"
@@ -9,6 +10,10 @@
 #include "tests/support/win32/WindowDesk.h"
 
 #include <gtest/gtest.h>
+
+#include <objbase.h>
+
+#include <limits>
 
 namespace Gui {
 namespace {
@@ -198,6 +203,67 @@ TEST_F(MirelGuiLifeTest, AHostThatDestroysItsWindowFirstLosesNothing) {
     EXPECT_EQ(desk.mirel().getGuiWindowHandle(), nullptr);
 }
 
+TEST_F(MirelGuiLifeTest, ItsThreadCanUseComWhileItLives) {
+    desk.open();
+    EXPECT_EQ(CoInitialize(nullptr), S_FALSE);
+    CoUninitialize();
+    desk.close();
+    EXPECT_EQ(CoInitialize(nullptr), S_OK);
+    CoUninitialize();
+}
+
+TEST_F(MirelGuiLifeTest, AWindowThatTheHostDestroyedIsKnownNoMore) {
+    desk.open();
+    DestroyWindow(desk.window());
+    EXPECT_EQ(desk.window(), nullptr);
+    EXPECT_EQ(desk.mirel().getGuiWindowHandle(), nullptr);
+}
+
+// Otherwise nobody would free it.
+TEST_F(MirelGuiLifeTest, TakesWhatTheDeskHasSentBeforeItGoes) {
+    for (const bool byHost : {false, true}) {
+        MirelGui& gui = desk.open();
+        const auto send = [&gui](UINT message, auto object) {
+            PostMessageA(gui.getWindowHandle(), message, 0, Backend::releaseCopy<LPARAM>(object));
+        };
+        send(33220, std::string("late.bnk"));
+        PostMessageA(gui.getWindowHandle(), 33259, 0, 0);  // Menus stay closed.
+        PostMessageA(gui.getWindowHandle(), 33260, 0, 0);
+        PostMessageA(gui.getWindowHandle(), 33231, 1, 0);
+        send(33221, Backend::Bank("C:\\late bank.bnk", {"One"}));
+        if (byHost)
+            DestroyWindow(gui.getWindowHandle());
+        else
+            gui.destroy();
+        EXPECT_EQ(gui.getRegistrySettings().getDefaultBank(), "late.bnk");
+        EXPECT_EQ(gui.getCurrentBankName(), "late bank");
+        desk.settle();
+        EXPECT_TRUE(desk.mirel().getScreenState().help);
+        desk.close();
+        Backend::ScreenState state;
+        desk.mirel().setScreenState(state);
+    }
+}
+
+TEST_F(MirelGuiLifeTest, TheEndOfTheProgramIsNotTakenForAMessageOfTheDesk) {
+    MirelGui& gui = desk.open();
+    PostQuitMessage(7);
+    gui.destroy();
+    MSG message{};
+    ASSERT_TRUE(PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(message.message, UINT{WM_QUIT});
+    EXPECT_EQ(message.wParam, 7u);
+}
+
+TEST_F(MirelGuiLifeTest, TheHostsPlaceIsKeptWhileItIsMinimised) {
+    desk.open();
+    SetWindowPos(desk.host.handle(), nullptr, 70, 80, 500, 400, SWP_NOZORDER);
+    ShowWindow(desk.host.handle(), SW_MINIMIZE);
+    ASSERT_TRUE(IsIconic(desk.host.handle()));
+    desk.close();
+    EXPECT_EQ(desk.mirel().getRegistrySettings().getLastWindowPosition(), (Rect{70, 80, 570, 480}));
+}
+
 TEST_F(MirelGuiLifeTest, DestroyTwiceIsDestroyOnce) {
     MirelGui& gui = desk.open();
     gui.destroy();
@@ -252,6 +318,41 @@ TEST_F(MirelGuiLifeTest, NothingIsLeftOfAWindowThatWasClosed) {
     EXPECT_EQ(after.graphics, before.graphics);
     EXPECT_EQ(after.windows, before.windows);
     EXPECT_EQ(after.menus, before.menus);
+}
+
+TEST(MirelGuiSettings, NonsenseInAllOfThemDoesNoHarm) {
+    constexpr int LOWEST = std::numeric_limits<int>::min();
+    constexpr int HIGHEST = std::numeric_limits<int>::max();
+    for (const int nonsense : {LOWEST, -70000, -1, 0, 70000, HIGHEST}) {
+        WindowDesk desk;
+        desk.prepareSettings([nonsense](Backend::RegistrySettings& settings) {
+            settings.setDefaultBank(std::string(5000, '\\'));
+            settings.setMidiBufferDir("\x01?*");
+            settings.setRetroRecordBufferSize(nonsense);
+            settings.setMouseSensitivity(nonsense);
+            settings.setDisplayHeight(nonsense);
+            settings.setLastWindowPosition({nonsense, nonsense, nonsense, nonsense});
+            settings.setDockToBottomEdge(true);
+            settings.setDefaultMidiOutput(nonsense);
+            settings.setLiteVelocity(nonsense);
+            settings.setLiteChannel(nonsense);
+        });
+        desk.start();
+        MirelGui& gui = desk.open();
+        gui.showDisplay(true);
+        gui.showHelp(true);
+        desk.settle();
+        EXPECT_TRUE(gui.isDisplayPanelShowing());
+        EXPECT_LE(desk.size().cy, 2 * GetSystemMetrics(SM_CYSCREEN)) << nonsense;
+        EXPECT_GT(desk.size().cy, 100) << nonsense;
+        for (const auto& message : desk.host.received(UM_MOVE_WINDOW)) {
+            const RelativeFixedValue x = unpackWindowMove(message.wParam);
+            EXPECT_TRUE(x.isRelative() || x.getValue() >= 0) << nonsense;
+        }
+        desk.close();
+        EXPECT_GE(desk.mirel().getRegistrySettings().getDisplayHeight(), 25) << nonsense;
+        EXPECT_LE(desk.mirel().getRegistrySettings().getDisplayHeight(), GetSystemMetrics(SM_CYSCREEN)) << nonsense;
+    }
 }
 
 // Where the host is asked to move to while the window is made.

@@ -1,4 +1,5 @@
 #include "Backend/core/DisplayMessageManager.h"
+#include "Backend/core/MessageManagerMaster.h"
 #include "Backend/core/MessagePayload.h"
 #include "Backend/core/WindowMessages.h"
 #include "Backend/functions/Functions.h"
@@ -10,6 +11,9 @@
 #include "tests/support/win32/WindowDesk.h"
 
 #include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
 
 namespace Gui {
 namespace {
@@ -120,6 +124,39 @@ TEST_F(MirelGuiMessagesTest, FlagsGoIntoTheWindowsSettingsAndToTheHost) {
         }
 }
 
+// Their next press asks for the opposite of what they show.
+TEST_F(MirelGuiMessagesTest, ThruIsShownByItsButtons) {
+    for (const HWND button : {systemControl(1021), GetDlgItem(desk.window(), 118)})
+        for (const bool thru : {false, true}) {
+            desk.mirel().getMessageManager().postChangeMidiThru(OnOffToggle(OnOffToggle::toggle), false);
+            desk.tell(33265, thru);
+            SendMessageA(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+            desk.settle();
+            EXPECT_EQ(desk.mirel().getRegistrySettings().getMidiThru(), !thru);
+        }
+}
+
+TEST_F(MirelGuiMessagesTest, TheLogsFontFollowsItsSetting) {
+    const HWND root = FindWindowExA(desk.window(), nullptr, "TamselPanel2008", nullptr);
+    const HWND edit = GetDlgItem(FindWindowExA(root, nullptr, nullptr, "Gui::Display::DisplayPanel"), 1074);
+    const auto font = [edit] { return reinterpret_cast<HFONT>(SendMessageA(edit, WM_GETFONT, 0, 0)); };
+    EXPECT_EQ(font(), gui().getGdiManager().getSmallFont().handle());
+    desk.tell(33225, 1);
+    EXPECT_EQ(font(), gui().getGdiManager().getLargeFont().handle());
+    desk.tell(33225, 0);
+    EXPECT_EQ(font(), gui().getGdiManager().getSmallFont().handle());
+}
+
+// What a message brings may be missing.
+TEST_F(MirelGuiMessagesTest, MessagesWithoutTheirObjectsDoNothing) {
+    const std::string before = state();
+    for (const UINT message : {33220u, 33221u, 33222u, 33223u, 33228u, 33255u, 33256u})
+        desk.tell(message);
+    EXPECT_EQ(state(), before);
+    EXPECT_EQ(gui().getMidiOutputPorts().size(), 3u);
+    EXPECT_EQ(desk.host.count(UM_MOVE_WINDOW), 0u);
+}
+
 TEST_F(MirelGuiMessagesTest, NumbersGoIntoTheWindowsSettings) {
     desk.tell(33257, 2);
     EXPECT_EQ(gui().getDefaultMidiOutput(), 2);
@@ -226,6 +263,45 @@ TEST_F(MirelGuiMessagesTest, EventsReachTheLog) {
     const HWND root = FindWindowExA(desk.window(), nullptr, "TamselPanel2008", nullptr);
     const HWND edit = GetDlgItem(FindWindowExA(root, nullptr, nullptr, "Gui::Display::DisplayPanel"), 1074);
     EXPECT_TRUE(pumpUntil([edit] { return textOf(edit).find("C4") != std::string::npos; })) << textOf(edit);
+}
+
+// The log's thread waits for this one to take a text, all others for the log, and this one for a place in its queue.
+TEST_F(MirelGuiMessagesTest, AFullLogDoesNotHoldTheWindowUp) {
+    constexpr int CAPACITY = Platform::MessageThread::CAPACITY;
+    gui().showDisplay(true);
+    desk.settle();
+    auto& log = desk.mirel().getDisplayMessageManager();
+    log.postAddText("first\r\n");
+    log.postFlush();
+    std::atomic<int> posted = 0;
+    std::thread flood([&] {
+        while (posted < CAPACITY + 1) {
+            log.postAddText("flood\r\n");
+            ++posted;
+        }
+    });
+    ASSERT_TRUE(TestSupport::eventually([&posted] { return posted >= CAPACITY; }));
+    MirelMidiMessage message;
+    message.setMidiMessage(MidiMessage(MidiMessage::NoteOn, 60, 100, 0));
+    gui().displayMidiOutputEvent(message);
+    EXPECT_TRUE(pumpUntil([&] { return posted > CAPACITY && log.isIdle(); }));
+    flood.join();
+}
+
+// As before, and the desk waits for the log too.
+TEST_F(MirelGuiMessagesTest, AFullLogDoesNotHoldUpTheWindowThatWaitsForTheDesk) {
+    constexpr int CAPACITY = Platform::MessageThread::CAPACITY;
+    gui().showDisplay(true);
+    desk.settle();
+    auto& log = desk.mirel().getDisplayMessageManager();
+    log.postAddText("first\r\n");
+    log.postFlush();
+    for (int i = 0; i < CAPACITY; ++i)
+        log.postAddText("flood\r\n");
+    desk.mirel().getMessageManager().postSetDisplayNumbers(true);
+    gui().editSequencePreset("none", "other");
+    gui().deleteSequencePreset("none");
+    EXPECT_TRUE(desk.mirel().getMessageManagerMaster().isIdle());
 }
 
 TEST_F(MirelGuiMessagesTest, InputsReplaceTheOnesBefore) {

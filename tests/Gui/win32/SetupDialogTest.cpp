@@ -245,6 +245,19 @@ TEST_F(SetupDialogTest, OkPostsWhatGeneralHolds) {
     EXPECT_FALSE(settings().getDockToBottomEdge());
 }
 
+TEST_F(SetupDialogTest, AChannelThatIsNoneBecomesTheFirst) {
+    for (const int channel : {-1, 16, 300}) {
+        settings().setLiteChannel(channel);
+        show([](const Sheet& sheet) {
+            EXPECT_EQ(textOf(sheet.current(), 1006), "1");
+            sheet.ok();
+        });
+        const Lines posted = gui.takePosted();
+        EXPECT_NE(std::find(posted.begin(), posted.end(), "33270 0 0"), posted.end()) << channel;
+        EXPECT_EQ(settings().getLiteChannel(), 0) << channel;
+    }
+}
+
 TEST_F(SetupDialogTest, CancelPostsNothing) {
     show([](const Sheet& sheet) {
         set(sheet.current(), 1053, "88");

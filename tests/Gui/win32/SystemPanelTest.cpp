@@ -1,9 +1,11 @@
 #include "Gui/System/SystemPanel.h"
 
+#include "Backend/core/MirelMessages.h"
 #include "Gui/ResourceIds.h"
 #include "Gui/Utils/GdiManager.h"
 #include "Gui/Utils/UserMessages.h"
 #include "Platform/Shell.h"
+#include "tests/support/TemporaryFolder.h"
 #include "tests/support/win32/DeskGui.h"
 #include "tests/support/win32/TestWindows.h"
 
@@ -300,6 +302,28 @@ TEST_F(SystemPanelTest, TheRightButtonOpensTheMenuOfFunctions) {
         SendMessageA(panel->getWindowHandle(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(panel->getWindowHandle()),
                      MAKELPARAM(60, 60));
         EXPECT_EQ(gui.takeCalls(), Lines{calls[row - 1]});
+    }
+}
+
+TEST_F(SystemPanelTest, SaveAsksForABankOrAProgram) {
+    create();
+    const TestSupport::TemporaryFolder folder;
+    for (const bool isProgram : {false, true}) {
+        constexpr int FILE_NAME = 0x47c;
+        const std::string path = folder.path() + (isProgram ? "\\lead.prg" : "\\live.bnk");
+        keyForMenu(panel->getWindowHandle(), VK_DOWN);
+        keyForMenu(panel->getWindowHandle(), VK_RETURN);
+        {
+            const TestSupport::OtherThread user([&path] {
+                const HWND dialog = TestSupport::waitForDialog([](HWND window) { return textOf(window) == "Save"; });
+                SendMessageA(GetDlgItem(dialog, FILE_NAME), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(path.c_str()));
+                PostMessageA(dialog, WM_COMMAND, IDOK, 0);
+            });
+            SendMessageA(panel->getWindowHandle(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(panel->getWindowHandle()),
+                         MAKELPARAM(60, 60));
+        }
+        const UINT number = isProgram ? Backend::MirelMessages::SAVE_TO_PROGRAM : Backend::MirelMessages::SAVE_TO_BANK;
+        EXPECT_EQ(gui.takePosted(), Lines{std::to_string(number) + " '" + path + "'"});
     }
 }
 

@@ -74,6 +74,18 @@ TEST(FramePlacement, CentresOnTheScreenWithTheCaptionInReach) {
     EXPECT_EQ(centreFrame({0, 0, 300, 900}, {-1000, 20, 0, 700}), (Rect{-650, 20, -350, 920}));
 }
 
+TEST(FramePlacement, ATitleStaysWithinReach) {
+    const Rect area{0, 30, 1000, 760};
+    const Rect inside{100, 200, 700, 300};
+    EXPECT_EQ(bringIntoReach(inside, area, false), inside);
+    EXPECT_EQ(bringIntoReach({990, 755, 1590, 855}, area, false), (Rect{900, 735, 1500, 835}));
+    EXPECT_EQ(bringIntoReach({-590, 5, 10, 105}, area, false), (Rect{-500, 30, 100, 130}));
+    // A docked window may be higher than the screen.
+    EXPECT_EQ(bringIntoReach({100, -300, 700, 760}, area, true), (Rect{100, -300, 700, 760}));
+    // One that is narrow is all on the screen.
+    EXPECT_EQ(bringIntoReach({980, 40, 1040, 90}, area, false), (Rect{940, 40, 1000, 90}));
+}
+
 bool isMetal(std::uint32_t pixel) {
     const int red = static_cast<int>(pixel >> 16);
     const int blue = static_cast<int>(pixel & 0xff);

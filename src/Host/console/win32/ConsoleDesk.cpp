@@ -1,6 +1,7 @@
 #include "Host/console/win32/ConsoleDesk.h"
 
 #include "Backend/core/Bank.h"
+#include "Backend/core/MessageManagerMaster.h"
 #include "Backend/core/MirelMessageManager.h"
 #include "Backend/core/MirelUtils.h"
 #include "Backend/core/RegistrySettings.h"
@@ -11,7 +12,7 @@
 #include "Host/console/StartChoices.h"
 #include "Host/console/win32/SingleInstance.h"
 #include "Platform/Files.h"
-#include "Platform/Shell.h"
+#include "Platform/Sleep.h"
 
 namespace Host::Console {
 
@@ -42,8 +43,9 @@ bool ConsoleDesk::start(const SingleInstance& instance, int showCommand) {
     m_gui->initialize();
     m_frame->setGui(m_gui.get());
     m_frame->show(showCommand);
-    loadFirstPrograms();
+    // Before what may open a box: another start shall not wait for its answer.
     instance.announce(m_frame->getWindowHandle());
+    loadFirstPrograms();
     return true;
 }
 
@@ -60,23 +62,27 @@ void ConsoleDesk::run() {
 
 void ConsoleDesk::stop() {
     removeWindow();
+    if (!endDesk())
+        tell(m_line.recordFile + ": can't be written.");
+}
+
+// False if what was played could not be written.
+bool ConsoleDesk::endDesk() {
     if (std::exchange(m_isStopped, true))
-        return;
+        return true;
     m_desk.stop();
-    if (!m_line.recordFile.empty() && !m_desk.ports().recorder().write(m_line.recordFile))
-        Platform::showMessage(m_line.recordFile + ": can't be written.", PRODUCT);
+    return m_line.recordFile.empty() || m_desk.ports().recorder().write(m_line.recordFile);
 }
 
 void ConsoleDesk::closeRequested() {
     PostQuitMessage(0);
 }
 
-// The system ends the program as soon as this returns.
+// The system ends the program as soon as this returns, and waits for no box.
 void ConsoleDesk::sessionEnds() {
     if (m_gui)
         m_gui->destroy();
-    if (!std::exchange(m_isStopped, true))
-        m_desk.stop();
+    endDesk();
 }
 
 void ConsoleDesk::openRequested(const OpenRequest& request) {
@@ -92,8 +98,14 @@ void ConsoleDesk::timePassed() {
     m_frame->refreshTitle();
     if (!m_desk.hasFailed() || std::exchange(m_hasToldFailure, true))
         return;
-    Platform::showMessage("The player has stopped. Start the desk again.", PRODUCT);
+    tell("The player has stopped. Start the desk again.");
     closeRequested();
+}
+
+// In a box over the frame, never over the window of another program that the user works in at the moment.
+void ConsoleDesk::tell(const std::string& text) const {
+    const HWND frame = m_frame ? m_frame->getWindowHandle() : nullptr;
+    MessageBoxA(IsIconic(frame) ? nullptr : frame, text.c_str(), PRODUCT, MB_OK);
 }
 
 FrameWindow::Options ConsoleDesk::frameOptions() {
@@ -125,8 +137,7 @@ void ConsoleDesk::openFile(const std::string& path) {
     switch (kindOfDeskFile(path)) {
         case DeskFileKind::bank: return openBank(path);
         case DeskFileKind::program: return openProgram(path);
-        case DeskFileKind::none:
-            return Platform::showMessage(path + ": is neither a bank (.bnk) nor a program (.prg).", PRODUCT);
+        case DeskFileKind::none: return tell(path + ": is neither a bank (.bnk) nor a program (.prg).");
     }
 }
 
@@ -134,7 +145,7 @@ void ConsoleDesk::openBank(const std::string& path) {
     if (Platform::Files::size(path))
         manager().postLoadBank(withLowerCaseExtension(path));
     else
-        Platform::showMessage(path + ": can't be read.", PRODUCT);
+        tell(path + ": can't be read.");
 }
 
 void ConsoleDesk::openProgram(const std::string& wanted) {
@@ -142,15 +153,22 @@ void ConsoleDesk::openProgram(const std::string& wanted) {
         if (Platform::Files::size(wanted))
             manager().postLoadProgram(withLowerCaseExtension(wanted));
         else
-            Platform::showMessage(wanted + ": can't be read.", PRODUCT);
+            tell(wanted + ": can't be read.");
         return;
     }
-    m_desk.waitUntilIdle();
+    waitForBank();
     const int index = findProgram(m_desk.mirel().getCurrentBank().getProgramNames(), wanted);
     if (index >= 0)
         manager().postChangeProgram(SelectType(SelectType::specific, index));
     else
-        Platform::showMessage("The bank has no program \"" + wanted + "\".", PRODUCT);
+        tell("The bank has no program \"" + wanted + "\".");
+}
+
+// The desk may wait for its log, and that for this thread's windows.
+void ConsoleDesk::waitForBank() {
+    while (!m_desk.mirel().getMessageManagerMaster().isIdle())
+        Platform::sleepAnsweringWindows(1);
+    m_desk.waitUntilIdle();
 }
 
 void ConsoleDesk::removeWindow() {

@@ -45,13 +45,16 @@ private:
     void timePassed() override;
 
     Backend::MirelMessageManager& manager();
+    void tell(const std::string& text) const;
     FrameWindow::Options frameOptions();
     void chooseOutputs();
     void loadFirstPrograms();
     void openFile(const std::string& path);
     void openBank(const std::string& path);
     void openProgram(const std::string& wanted);
+    void waitForBank();
     void removeWindow();
+    bool endDesk();
 
     const CommandLine m_line;
     PortDesk m_desk;

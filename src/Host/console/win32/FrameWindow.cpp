@@ -4,12 +4,15 @@
 #include "Gui/MirelGuiIF.h"
 #include "Gui/Rules/WindowMove.h"
 #include "Gui/Utils/UserMessages.h"
+#include "Gui/Utils/WindowProcedure.h"
 #include "Host/console/FramePlacement.h"
 #include "Host/console/FrameTitle.h"
 #include "Host/console/win32/ResourceIds.h"
 #include "Host/console/win32/SingleInstance.h"
 
 #include <shellapi.h>
+
+#include <optional>
 
 namespace Host::Console {
 
@@ -82,15 +85,29 @@ void FrameWindow::setGui(Gui::MirelGuiIF* gui) {
 }
 
 void FrameWindow::show(int command) {
-    MSG message;
-    while (PeekMessageA(&message, m_window, Gui::UM_SIZE_CHANGED, Gui::UM_MOVE_WINDOW, PM_REMOVE))
-        DispatchMessageA(&message);
-    if (!m_wasPlaced) {
+    takeWaitingWishes();
+    if (m_wasPlaced) {
+        place(bringIntoReach(position(), workArea(), m_options.dockToBottomEdge));
+    } else {
         const Rect middle = centreFrame(position(), workArea());
         place(m_options.dockToBottomEdge ? dockFrame(middle, workArea()) : middle);
     }
     refreshTitle();
     ShowWindow(m_window, command);
+}
+
+// What the desk has posted while it was made.
+void FrameWindow::takeWaitingWishes() {
+    std::optional<int> exitCode;
+    MSG message;
+    while (PeekMessageA(&message, m_window, Gui::UM_SIZE_CHANGED, Gui::UM_MOVE_WINDOW, PM_REMOVE)) {
+        if (message.message == WM_QUIT)  // It comes through any filter.
+            exitCode = static_cast<int>(message.wParam);
+        else
+            DispatchMessageA(&message);
+    }
+    if (exitCode)
+        PostQuitMessage(*exitCode);
 }
 
 void FrameWindow::comeToFront() {
@@ -115,7 +132,7 @@ void FrameWindow::refreshTitle() {
 
 LRESULT CALLBACK FrameWindow::windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     auto* const self = reinterpret_cast<FrameWindow*>(GetWindowLongPtrA(window, GWLP_USERDATA));
-    return self->wndProc(message, wParam, lParam);
+    return Gui::withoutExceptions([&] { return self->wndProc(message, wParam, lParam); });
 }
 
 LRESULT FrameWindow::wndProc(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -284,6 +301,8 @@ void FrameWindow::comeIntoReach() {
         place(centreFrame(position(), workArea()));
     else if (m_options.dockToBottomEdge && rect.bottom > workArea().bottom)
         place(dockFrame(position(), workArea()));
+    else
+        place(bringIntoReach(position(), workArea(), m_options.dockToBottomEdge));
 }
 
 void FrameWindow::takeDroppedFiles(HDROP drop) {

@@ -83,6 +83,7 @@ private:
     Rect position() const;
     Rect workArea() const;
     void comeIntoReach();
+    void takeWaitingWishes();
 
     FrameLayout layout() const;
     FramePart partAtScreenPoint(LPARAM lParam) const;

@@ -2,6 +2,7 @@
 #include "Backend/core/MirelUtils.h"
 #include "Host/common/MidiSystem.h"
 #include "Host/console/CommandLine.h"
+#include "Host/console/DeskFileName.h"
 #include "Host/console/FrameTitle.h"
 #include "Host/console/win32/ConsoleDesk.h"
 #include "Host/console/win32/SingleInstance.h"
@@ -49,7 +50,7 @@ std::string makeFull(const std::string& path) {
 
 OpenRequest makeRequest(const CommandLine& line) {
     OpenRequest request{line.bank.empty() ? "" : makeFull(line.bank), line.program, {}};
-    if (request.program.ends_with(".prg"))
+    if (kindOfDeskFile(request.program) == DeskFileKind::program)
         request.program = makeFull(request.program);
     for (const std::string& file : line.files)
         request.files.push_back(makeFull(file));

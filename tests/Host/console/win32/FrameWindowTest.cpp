@@ -8,6 +8,8 @@
 
 #include <shlobj.h>
 
+#include <stdexcept>
+
 namespace Host::Console {
 namespace {
 
@@ -19,12 +21,17 @@ class Listener : public FrameWindow::Listener {
 public:
     void closeRequested() override { ++closes; }
     void sessionEnds() override { ++sessionEndings; }
-    void openRequested(const OpenRequest& request) override { requests.push_back(request); }
+    void openRequested(const OpenRequest& request) override {
+        requests.push_back(request);
+        if (isFailing)
+            throw std::runtime_error("no memory");
+    }
     void timePassed() override { ++times; }
 
     int closes = 0;
     int sessionEndings = 0;
     int times = 0;
+    bool isFailing = false;
     std::vector<OpenRequest> requests;
 };
 
@@ -145,6 +152,31 @@ TEST_F(FrameWindowTest, ShowsInTheMiddleWhenTheDeskKnowsNoPlace) {
     const Rect rect = position();
     EXPECT_NEAR(rect.left - area.left, area.right - rect.right, 1);
     EXPECT_NEAR(rect.top - area.top, area.bottom - rect.bottom, 1);
+}
+
+TEST_F(FrameWindowTest, APlaceAtTheEdgeOfTheScreenLeavesTheTitleInReach) {
+    open();
+    const Rect area = workArea();
+    PostMessageA(window(), Gui::UM_MOVE_WINDOW, packWindowMove({false, area.right - 3}),
+                 static_cast<LPARAM>(packWindowMove({false, area.bottom - 3})));
+    frame->show(SW_SHOWNORMAL);
+    EXPECT_EQ(position().left, area.right - 100);
+    EXPECT_EQ(position().top, area.bottom - FrameLayout::TOP);
+    // Also when the screen changes later.
+    SetWindowPos(window(), nullptr, area.right - 3, 150, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    tell(WM_DISPLAYCHANGE, 32, MAKELPARAM(area.right, area.bottom));
+    EXPECT_EQ(position().left, area.right - 100);
+    EXPECT_EQ(position().top, 150);
+}
+
+TEST_F(FrameWindowTest, TheEndOfTheProgramIsNotTakenForAWishOfTheDesk) {
+    open();
+    PostMessageA(window(), Gui::UM_BANK_CHANGED, 0, 0);
+    PostQuitMessage(5);
+    frame->show(SW_SHOWNORMAL);
+    MSG message{};
+    ASSERT_TRUE(PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(message.wParam, 5u);
 }
 
 TEST_F(FrameWindowTest, ADockedDeskWithoutAPlaceBeginsAtTheBottom) {
@@ -362,6 +394,27 @@ TEST_F(FrameWindowTest, TakesTheRequestsOfAnotherStart) {
     }
     EXPECT_EQ(result, SingleInstance::Result::handedOver);
     EXPECT_EQ(listener.requests, std::vector<OpenRequest>{request});
+}
+
+TEST_F(FrameWindowTest, AFailureStaysInsideTheWindow) {
+    open();
+    SingleInstance first("failing frame");
+    ASSERT_EQ(first.enter({}), SingleInstance::Result::first);
+    first.announce(window());
+    listener.isFailing = true;
+    bool done = false;
+    {
+        const TestSupport::OtherThread other([&done] {
+            SingleInstance second("failing frame");
+            second.enter({"C:\\b.bnk", "", {}});
+            done = true;
+        });
+        EXPECT_TRUE(pumpUntil([&done] { return done; }));
+    }
+    EXPECT_EQ(listener.requests.size(), 1u);
+    listener.isFailing = false;
+    tell(WM_CLOSE);
+    EXPECT_EQ(listener.closes, 1);
 }
 
 TEST_F(FrameWindowTest, OtherProgramsDataAreNoRequests) {

@@ -1,6 +1,8 @@
 // The program as a user starts it.
 #include "Gui/Utils/UserMessages.h"
+#include "Host/console/win32/SingleInstance.h"
 #include "Platform/Files.h"
+#include "tests/support/CurrentFolder.h"
 #include "tests/support/ProjectFolder.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/win32/TestWindows.h"
@@ -23,13 +25,14 @@ std::string programPath() {
 // A process of the program; what it writes goes into a file.
 class Program {
 public:
-    Program(const std::string& arguments, const std::string& outputFile) {
+    Program(const std::string& arguments, const std::string& outputFile, WORD show = SW_SHOWNORMAL) {
         SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
         const HANDLE output = CreateFileA(outputFile.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
                                           &inherited, CREATE_ALWAYS, 0, nullptr);
         STARTUPINFOA info{};
         info.cb = sizeof info;
-        info.dwFlags = STARTF_USESTDHANDLES;
+        info.dwFlags = STARTF_USESTDHANDLES | STARTF_USESHOWWINDOW;
+        info.wShowWindow = show;
         info.hStdOutput = output;
         info.hStdError = output;
         std::string line = "\"" + programPath() + "\" " + arguments;
@@ -78,6 +81,31 @@ public:
                 return window;
         }
         return nullptr;
+    }
+
+    // The box that it asks its user with.
+    HWND waitForBox() const {
+        HWND box = nullptr;
+        eventually([this, &box] {
+            for (box = FindWindowExA(nullptr, nullptr, "#32770", nullptr); box;
+                 box = FindWindowExA(nullptr, box, "#32770", nullptr)) {
+                DWORD process = 0;
+                GetWindowThreadProcessId(box, &process);
+                if (process == m_process.dwProcessId && IsWindowVisible(box))
+                    return true;
+            }
+            return false;
+        });
+        return box;
+    }
+
+    // The text of the box, which is closed then.
+    std::string answerBox() const {
+        const HWND box = waitForBox();
+        const std::string text = textOf(GetDlgItem(box, 0xffff));
+        PostMessageA(box, WM_COMMAND, IDOK, 0);
+        eventually([box] { return !IsWindow(box); });
+        return text;
     }
 
 private:
@@ -164,6 +192,99 @@ TEST_F(MirelConsoleTest, ASecondStartHandsItsFilesToTheFirst) {
         << textOf(frame);
     const Program other("--data \"" + folder.file("other") + "\"", folder.file("third.txt"));
     EXPECT_NE(other.waitForFrame(), nullptr);
+}
+
+TEST_F(MirelConsoleTest, ASecondStartIsHeardWhileTheFirstAsksItsUser) {
+    const Program first(data() + " --bank \"" + folder.file("missing.bnk") + "\"", output());
+    const HWND frame = first.waitForFrame();
+    ASSERT_NE(frame, nullptr) << readOutput();
+    const std::string bank = copy("tests/data/banks/three.bnk", "Late.bnk");
+    const Program second(data() + " \"" + bank + "\"", folder.file("second.txt"));
+    EXPECT_EQ(second.wait(), 0u);
+    EXPECT_TRUE(eventually([frame] { return textOf(frame).ends_with(" - Late - Mirel Console 3 LE"); }))
+        << textOf(frame);
+    EXPECT_EQ(first.answerBox(), folder.file("missing.bnk") + ": can't be read.");
+    PostMessageA(frame, WM_CLOSE, 0, 0);
+    EXPECT_EQ(first.wait(), 0u);
+}
+
+TEST_F(MirelConsoleTest, ASecondStartFindsItsProgramInItsOwnFolder) {
+    const Program first(data(), output());
+    const HWND frame = first.waitForFrame();
+    ASSERT_NE(frame, nullptr) << readOutput();
+    copy("tests/data/banks/single.prg", "Lead.PRG");
+    {
+        const TestSupport::CurrentFolder here(folder.path());
+        const Program second(data() + " --program Lead.PRG", folder.file("second.txt"));
+        EXPECT_EQ(second.wait(), 0u);
+    }
+    EXPECT_TRUE(eventually([frame] { return textOf(frame).starts_with("1 - "); })) << textOf(frame);
+}
+
+TEST_F(MirelConsoleTest, SaysThatAFileIsNoneOfTheDesks) {
+    const Program program(data(), output());
+    const HWND frame = program.waitForFrame();
+    ASSERT_NE(frame, nullptr) << readOutput();
+    SingleInstance other(folder.file("data"));
+    EXPECT_EQ(other.enter({"", "", {"C:\\notes.txt"}}), SingleInstance::Result::handedOver);
+    EXPECT_EQ(program.answerBox(), "C:\\notes.txt: is neither a bank (.bnk) nor a program (.prg).");
+    EXPECT_EQ(other.enter({"", "nothing", {}}), SingleInstance::Result::handedOver);
+    EXPECT_EQ(program.answerBox(), "The bank has no program \"nothing\".");
+    PostMessageA(frame, WM_CLOSE, 0, 0);
+    EXPECT_EQ(program.wait(), 0u);
+}
+
+TEST_F(MirelConsoleTest, ItsBoxesDisableNoOtherProgram) {
+    const TestSupport::TestWindow worker;
+    SetForegroundWindow(worker.handle());
+    const Program program(data() + " --bank \"" + folder.file("missing.bnk") + "\"", output(), SW_SHOWMINNOACTIVE);
+    HWND box = nullptr;
+    const TestSupport::OtherThread user([&program, &box] {
+        box = program.waitForBox();
+        EXPECT_EQ(GetWindow(box, GW_OWNER), nullptr);
+        PostMessageA(box, WM_COMMAND, IDOK, 0);
+    });
+    EXPECT_TRUE(TestSupport::pumpUntil([&box] { return box && !IsWindow(box); }));
+    EXPECT_TRUE(IsWindowEnabled(worker.handle()));
+}
+
+TEST_F(MirelConsoleTest, ABankThatIsBrokenLeavesADeskThatCanBeUsed) {
+    ASSERT_TRUE(Platform::Files::replace(folder.file("broken.bnk"), "<bank><program>"));
+    const Program program(data() + " --bank \"" + folder.file("broken.bnk") + "\" --program 2", output());
+    const HWND frame = program.waitForFrame();
+    ASSERT_NE(frame, nullptr) << readOutput();
+    EXPECT_EQ(program.answerBox(), "The bank has no program \"2\".");
+    PostMessageA(frame, WM_CLOSE, 0, 0);
+    EXPECT_EQ(program.wait(), 0u);
+}
+
+TEST_F(MirelConsoleTest, ComesBackWhereItWasWhenItIsClosedMinimised) {
+    {
+        const Program program(data(), output());
+        const HWND frame = program.waitForFrame();
+        ASSERT_NE(frame, nullptr) << readOutput();
+        SetWindowPos(frame, nullptr, 33, 44, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        ShowWindow(frame, SW_MINIMIZE);
+        EXPECT_TRUE(eventually([frame] { return IsIconic(frame) != FALSE; }));
+        PostMessageA(frame, WM_CLOSE, 0, 0);
+        EXPECT_EQ(program.wait(), 0u);
+    }
+    const Program program(data(), output());
+    const HWND frame = program.waitForFrame();
+    ASSERT_NE(frame, nullptr) << readOutput();
+    RECT rect;
+    GetWindowRect(frame, &rect);
+    EXPECT_EQ(rect.left, 33);
+    EXPECT_EQ(rect.top, 44);
+}
+
+TEST_F(MirelConsoleTest, TheEndOfTheSessionKeepsTheRecording) {
+    const std::string record = folder.file("played.mid");
+    const Program program(data() + " --record \"" + record + "\"", output());
+    const HWND frame = program.waitForFrame();
+    ASSERT_NE(frame, nullptr) << readOutput();
+    SendMessageA(frame, WM_ENDSESSION, TRUE, 0);
+    EXPECT_TRUE(Platform::Files::read(record).value_or("").starts_with("MThd"));
 }
 
 TEST_F(MirelConsoleTest, ComesBackWhereItWas) {
