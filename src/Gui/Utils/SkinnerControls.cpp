@@ -3,6 +3,7 @@
 #include "Gui/Rules/TrackbarChannel.h"
 #include "Gui/Utils/DeviceContexts.h"
 #include "Gui/Utils/GdiManager.h"
+#include "Gui/Utils/Redraw.h"
 #include "Gui/Utils/SkinProperties.h"
 #include "Gui/Utils/Skinner.h"
 #include "Gui/Utils/UserMessages.h"
@@ -10,6 +11,8 @@
 
 #include <commctrl.h>
 #include <windowsx.h>
+
+#include <utility>
 
 namespace Gui {
 
@@ -19,7 +22,7 @@ namespace {
 
 void setChecked(HWND window, bool checked) {
     setNumber(window, CHECKED, checked);
-    InvalidateRect(window, nullptr, FALSE);
+    redraw(window);
 }
 
 Rect askForRect(HWND trackbar, UINT message) {
@@ -113,10 +116,19 @@ LRESULT Skinner::trackbarProc(HWND window, UINT message, WPARAM wParam, LPARAM l
         case WM_PAINT: handlePaintTrackbar(window); break;
         case WM_NCHITTEST: m_gui.displayHelp(window); break;
         case WM_MOUSEWHEEL:
-        case UM_MOUSEWHEEL: return SendMessageA(GetParent(window), WM_MOUSEWHEEL, wParam, lParam);
+        case UM_MOUSEWHEEL: return passWheelUp(window, wParam, lParam);
         default: break;
     }
     return callOriginal(window, TRACKBAR_PROCEDURE, message, wParam, lParam);
+}
+
+// Without an answer on the way it gets to the main window, which sends it to what is under the pointer: here.
+LRESULT Skinner::passWheelUp(HWND window, WPARAM wParam, LPARAM lParam) {
+    if (std::exchange(m_isPassingWheel, true))
+        return 0;
+    const LRESULT result = SendMessageA(GetParent(window), WM_MOUSEWHEEL, wParam, lParam);
+    m_isPassingWheel = false;
+    return result;
 }
 
 // It leaves nothing to paint for the control's own procedure.
