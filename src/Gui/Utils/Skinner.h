@@ -87,7 +87,7 @@ private:
     LRESULT radioButtonProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT trackbarProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT handleButtonMessage(const char* property, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT passWheelUp(HWND window, WPARAM wParam, LPARAM lParam);
+    static LRESULT passWheelUp(HWND window, WPARAM wParam, LPARAM lParam);
     void handlePaintTrackbar(HWND window);
     static void checkRadioButton(HWND window);
     static bool inWindow(HWND window, LPARAM lParam);
@@ -102,7 +102,6 @@ private:
     const GdiManager& gdi() const;
 
     MirelGuiIF& m_gui;
-    bool m_isPassingWheel = false;
 };
 
 }

@@ -12,13 +12,13 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
-#include <utility>
-
 namespace Gui {
 
 using namespace SkinProperties;
 
 namespace {
+
+constexpr const char* PASSING_WHEEL = "PASSINGWHEEL";  // Track bars: a turn is on its way up.
 
 void setChecked(HWND window, bool checked) {
     setNumber(window, CHECKED, checked);
@@ -124,10 +124,11 @@ LRESULT Skinner::trackbarProc(HWND window, UINT message, WPARAM wParam, LPARAM l
 
 // Without an answer on the way it gets to the main window, which sends it to what is under the pointer: here.
 LRESULT Skinner::passWheelUp(HWND window, WPARAM wParam, LPARAM lParam) {
-    if (std::exchange(m_isPassingWheel, true))
+    if (getFlag(window, PASSING_WHEEL))
         return 0;
+    setNumber(window, PASSING_WHEEL, 1);
     const LRESULT result = SendMessageA(GetParent(window), WM_MOUSEWHEEL, wParam, lParam);
-    m_isPassingWheel = false;
+    RemovePropA(window, PASSING_WHEEL);
     return result;
 }
 
