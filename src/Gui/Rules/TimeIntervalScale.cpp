@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <numbers>
 
 namespace Gui::TimeIntervalScale {
@@ -66,7 +67,8 @@ std::int32_t ppqAt(Range range, int position) {
 // The note length so many entries after that of a value, within the range.
 std::int32_t noteAfterSteps(Range range, std::int32_t value, int steps) {
     const auto [low, high] = std::minmax({indexOf(range.min), indexOf(range.max)});
-    return TimeInterval::fromIndex(std::clamp(indexOf(value) + steps, low, high)).getPpq();
+    constexpr int ALL = TimeInterval::LAST_INDEX;
+    return TimeInterval::fromIndex(std::clamp(indexOf(value) + std::clamp(steps, -ALL, ALL), low, high)).getPpq();
 }
 
 }
@@ -103,13 +105,18 @@ std::int32_t valueAt(TimeIntervalType::Mode mode, Range range, int position) {
 }
 
 std::int32_t valueAfterSteps(TimeIntervalType::Mode mode, Range range, std::int32_t value, int steps) {
-    return clamp(range, mode == TimeIntervalType::ppq ? value + steps : noteAfterSteps(range, value, steps));
+    if (mode != TimeIntervalType::ppq)
+        return clamp(range, noteAfterSteps(range, value, steps));
+    using Limits = std::numeric_limits<std::int32_t>;
+    const std::int64_t wanted = std::clamp<std::int64_t>(std::int64_t{value} + steps, Limits::min(), Limits::max());
+    return clamp(range, static_cast<std::int32_t>(wanted));
 }
 
 std::int32_t valueAfterKnobSteps(TimeIntervalType::Mode mode, Range range, std::int32_t value, int steps) {
+    const int turn = std::clamp(steps, -LAST_POSITION, LAST_POSITION);
     if (mode == TimeIntervalType::ppq)
-        return valueAt(mode, range, positionOf(mode, range, value) + steps);
-    return clamp(range, noteAfterSteps(range, value, -steps));
+        return valueAt(mode, range, positionOf(mode, range, value) + turn);
+    return clamp(range, noteAfterSteps(range, value, -turn));
 }
 
 std::int32_t valueAfterDrag(TimeIntervalType::Mode mode, Range range, int startPosition, int pixelsUp,

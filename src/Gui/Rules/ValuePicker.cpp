@@ -28,7 +28,7 @@ std::optional<ValuePicker> makeValuePicker(std::string_view text, const ValueFie
         picker = makeNotePicker();
         min = 0;
     } else {
-        if (max - min >= TOO_WIDE || min < 0 || max <= 0)
+        if (min < 0 || max <= 0 || max - min >= TOO_WIDE)
             return std::nullopt;
         if (min == 0 && field.showsZeroAsBlank)
             min = 1;

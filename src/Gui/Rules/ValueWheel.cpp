@@ -3,6 +3,7 @@
 #include "Backend/core/Text.h"
 #include "Backend/midi/Note.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace Gui {
@@ -18,7 +19,7 @@ struct Limits {
     std::int64_t max;
 };
 
-// There is no note below 0.
+// There is no note below 0, and none above 127.
 Limits getLimits(const ValueField& field) {
     const bool noSign = field.takesDigitsOnly || field.isNote;
     Limits limits{noSign ? 0 : -LIMIT, LIMIT};
@@ -32,6 +33,8 @@ Limits getLimits(const ValueField& field) {
         limits.max = field.max;
     if (limits.max < limits.min)
         std::swap(limits.min, limits.max);
+    if (field.isNote)
+        limits = {std::max<std::int64_t>(limits.min, 0), std::min(limits.max, LIMIT)};
     return limits;
 }
 

@@ -6,6 +6,7 @@
 #include "Gui/Utils/DeviceContexts.h"
 #include "Gui/Utils/GdiManager.h"
 #include "Gui/Utils/Placeholder.h"
+#include "Gui/Utils/Redraw.h"
 #include "Gui/Utils/SkinProperties.h"
 #include "Gui/Utils/WindowClass.h"
 #include "Gui/Utils/WindowProcedure.h"
@@ -30,15 +31,14 @@ Button::~Button() {
     forget(m_windowHandle, OBJECT, this);
 }
 
-void Button::registerClassOnce(HINSTANCE module) {
-    static const bool registered = registerWindowClass(CLASS_NAME, module, windowProcedure);
-    static_cast<void>(registered);
+HINSTANCE Button::registerClassOnce(HINSTANCE module) {
+    static const HINSTANCE registered = registerWindowClass(CLASS_NAME, module, windowProcedure);
+    return registered;
 }
 
 void Button::create(HWND window) {
     const Placeholder placeholder(window);
-    const auto module = static_cast<HINSTANCE>(Platform::getModuleInstance());
-    registerClassOnce(module);
+    const HINSTANCE module = registerClassOnce(static_cast<HINSTANCE>(Platform::getModuleInstance()));
     m_id = placeholder.id;
     m_rect = placeholder.rect;
     m_caption = placeholder.caption;
@@ -47,23 +47,23 @@ void Button::create(HWND window) {
 }
 
 void Button::create(const std::string& caption, int x, HWND parent, int id, HINSTANCE module) {
-    registerClassOnce(module);
+    const HINSTANCE classModule = registerClassOnce(module);
     m_id = id;
     m_rect = {x, LONE_TOP, x + LONE_WIDTH, LONE_TOP + LONE_HEIGHT};
     m_caption = caption;
     m_windowHandle = CreateWindowExA(0, CLASS_NAME, caption.c_str(), WS_CHILD, x, LONE_TOP, LONE_WIDTH, LONE_HEIGHT,
-                                     parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), module, this);
+                                     parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), classModule, this);
 }
 
 void Button::setState(bool state) {
     m_state = state;
-    InvalidateRect(m_windowHandle, nullptr, FALSE);
+    redraw(m_windowHandle);
 }
 
 void Button::setCaption(const std::string& caption) {
     m_caption = caption;
     SetWindowTextA(m_windowHandle, caption.c_str());
-    InvalidateRect(m_windowHandle, nullptr, FALSE);
+    redraw(m_windowHandle);
 }
 
 void Button::report() {
@@ -73,19 +73,22 @@ void Button::report() {
 
 void Button::onLeftButtonDown() {
     setState(!m_isToggle || !m_state);
-    if (m_reportOnRelease)
+    // What is on only while it is held has to hear of its release, wherever that is.
+    if (m_reportOnRelease || !m_isToggle)
         SetCapture(m_windowHandle);
-    else
+    if (!m_reportOnRelease)
         report();
 }
 
 void Button::handleLeftButtonUp() {
+    // A press that began elsewhere is not one of this button.
+    const bool wasPressed = GetCapture() == m_windowHandle;
     if (!m_isToggle)
         setState(false);
-    // A press that began elsewhere is not one of this button.
-    if (!m_reportOnRelease || GetCapture() != m_windowHandle)
+    if (wasPressed)
+        ReleaseCapture();
+    if (!wasPressed || !m_reportOnRelease)
         return;
-    ReleaseCapture();
     POINT pointer{};
     RECT rect{};
     if (GetCursorPos(&pointer) && GetWindowRect(m_windowHandle, &rect) && PtInRect(&rect, pointer))
@@ -103,11 +106,16 @@ LRESULT Button::wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
             onLeftButtonDown();
             return 0;
         case WM_LBUTTONUP: handleLeftButtonUp(); return 0;
+        case WM_CAPTURECHANGED:
+            // Something else took the mouse, and with it the release.
+            if (!m_isToggle && reinterpret_cast<HWND>(lParam) != window)
+                setState(false);
+            return 0;
         case WM_RBUTTONDOWN: return 0;
         case WM_NCHITTEST: m_gui->displayHelp(window); break;
         case WM_ERASEBKGND: return 1;
         case WM_PAINT: paint(); return 0;
-        case WM_ENABLE: InvalidateRect(window, nullptr, FALSE); break;
+        case WM_ENABLE: redraw(window); break;
         case WM_NCDESTROY: m_windowHandle = nullptr; break;
         default: break;
     }

@@ -99,6 +99,11 @@ void ComboBox::setEnabled(bool enabled) {
     EnableWindow(m_windowHandle, enabled);
 }
 
+// False once the edit is gone, perhaps with this object, at which the answer doesn't look.
+bool ComboBox::isOn(HWND edit) const {
+    return getObject<ComboBox>(edit, SkinProperties::COMBO_BOX) == this;
+}
+
 int ComboBox::controlId() const {
     return GetDlgCtrlID(m_windowHandle);
 }
@@ -139,6 +144,7 @@ LRESULT ComboBox::wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
             return 0;
         case WM_DESTROY:
             m_windowHandle = nullptr;
+            m_menuShowing = false;
             RemovePropA(window, SkinProperties::COMBO_BOX);
             return passOnForTheLastTime(window, PROCEDURE, message, wParam, lParam);
         default: break;
@@ -156,13 +162,16 @@ void ComboBox::handleClick() {
 }
 
 void ComboBox::openMenu() {
+    const HWND edit = m_windowHandle;
     m_menuShowing = true;
     const int index = trackMenu() - 1;
+    if (!isOn(edit))
+        return;
     // The click that closed the menu may have been one on the edit, which comes only now.
     SetTimer(m_windowHandle, MENU_TIMER, MENU_TIMER_MILLISECONDS, nullptr);
     if (index >= 0 && index < getItemCount() && m_items[static_cast<std::size_t>(index)].enabled)
         choose(index);
-    PostMessageA(GetParent(m_windowHandle), UM_RETURN_FOCUS, 0, 0);
+    PostMessageA(GetParent(edit), UM_RETURN_FOCUS, 0, 0);
 }
 
 int ComboBox::trackMenu() {
@@ -180,9 +189,9 @@ int ComboBox::trackMenu() {
 }
 
 void ComboBox::choose(int index) {
-    const LRESULT refused =
-        SendMessageA(GetParent(m_windowHandle), validateMessage(), static_cast<WPARAM>(controlId()), index);
-    if (refused == 0)
+    const HWND edit = m_windowHandle;
+    const LRESULT refused = SendMessageA(GetParent(edit), validateMessage(), static_cast<WPARAM>(controlId()), index);
+    if (refused == 0 && isOn(edit))
         setSelection(index, true);
 }
 

@@ -69,6 +69,7 @@ private:
     static LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     const Item* selectedItem() const;
+    bool isOn(HWND edit) const;
     int controlId() const;
     bool isReadOnly() const;
     void handleClick();

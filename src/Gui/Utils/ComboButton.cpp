@@ -5,6 +5,7 @@
 #include "Gui/Utils/DeviceContexts.h"
 #include "Gui/Utils/GdiManager.h"
 #include "Gui/Utils/Placeholder.h"
+#include "Gui/Utils/Redraw.h"
 #include "Gui/Utils/SkinProperties.h"
 #include "Gui/Utils/WindowClass.h"
 #include "Gui/Utils/WindowProcedure.h"
@@ -30,24 +31,23 @@ ComboButton::~ComboButton() {
     forget(m_windowHandle, OBJECT, this);
 }
 
-void ComboButton::registerClassOnce(HINSTANCE module) {
-    static const bool registered = registerWindowClass(CLASS_NAME, module, windowProcedure);
-    static_cast<void>(registered);
+HINSTANCE ComboButton::registerClassOnce(HINSTANCE module) {
+    static const HINSTANCE registered = registerWindowClass(CLASS_NAME, module, windowProcedure);
+    return registered;
 }
 
 void ComboButton::create(HWND window, int id) {
     Placeholder placeholder(window);
     if (id != 0)
         placeholder.id = id;
-    const auto module = static_cast<HINSTANCE>(Platform::getModuleInstance());
-    registerClassOnce(module);
+    const HINSTANCE module = registerClassOnce(static_cast<HINSTANCE>(Platform::getModuleInstance()));
     m_id = placeholder.id;
     m_windowHandle = placeholder.replace(CLASS_NAME, module, this);
 }
 
 void ComboButton::setSelected(int index) {
     m_selected = index;
-    InvalidateRect(m_windowHandle, nullptr, FALSE);
+    redraw(m_windowHandle);
 }
 
 void ComboButton::handleLeftButtonDown() {
@@ -55,7 +55,7 @@ void ComboButton::handleLeftButtonDown() {
     if (m_texts.empty())
         return;
     const int count = static_cast<int>(m_texts.size());
-    const int next = m_selected + 1 < count ? m_selected + 1 : 0;
+    const int next = m_selected >= 0 && m_selected < count - 1 ? m_selected + 1 : 0;
     if (next != m_selected)
         setSelected(next);
     PostMessageA(GetParent(m_windowHandle), changeMessage(), 0, m_id);

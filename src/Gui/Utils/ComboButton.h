@@ -35,7 +35,7 @@ public:
 
 private:
     static LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    static void registerClassOnce(HINSTANCE module);
+    static HINSTANCE registerClassOnce(HINSTANCE module);
     LRESULT wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void handleLeftButtonDown();
     void paint();

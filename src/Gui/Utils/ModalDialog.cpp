@@ -25,10 +25,20 @@ INT_PTR CALLBACK ModalDialog::dialogProcedure(HWND dialog, UINT message, WPARAM,
     return self ? withoutExceptions([&] { return self->dlgProc(dialog, message); }) : 0;
 }
 
+// Work that doesn't begin never ends, and nothing else would close the dialog.
+void ModalDialog::startOrEnd(HWND dialog) {
+    try {
+        start(dialog);
+    } catch (...) {
+        EndDialog(dialog, 0);
+        throw;
+    }
+}
+
 INT_PTR ModalDialog::dlgProc(HWND dialog, UINT message) {
     if (message == WM_INITDIALOG) {
         setFieldText(dialog, IDC_DIALOG_TEXT, m_text);
-        start(dialog);
+        startOrEnd(dialog);
     } else if (message == m_closeMessage) {
         EndDialog(dialog, 0);
     } else if (message == WM_NCDESTROY) {

@@ -13,7 +13,7 @@ public:
     ModalDialog(UINT closeMessage, std::string text) : m_closeMessage(closeMessage), m_text(std::move(text)) {}
     virtual ~ModalDialog() = default;
 
-    // Starts the work, which ends with closeMessage to this window.
+    // Starts the work, which ends with closeMessage to this window. An exception ends the dialog at once.
     virtual void start(HWND dialog) = 0;
 
     // Shows the dialog in front of its owner until the message comes.
@@ -22,6 +22,7 @@ public:
 private:
     static INT_PTR CALLBACK dialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR dlgProc(HWND dialog, UINT message);
+    void startOrEnd(HWND dialog);
 
     UINT m_closeMessage;
     std::string m_text;

@@ -34,10 +34,10 @@ int heightOf(HWND window) {
     return rect.bottom - rect.top;
 }
 
-void registerClassOnce(HINSTANCE module, WNDPROC procedure) {
-    static const bool registered =
+HINSTANCE registerClassOnce(HINSTANCE module, WNDPROC procedure) {
+    static const HINSTANCE registered =
         registerWindowClass(CLASS_NAME, module, procedure, reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1));
-    static_cast<void>(registered);
+    return registered;
 }
 
 }
@@ -52,7 +52,7 @@ void Panel::createWnd(HINSTANCE module, HWND parentWindow) {
     m_panelCount = 0;
     m_instanceHandle = module;
     check(__LINE__, "createWnd", "m_instanceHandle != NULL", m_instanceHandle != nullptr);
-    registerClassOnce(module, windowProcedure);
+    const HINSTANCE classModule = registerClassOnce(module, windowProcedure);
 
     HWND hp = parentWindow;
     if (hp == nullptr) {
@@ -64,7 +64,7 @@ void Panel::createWnd(HINSTANCE module, HWND parentWindow) {
     if (m_dialogId > 0)
         createDialogWindow(hp);
     else
-        createPlainWindow(hp);
+        createPlainWindow(hp, classModule);
     trace(__LINE__, "createWnd", "OUT");
 }
 
@@ -85,12 +85,11 @@ void Panel::createDialogWindow(HWND parentWindow) {
     m_height = rect.bottom - rect.top;
 }
 
-void Panel::createPlainWindow(HWND parentWindow) {
+void Panel::createPlainWindow(HWND parentWindow, HINSTANCE classModule) {
     m_width = 0;
     m_height = 0;
     const DWORD style = m_hasBorder ? WS_CHILD | WS_BORDER : WS_CHILD;
-    m_windowHandle =
-        CreateWindowExA(0, CLASS_NAME, "", style, 0, 0, 0, 0, parentWindow, nullptr, m_instanceHandle, this);
+    m_windowHandle = CreateWindowExA(0, CLASS_NAME, "", style, 0, 0, 0, 0, parentWindow, nullptr, classModule, this);
     check(__LINE__, "createWnd", "IsWindow(m_windowHandle)", IsWindow(m_windowHandle) != FALSE);
     if (m_windowHandle)
         setObject(m_windowHandle, "THIS", this);
@@ -290,7 +289,14 @@ Panel* Panel::ownerOf(HWND window, UINT message, UINT creation, const void* self
         setObject(window, "PanelPtr", self);
         static_cast<Panel*>(const_cast<void*>(self))->m_windowHandle = window;
     }
-    return getObject<Panel>(window, "PanelPtr");
+    auto* const panel = getObject<Panel>(window, "PanelPtr");
+    if (panel && message == WM_NCDESTROY) {
+        // The system may give the handle to another window.
+        RemovePropA(window, "THIS");
+        RemovePropA(window, "PanelPtr");
+        panel->m_windowHandle = nullptr;
+    }
+    return panel;
 }
 
 LRESULT CALLBACK Panel::windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -47,7 +47,7 @@ public:
     // Whether any sub-panel is visible, be it of no height.
     bool anyPanelVisible() const;
 
-    HWND getWindowHandle() const { return m_windowHandle; }
+    HWND getWindowHandle() const { return m_windowHandle; }  // Null without a window.
     int getWidth() const { return m_width; }
 
     // What the panel takes up in the stack: its window and the space above it.
@@ -65,7 +65,7 @@ private:
     static Panel* ownerOf(HWND window, UINT message, UINT creation, const void* self);
 
     void createDialogWindow(HWND parentWindow);
-    void createPlainWindow(HWND parentWindow);
+    void createPlainWindow(HWND parentWindow, HINSTANCE classModule);
 
     void adjustParent(int index, int delta);
     void adjustParentWindow(int delta);

@@ -15,6 +15,8 @@ public:
     explicit SkinPanel(MirelGuiIF& gui, int dialogId = 0, bool hasBorder = false)
         : Panel(dialogId, hasBorder), m_gui(&gui), m_skinner(gui) {}
 
+    ~SkinPanel() override { m_skinner.leaveWindow(getWindowHandle()); }
+
     // A panel that hides gives the keyboard back to the main window.
     void showWnd(bool show) override;
     void createWnd(HINSTANCE module, HWND parentWindow) override;

@@ -22,8 +22,11 @@ public:
     explicit Skinner(MirelGuiIF& gui) : m_gui(gui) {}
 
     // Skins all controls below a window, and the window itself, which draws for them. Controls that come to it later
-    // are skinned as they come. What is skinned already stays as it is.
+    // are skinned as they come. What is skinned already stays as it is. Null is no window.
     void skinWindow(HWND window);
+
+    // For a Skinner that ends before a window: neither the window nor what is below it comes to this Skinner any more.
+    void leaveWindow(HWND window) const;
 
     // Frames the menus of this thread until as many calls of endHook. The first thread to start is the one.
     static void startHook();
@@ -57,6 +60,7 @@ private:
     static LRESULT CALLBACK enter(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     static BOOL CALLBACK skinEachChild(HWND window, LPARAM skinner);
+    static BOOL CALLBACK leaveEachChild(HWND window, LPARAM skinner);
     void skinChild(HWND window);
     void skinButton(HWND window);
     void skinEdit(HWND window);
@@ -83,6 +87,7 @@ private:
     LRESULT radioButtonProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT trackbarProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT handleButtonMessage(const char* property, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    static LRESULT passWheelUp(HWND window, WPARAM wParam, LPARAM lParam);
     void handlePaintTrackbar(HWND window);
     static void checkRadioButton(HWND window);
     static bool inWindow(HWND window, LPARAM lParam);

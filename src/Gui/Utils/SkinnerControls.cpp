@@ -3,6 +3,7 @@
 #include "Gui/Rules/TrackbarChannel.h"
 #include "Gui/Utils/DeviceContexts.h"
 #include "Gui/Utils/GdiManager.h"
+#include "Gui/Utils/Redraw.h"
 #include "Gui/Utils/SkinProperties.h"
 #include "Gui/Utils/Skinner.h"
 #include "Gui/Utils/UserMessages.h"
@@ -17,9 +18,11 @@ using namespace SkinProperties;
 
 namespace {
 
+constexpr const char* PASSING_WHEEL = "PASSINGWHEEL";  // Track bars: a turn is on its way up.
+
 void setChecked(HWND window, bool checked) {
     setNumber(window, CHECKED, checked);
-    InvalidateRect(window, nullptr, FALSE);
+    redraw(window);
 }
 
 Rect askForRect(HWND trackbar, UINT message) {
@@ -113,10 +116,20 @@ LRESULT Skinner::trackbarProc(HWND window, UINT message, WPARAM wParam, LPARAM l
         case WM_PAINT: handlePaintTrackbar(window); break;
         case WM_NCHITTEST: m_gui.displayHelp(window); break;
         case WM_MOUSEWHEEL:
-        case UM_MOUSEWHEEL: return SendMessageA(GetParent(window), WM_MOUSEWHEEL, wParam, lParam);
+        case UM_MOUSEWHEEL: return passWheelUp(window, wParam, lParam);
         default: break;
     }
     return callOriginal(window, TRACKBAR_PROCEDURE, message, wParam, lParam);
+}
+
+// Without an answer on the way it gets to the main window, which sends it to what is under the pointer: here.
+LRESULT Skinner::passWheelUp(HWND window, WPARAM wParam, LPARAM lParam) {
+    if (getFlag(window, PASSING_WHEEL))
+        return 0;
+    setNumber(window, PASSING_WHEEL, 1);
+    const LRESULT result = SendMessageA(GetParent(window), WM_MOUSEWHEEL, wParam, lParam);
+    RemovePropA(window, PASSING_WHEEL);
+    return result;
 }
 
 // It leaves nothing to paint for the control's own procedure.

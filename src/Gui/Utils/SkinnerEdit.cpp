@@ -8,6 +8,7 @@
 #include "Gui/Utils/SkinProperties.h"
 #include "Gui/Utils/Skinner.h"
 #include "Gui/Utils/UserMessages.h"
+#include "Gui/Utils/Wheel.h"
 #include "Gui/Utils/WindowProperties.h"
 
 #include <windowsx.h>
@@ -20,6 +21,8 @@ namespace Gui {
 using namespace SkinProperties;
 
 namespace {
+
+constexpr DWORD NO_POINT = 0xffffffff;
 
 bool isBordered(HWND window) {
     return (GetWindowLongPtrA(window, GWL_STYLE) & WS_BORDER) != 0 ||
@@ -40,14 +43,9 @@ bool endsEntry(WPARAM key) {
     return key == VK_RETURN || key == VK_ESCAPE;
 }
 
-// The message's own word counts as well as the keyboard, since other windows pass the wheel on.
-bool isShiftDown(WPARAM wheel) {
-    return (LOWORD(wheel) & MK_SHIFT) != 0 || GetKeyState(VK_SHIFT) < 0;
-}
-
 // Where a list of values opens. The keyboard names no point.
 POINT getListCorner(HWND window, LPARAM lParam) {
-    if (lParam != -1)
+    if (static_cast<DWORD>(lParam) != NO_POINT)
         return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
     RECT place{};
     GetWindowRect(window, &place);
@@ -127,7 +125,11 @@ bool Skinner::handleEditBoxMouseWheel(HWND window, UINT message, WPARAM wParam, 
         SendMessageA(GetParent(window), message, wParam, lParam);
         return true;
     }
-    const auto text = turnValue(readText(window), getWheelSteps(wParam), isShiftDown(wParam), readField(window));
+    // Fine wheels send many parts of a notch, at which the user has not changed anything yet.
+    const int steps = getWheelSteps(wParam);
+    if (steps == 0)
+        return true;
+    const auto text = turnValue(readText(window), steps, isShiftDown(wParam), readField(window));
     if (text)
         SetWindowTextA(window, text->c_str());
     return true;

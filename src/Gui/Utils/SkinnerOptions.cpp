@@ -1,4 +1,5 @@
 // What screens say about their controls.
+#include "Gui/Utils/Redraw.h"
 #include "Gui/Utils/SkinProperties.h"
 #include "Gui/Utils/Skinner.h"
 #include "Gui/Utils/TimeIntervalCtl.h"
@@ -9,6 +10,8 @@ namespace Gui {
 using namespace SkinProperties;
 
 namespace {
+
+constexpr WPARAM WHOLE_FRAME = 1;  // In place of a region.
 
 // The limit that was set last counts, 0 or not.
 void setLimit(HWND control, const char* property, const char* zeroProperty, int limit) {
@@ -23,7 +26,7 @@ void setLimit(HWND control, const char* property, const char* zeroProperty, int 
 void enableLabel(HWND dialog, int id, bool enable) {
     const HWND label = GetDlgItem(dialog, id);
     setNumber(label, DISABLED, !enable);
-    InvalidateRect(label, nullptr, TRUE);
+    redraw(label, true);
 }
 
 }
@@ -65,7 +68,7 @@ void Skinner::setGrayText(HWND dialog, int id, bool gray, bool invalidateNow) {
     const HWND control = GetDlgItem(dialog, id);
     setNumber(control, GRAY_TEXT, gray);
     if (invalidateNow)
-        InvalidateRect(control, nullptr, TRUE);
+        redraw(control, true);
 }
 
 void Skinner::setText(HWND dialog, int id, bool text) {
@@ -75,7 +78,7 @@ void Skinner::setText(HWND dialog, int id, bool text) {
 void Skinner::setSelected(HWND dialog, int id, bool selected) {
     const HWND control = GetDlgItem(dialog, id);
     setNumber(control, SELECTED, selected);
-    InvalidateRect(control, nullptr, TRUE);
+    redraw(control, true);
 }
 
 void Skinner::indicateInvalidValue(HWND dialog, int id, bool invalid) {
@@ -93,13 +96,13 @@ void Skinner::enableControl(HWND dialog, int editId, int labelId, bool enable) {
     enableLabel(dialog, labelId, enable);
     const HWND edit = GetDlgItem(dialog, editId);
     EnableWindow(edit, enable);
-    SendMessageA(edit, WM_NCPAINT, 0, 0);
+    SendMessageA(edit, WM_NCPAINT, WHOLE_FRAME, 0);
 }
 
 void Skinner::enableControl(HWND dialog, TimeIntervalCtl& control, int labelId, bool enable) {
     enableLabel(dialog, labelId, enable);
     EnableWindow(control.getWindowHandle(), enable);
-    InvalidateRect(control.getWindowHandle(), nullptr, FALSE);
+    redraw(control.getWindowHandle());
     UpdateWindow(control.getWindowHandle());
 }
 

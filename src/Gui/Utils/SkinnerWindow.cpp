@@ -42,7 +42,10 @@ void Skinner::install(HWND window, const char* property, WNDPROC procedure) {
         subclass(window, property, procedure);
 }
 
+// What is below no window is, to the system, every window of the desktop.
 void Skinner::skinWindow(HWND window) {
+    if (!window)
+        return;
     EnumChildWindows(window, skinEachChild, reinterpret_cast<LPARAM>(this));
     setObject(window, SKINNER, this);
     install(window, WINDOW_PROCEDURE, enter<&Skinner::wndProc>);
@@ -50,6 +53,18 @@ void Skinner::skinWindow(HWND window) {
 
 BOOL CALLBACK Skinner::skinEachChild(HWND window, LPARAM skinner) {
     reinterpret_cast<Skinner*>(skinner)->skinChild(window);
+    return TRUE;
+}
+
+void Skinner::leaveWindow(HWND window) const {
+    if (!window)
+        return;
+    forget(window, SKINNER, this);
+    EnumChildWindows(window, leaveEachChild, reinterpret_cast<LPARAM>(this));
+}
+
+BOOL CALLBACK Skinner::leaveEachChild(HWND window, LPARAM skinner) {
+    forget(window, SKINNER, reinterpret_cast<const Skinner*>(skinner));
     return TRUE;
 }
 

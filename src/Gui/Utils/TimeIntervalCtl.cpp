@@ -4,6 +4,7 @@
 #include "Gui/Utils/GdiManager.h"
 #include "Gui/Utils/Placeholder.h"
 #include "Gui/Utils/PopupMenu.h"
+#include "Gui/Utils/Redraw.h"
 #include "Gui/Utils/UserMessages.h"
 #include "Gui/Utils/WindowClass.h"
 #include "Gui/Utils/WindowProcedure.h"
@@ -44,9 +45,9 @@ TimeIntervalCtl::~TimeIntervalCtl() {
     forget(m_windowHandle, OBJECT, this);
 }
 
-void TimeIntervalCtl::registerClassOnce(HINSTANCE module) {
-    static const bool registered = registerWindowClass(CLASS_NAME, module, windowProcedure);
-    static_cast<void>(registered);
+HINSTANCE TimeIntervalCtl::registerClassOnce(HINSTANCE module) {
+    static const HINSTANCE registered = registerWindowClass(CLASS_NAME, module, windowProcedure);
+    return registered;
 }
 
 void TimeIntervalCtl::create(HWND window, const Colours& colours, int id) {
@@ -61,8 +62,7 @@ void TimeIntervalCtl::create(HWND window, const Colours& colours, int id) {
     m_knob = &gdi.getKnob(gdi.getUnusedButtonBrush().colour(), background, true, m_diameter);
     m_disabledKnob = &gdi.getKnob(gdi.getDisabledButtonBrush().colour(), background, true, m_diameter);
     m_dialog = placeholder.parent;
-    const auto module = static_cast<HINSTANCE>(Platform::getModuleInstance());
-    registerClassOnce(module);
+    const HINSTANCE module = registerClassOnce(static_cast<HINSTANCE>(Platform::getModuleInstance()));
     m_windowHandle = placeholder.replace(CLASS_NAME, module, this);
 }
 
@@ -119,8 +119,7 @@ bool TimeIntervalCtl::isEnabled() const {
 }
 
 void TimeIntervalCtl::redraw() const {
-    if (m_windowHandle)
-        InvalidateRect(m_windowHandle, nullptr, FALSE);
+    Gui::redraw(m_windowHandle);
 }
 
 RECT TimeIntervalCtl::knobSquare() const {
@@ -158,7 +157,10 @@ LRESULT TimeIntervalCtl::wndProc(HWND window, UINT message, WPARAM wParam, LPARA
         case WM_ERASEBKGND: return 1;
         case WM_PAINT: paint(); return 0;
         case WM_ENABLE: redraw(); break;
-        case WM_NCDESTROY: m_windowHandle = nullptr; break;
+        case WM_NCDESTROY:
+            m_windowHandle = nullptr;
+            m_menuShowing = false;
+            break;
         default: break;
     }
     return DefWindowProcA(window, message, wParam, lParam);

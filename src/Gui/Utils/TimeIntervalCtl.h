@@ -85,12 +85,11 @@ public:
 
 private:
     static LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    static void registerClassOnce(HINSTANCE module);
+    static HINSTANCE registerClassOnce(HINSTANCE module);
     LRESULT wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     // Painting.
     void paint() const;
-    void paintAll(HDC dc) const;
     void paintKnob(HDC dc) const;
     void paintValueBox(HDC dc) const;
     void paintTypeBox(HDC dc) const;

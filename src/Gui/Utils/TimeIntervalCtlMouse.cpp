@@ -5,6 +5,7 @@
 #include "Gui/Utils/GdiManager.h"
 #include "Gui/Utils/PopupMenu.h"
 #include "Gui/Utils/TimeIntervalCtl.h"
+#include "Gui/Utils/Wheel.h"
 #include "Gui/Utils/WindowProperties.h"
 
 #include <algorithm>
@@ -119,7 +120,9 @@ void TimeIntervalCtl::handleWheel(WPARAM wParam, POINT point) {
     const RECT value = valueBox();
     const RECT knob = knobSquare();
     int steps = getWheelSteps(wParam);
-    if (GetKeyState(VK_SHIFT) < 0)
+    if (steps == 0)
+        return;
+    if (isShiftDown(wParam))
         steps *= LARGE_STEP;
     if (PtInRect(&value, point))
         setValue(TimeIntervalScale::valueAfterSteps(m_type.getMode(), range(), m_value, steps));
@@ -150,7 +153,11 @@ void TimeIntervalCtl::openMenu() {
     if (m_menuShowing)
         return;
     m_menuShowing = true;
+    const HWND window = m_windowHandle;
     const int index = chooseFromMenu();
+    // What came while the menu showed may have destroyed the window, and this object with it.
+    if (!IsWindow(window))
+        return;
     // The click that closed the menu may have been one on the box, which comes only now.
     SetTimer(m_windowHandle, MENU_TIMER, MENU_TIMER_MILLISECONDS, nullptr);
     if (index > 0)

@@ -1,6 +1,6 @@
 #include "Gui/Utils/TimeIntervalEdit.h"
 
-#include "Backend/core/Text.h"
+#include "Gui/Rules/TypedNumber.h"
 #include "Gui/Utils/WindowProperties.h"
 #include "Gui/Utils/WindowText.h"
 
@@ -24,6 +24,8 @@ bool isInside(HWND window, LPARAM lParam) {
 }
 
 void TimeIntervalEdit::open(HWND parent, int x, int y, int width, int height, HFONT font, std::int32_t value) {
+    if (getWindowHandle())
+        return;
     create(parent, WS_VISIBLE | ES_CENTER, x, y, width, height, std::to_string(value).c_str());
     const HWND window = getWindowHandle();
     if (!window)
@@ -77,7 +79,7 @@ void TimeIntervalEdit::end(bool byKey) {
         return;
     m_ending = true;
     const bool taken = !getFlag(window, CANCEL);
-    const std::int32_t value = Backend::Text::readInteger(getWindowText(window), 0);
+    const std::int32_t value = readTypedNumber(getWindowText(window));
     if (GetCapture() == window)
         ReleaseCapture();
     DestroyWindow(window);

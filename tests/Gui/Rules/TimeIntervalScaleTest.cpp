@@ -162,6 +162,18 @@ TEST(TimeIntervalScale, WheelOverTheValueStepsThroughIt) {
     EXPECT_EQ(TimeIntervalScale::valueAfterSteps(PPQ, WHOLE, 30719, 3), 30720);
 }
 
+TEST(TimeIntervalScale, WheelBearsAnyNumberOfSteps) {
+    const Range wide = {20, INT_MAX};
+    EXPECT_EQ(TimeIntervalScale::valueAfterSteps(PPQ, wide, INT_MAX, 1), INT_MAX);
+    EXPECT_EQ(TimeIntervalScale::valueAfterSteps(PPQ, {INT_MIN, 480}, INT_MIN, -1), INT_MIN);
+    EXPECT_EQ(TimeIntervalScale::valueAfterSteps(NOTE, WHOLE, 480, INT_MAX), 30720);
+    EXPECT_EQ(TimeIntervalScale::valueAfterSteps(NOTE, WHOLE, 480, INT_MIN), 20);
+    for (const auto mode : {NOTE, PPQ}) {
+        EXPECT_EQ(TimeIntervalScale::valueAfterKnobSteps(mode, WHOLE, 480, INT_MAX), 20);
+        EXPECT_EQ(TimeIntervalScale::valueAfterKnobSteps(mode, WHOLE, 480, INT_MIN), 30720);
+    }
+}
+
 TEST(TimeIntervalScale, WheelOverTheKnobTurnsIt) {
     EXPECT_EQ(TimeIntervalScale::valueAfterKnobSteps(NOTE, WHOLE, 480, 1), 360);
     EXPECT_EQ(TimeIntervalScale::valueAfterKnobSteps(NOTE, WHOLE, 480, -1), 640);

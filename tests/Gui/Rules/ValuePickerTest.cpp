@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+
 namespace Gui {
 namespace {
 
@@ -82,15 +84,17 @@ TEST(ValuePicker, HasNoListWithoutLimitsOrForTooMany) {
         {1, 501, false, false, false},   //
         {-1, 10, false, false, false},   // Below 0.
         {-12, 12, false, false, false},  //
-        {-5, 0, false, false, false},    //
-        {0, 0, false, false, false},     // No limits.
-        {0, -1, false, false, false},    //
-        {5, 0, false, false, false},     //
-        {0, 1, false, false, true},      //
-        {7, 5, false, false, false},     // Nothing between them.
-        {1, 500, true, false, false},    // The limits of 0 win.
-        {-5, 10, true, false, true},     //
-        {1, 10, false, true, false},     //
+        {INTPTR_MIN, 10, false, false, false},
+        {1, INTPTR_MAX, false, false, false},
+        {-5, 0, false, false, false},  //
+        {0, 0, false, false, false},   // No limits.
+        {0, -1, false, false, false},  //
+        {5, 0, false, false, false},   //
+        {0, 1, false, false, true},    //
+        {7, 5, false, false, false},   // Nothing between them.
+        {1, 500, true, false, false},  // The limits of 0 win.
+        {-5, 10, true, false, true},   //
+        {1, 10, false, true, false},   //
     };
     for (const Limits& row : ROWS) {
         ValueField field = between(row.min, row.max);

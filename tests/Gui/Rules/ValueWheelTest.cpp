@@ -162,6 +162,8 @@ TEST(ValueWheel, TakesNonsenseForZero) {
 TEST(ValueWheel, NeverLeavesTheNotes) {
     const ValueField note = with(&ValueField::isNote);
     expectAll({{"C-1", -1, false, note, REFUSED}, {"G9", 1, false, note, REFUSED}, {"F#9", 1, false, note, "G9"}});
+    const ValueField wide = with(&ValueField::isNote, between(-20, 300));
+    expectAll({{"C-1", -1, false, wide, REFUSED}, {"G9", 1, false, wide, REFUSED}, {"F#9", 1, false, wide, "G9"}});
 }
 
 TEST(ValueWheel, BearsAnyNumberOfSteps) {

@@ -115,6 +115,51 @@ TEST_F(ButtonTest, PushIsOnWhileItIsHeld) {
     EXPECT_EQ(reports.text, "1001+ ");
 }
 
+TEST_F(ButtonTest, PushGoesOffWhereverItIsReleased) {
+    push.create(panel.item(IDC_TEST_BUTTON));
+    movePointer(push.getWindowHandle(), 3, 3);
+    mouseButton(MOUSEEVENTF_LEFTDOWN);
+    movePointer(push.getWindowHandle(), 3, -5);
+    EXPECT_TRUE(push.getState());
+    mouseButton(MOUSEEVENTF_LEFTUP);
+    EXPECT_FALSE(push.getState());
+    EXPECT_EQ(ground(push), whole(OFF));
+    EXPECT_EQ(GetCapture(), nullptr);
+    EXPECT_EQ(reports.text, "1001+ ");
+}
+
+TEST_F(ButtonTest, PushGoesOffWhenTheMouseIsTakenAway) {
+    for (Button* button : {&push, &careful}) {
+        button->create(panel.item(button == &push ? IDC_TEST_BUTTON : IDC_TEST_SECOND_BUTTON));
+        movePointer(button->getWindowHandle(), 3, 3);
+        mouseButton(MOUSEEVENTF_LEFTDOWN);
+        EXPECT_TRUE(button->getState());
+        SetCapture(top.handle());
+        EXPECT_FALSE(button->getState());
+        ReleaseCapture();
+        mouseButton(MOUSEEVENTF_LEFTUP);
+    }
+    EXPECT_EQ(reports.text, "1001+ ");
+}
+
+TEST_F(ButtonTest, ToggleLeavesTheMouseAlone) {
+    toggle.create(panel.item(IDC_TEST_BUTTON));
+    movePointer(toggle.getWindowHandle(), 3, 3);
+    mouseButton(MOUSEEVENTF_LEFTDOWN);
+    EXPECT_EQ(GetCapture(), nullptr);
+    SendMessageA(toggle.getWindowHandle(), WM_CAPTURECHANGED, 0, reinterpret_cast<LPARAM>(top.handle()));
+    mouseButton(MOUSEEVENTF_LEFTUP);
+    EXPECT_TRUE(toggle.getState());
+}
+
+TEST_F(ButtonTest, WithoutAWindowItPaintsNoOther) {
+    ValidateRect(top.handle(), nullptr);
+    toggle.setState(true);
+    toggle.setCaption("X");
+    EXPECT_FALSE(GetUpdateRect(top.handle(), nullptr, FALSE));
+    EXPECT_TRUE(toggle.getState());
+}
+
 TEST_F(ButtonTest, CarefulButtonReportsAtItsRelease) {
     careful.create(panel.item(IDC_TEST_BUTTON));
     movePointer(careful.getWindowHandle(), 3, 3);

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
+#include <memory>
 #include <string>
 
 namespace Gui {
@@ -277,6 +279,44 @@ TEST_F(ComboBoxTest, WheelGoesThroughTheEnabledItemsAndStopsAtTheEnds) {
     }
 }
 
+TEST_F(ComboBoxTest, EditMayGoWhileItsListShows) {
+    auto lost = std::make_unique<ComboBox>(gui.getGdiManager());
+    const HWND field = panel.item(IDC_TEST_EDIT);
+    lost->attach(field, 0, 30);
+    lost->addItem(1, "One");
+    panel.answer = [&](const Message& message) -> LRESULT {
+        if (message.id == WM_ENTERMENULOOP) {
+            DestroyWindow(field);
+            lost.reset();
+        }
+        return 0;
+    };
+    panel.menuKeys = {VK_DOWN, VK_RETURN};
+    SendMessageA(field, WM_LBUTTONDOWN, 0, 0);
+    EXPECT_EQ(lost, nullptr);
+    EXPECT_EQ(countStrayTimers(), 0);
+    EXPECT_TRUE(questions().empty());
+}
+
+TEST_F(ComboBoxTest, EditMayGoWhenTheParentIsAsked) {
+    panel.answer = [&](const Message& message) -> LRESULT {
+        if (message.id == ComboBox::validateMessage())
+            DestroyWindow(edit);
+        return 0;
+    };
+    SendMessageA(edit, WM_MOUSEWHEEL, WHEEL_DOWN, 0);
+    EXPECT_EQ(box.getWindowHandle(), nullptr);
+    EXPECT_EQ(box.getSelection(), -1);
+}
+
+TEST_F(ComboBoxTest, OpensOnAnotherEditAfterTheFirstIsGone) {
+    SendMessageA(edit, WM_LBUTTONDOWN, 0, 0);
+    DestroyWindow(edit);
+    box.attach(panel.item(IDC_TEST_EDIT), 0, 30);
+    SendMessageA(panel.item(IDC_TEST_EDIT), WM_LBUTTONDOWN, 0, 0);
+    EXPECT_EQ(panel.count(WM_ENTERMENULOOP), 2u);
+}
+
 TEST_F(ComboBoxTest, KeysGoToTheParent) {
     for (const UINT message : {WM_KEYDOWN, WM_KEYUP}) {
         EXPECT_EQ(SendMessageA(edit, message, 'A', 0x11), 0);
@@ -352,6 +392,21 @@ TEST_F(ComboButtonTest, GoesRoundWithEachPress) {
                   (Message{ComboButton::changeMessage(), 0, IDC_TEST_COMBO_BUTTON}));
     }
     EXPECT_EQ(gui.focusRequests, 4);
+}
+
+TEST_F(ComboButtonTest, PressOfNoStateBeginsWithTheFirst) {
+    button.create(panel.item(IDC_TEST_COMBO_BUTTON));
+    for (const int selected : {INT_MAX, INT_MIN, -5, -1, 3}) {
+        button.setSelected(selected);
+        clickLeft(button.getWindowHandle(), 3, 3);
+        EXPECT_EQ(button.getSelected(), 0) << selected;
+    }
+}
+
+TEST_F(ComboButtonTest, WithoutAWindowItPaintsNoOther) {
+    ValidateRect(top.handle(), nullptr);
+    button.setSelected(1);
+    EXPECT_FALSE(GetUpdateRect(top.handle(), nullptr, FALSE));
 }
 
 TEST_F(ComboButtonTest, OneStateIsPressedWithoutAChange) {

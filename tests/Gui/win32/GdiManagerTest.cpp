@@ -109,6 +109,10 @@ TEST(GdiManager, HasThreePens) {
     expectPen(gdi.getGreenPen(), 2, 15);
     expectPen(gdi.getGreenPen2(), 1, 7);
     expectPen(gdi.getBlackPen(), 2, 1);
+    const GdiManager desk = GdiManager::create();
+    expectPen(desk.getGreenPen(), 2, GdiManager::DARK_DARK_DARK_GREEN);
+    expectPen(desk.getGreenPen2(), 1, GdiManager::DARK_DARK_GREEN);
+    expectPen(desk.getBlackPen(), 2, GdiManager::BLACK);
 }
 
 struct FontRow {

@@ -1,6 +1,7 @@
 #include "Gui/Utils/Panel.h"
 
 #include "Backend/core/Trace.h"
+#include "Platform/Shell.h"
 #include "tests/Gui/win32/TemplateIds.h"
 #include "tests/support/CapturedDebugText.h"
 #include "tests/support/win32/TestWindows.h"
@@ -381,6 +382,29 @@ TEST_F(PanelTest, WindowThatOutlivesItsPanelIsLeftAlone) {
     SendMessageA(window, WM_APP, 0, 0);
     SendMessageA(dialog, WM_APP, 0, 0);
     EXPECT_TRUE(IsWindow(dialog));
+}
+
+TEST_F(PanelTest, PanelForgetsAWindowThatIsGone) {
+    FreePanel box;
+    ASSERT_TRUE(root.add(&box));
+    box.showWnd(true);
+    DestroyWindow(root.getWindowHandle());
+    for (const Panel* panel : {&root, &a, &box}) {
+        EXPECT_EQ(panel->getWindowHandle(), nullptr);
+        EXPECT_FALSE(panel->isVisible());
+    }
+    EXPECT_EQ(a.getHeight(), 100);
+    root.createWnd(GetModuleHandleA(nullptr), top.handle());
+    EXPECT_EQ(GetPropA(root.getWindowHandle(), "PanelPtr"), &root);
+}
+
+// The class has one module, that of the first panel in the process.
+TEST_F(PanelTest, PlainPanelsMayNameSeveralModules) {
+    for (void* const module : {static_cast<void*>(GetModuleHandleA(nullptr)), Platform::getModuleInstance()}) {
+        FreePanel box;
+        box.createWnd(static_cast<HINSTANCE>(module), top.handle());
+        EXPECT_TRUE(IsWindow(box.getWindowHandle()));
+    }
 }
 
 class ThrowingPanel : public Panel {

@@ -107,6 +107,33 @@ TEST_F(SkinPanelTest, NestedPanelsPassOnStepByStep) {
     EXPECT_TRUE(TestSupport::pumpUntil([&] { return top.count(UM_RETURN_FOCUS) == 1; }));
 }
 
+TEST_F(SkinPanelTest, PanelWithoutAWindowSkinsNoOtherWindow) {
+    SkinPanel missing{gui, 30000};
+    missing.createWnd(GetModuleHandleA(nullptr), top.handle());
+    EXPECT_EQ(missing.getWindowHandle(), nullptr);
+    for (const HWND other : {top.handle(), GetDesktopWindow()})
+        EXPECT_EQ(GetPropA(other, "SkinnerPtr"), nullptr);
+}
+
+TEST_F(SkinPanelTest, WindowThatOutlivesItsPanelIsLeftAlone) {
+    HWND window = nullptr;
+    HWND edit = nullptr;
+    {
+        SkinPanel box{gui, IDD_TEST_WIDGETS};
+        box.createWnd(GetModuleHandleA(nullptr), top.handle());
+        window = box.getWindowHandle();
+        edit = GetDlgItem(window, IDC_TEST_EDIT);
+        ASSERT_NE(GetPropA(edit, "SkinnerPtr"), nullptr);
+    }
+    for (const HWND orphan : {window, edit})
+        EXPECT_EQ(GetPropA(orphan, "SkinnerPtr"), nullptr);
+    gui.helpWindows.clear();
+    SendMessageA(edit, WM_NCHITTEST, 0, 0);
+    SendMessageA(window, WM_NCPAINT, 1, 0);
+    EXPECT_TRUE(gui.helpWindows.empty());
+    EXPECT_TRUE(DestroyWindow(window));
+}
+
 TEST_F(SkinPanelTest, IsSkinnedFromItsCreationOn) {
     plain.showWnd(true);
     SetWindowPos(plain.getWindowHandle(), nullptr, 0, 0, 20, 20, SWP_NOZORDER);

@@ -326,5 +326,20 @@ TEST_F(SkinnerTrackbarTest, PassesTheWheelUp) {
     }
 }
 
+// As the main window does with a turn that nobody on the way wanted.
+TEST_F(SkinnerTrackbarTest, WheelThatComesBackEndsThere) {
+    const HWND trackbar = addTrackbar(TBS_HORZ, {10, 10, 210, 40});
+    dialog.skin();
+    int turns = 0;
+    dialog.onMessage = [&](const SkinnedDialog::Message& message) {
+        if (message.id == WM_MOUSEWHEEL && ++turns < 10)
+            SendMessageA(trackbar, UM_MOUSEWHEEL, message.wParam, message.lParam);
+    };
+    SendMessageA(trackbar, UM_MOUSEWHEEL, NOTCH, 0);
+    EXPECT_EQ(turns, 1);
+    SendMessageA(trackbar, UM_MOUSEWHEEL, NOTCH, 0);
+    EXPECT_EQ(turns, 2);
+}
+
 }
 }

@@ -215,6 +215,15 @@ TEST_F(SkinnerEditTest, ReadsTwentyCharacters) {
     EXPECT_EQ(turn(edit, UP), "13");
 }
 
+TEST_F(SkinnerEditTest, WaitsForAWholeNotch) {
+    const HWND edit = addEdit("?");
+    Skinner::setMinMax(dialog.handle(), 1, 0, 127);
+    dialog.forgetMessages();
+    for (const WPARAM part : {WPARAM{60} << 16, WPARAM{0xffc4} << 16, WPARAM{0}})
+        EXPECT_EQ(turn(edit, part), "?");
+    EXPECT_EQ(dialog.countNotifications(edit, EN_CHANGE), 0);
+}
+
 TEST_F(SkinnerEditTest, LeavesTheWheelToOthers) {
     const HWND edit = addEdit("5");
     Skinner::setNoWheel(dialog.handle(), 1);
@@ -370,11 +379,14 @@ TEST_F(SkinnerValuePickerTest, OpensAtThePointerOrBelowTheField) {
     pick(edit, {}, MAKELPARAM(200, 150));
     EXPECT_EQ(shown.corner.x, 200);
     EXPECT_EQ(shown.corner.y, 150);
-    pick(edit, {}, -1);
     RECT place{};
     GetWindowRect(edit, &place);
-    EXPECT_EQ(shown.corner.x, place.left);
-    EXPECT_EQ(shown.corner.y, place.bottom);
+    for (const LPARAM none : {LPARAM{-1}, LPARAM{0xffffffff}}) {
+        shown = {};
+        pick(edit, {}, none);
+        EXPECT_EQ(shown.corner.x, place.left);
+        EXPECT_EQ(shown.corner.y, place.bottom);
+    }
 }
 
 TEST_F(SkinnerValuePickerTest, OpensForAtMostFiveHundredValues) {

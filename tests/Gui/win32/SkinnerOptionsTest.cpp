@@ -85,6 +85,15 @@ TEST_F(SkinnerOptionsTest, SetLooks) {
     EXPECT_EQ(getNumber(button, SELECTED), 0);
 }
 
+TEST_F(SkinnerOptionsTest, OfAControlThatIsNotThereChangeNothing) {
+    TestSupport::pump();
+    ValidateRect(dialog.handle(), nullptr);
+    Skinner::setSelected(dialog.handle(), 4711, true);
+    Skinner::setGrayText(dialog.handle(), 4711, true, true);
+    Skinner::enableControl(dialog.handle(), 4711, 4712, false);
+    EXPECT_FALSE(GetUpdateRect(dialog.handle(), nullptr, FALSE));
+}
+
 TEST_F(SkinnerOptionsTest, ShowAnInvalidValue) {
     SetWindowTextA(edit, "5");
     validateAll();

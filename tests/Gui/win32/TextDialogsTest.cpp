@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 #include <string>
 
 namespace Gui {
@@ -160,6 +162,22 @@ TEST(ModalDialogTest, MayBeDoneAtOnce) {
     QuickWork work;
     work.run(nullptr);
     SUCCEED();
+}
+
+// Work that can't even begin.
+class FailingWork : public Work {
+public:
+    void start(HWND started) override {
+        Work::start(started);
+        throw std::runtime_error("of the desk");
+    }
+};
+
+TEST(ModalDialogTest, WorkThatDoesNotBeginEndsIt) {
+    FailingWork work;
+    work.run(nullptr);
+    EXPECT_NE(work.dialog, nullptr);
+    EXPECT_FALSE(IsWindow(work.dialog));
 }
 
 class FieldTextTest : public WidgetTest {

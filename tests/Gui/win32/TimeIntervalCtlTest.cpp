@@ -247,6 +247,36 @@ TEST_F(TimeIntervalCtlTest, ShiftMakesWheelStepsTenTimesAsLarge) {
     EXPECT_EQ(control.getValue(), 500);
 }
 
+TEST_F(TimeIntervalCtlTest, ShiftOfTheMessageMakesWheelStepsLargeToo) {
+    control.setType(PPQ);
+    const POINT screen = TestSupport::onScreen(window(), VALUE.x, VALUE.y);
+    SendMessageA(window(), UM_MOUSEWHEEL, MAKEWPARAM(MK_SHIFT, 120), MAKELPARAM(screen.x, screen.y));
+    EXPECT_EQ(control.getValue(), 490);
+}
+
+TEST_F(TimeIntervalCtlTest, WheelWaitsForAWholeNotch) {
+    control.setInvalid(true);
+    for (const POINT point : {VALUE, KNOB}) {
+        const POINT screen = TestSupport::onScreen(window(), point.x, point.y);
+        SendMessageA(window(), UM_MOUSEWHEEL, MAKEWPARAM(0, 60), MAKELPARAM(screen.x, screen.y));
+    }
+    EXPECT_TRUE(control.isInvalid());
+    EXPECT_EQ(heard, "");
+}
+
+TEST_F(TimeIntervalCtlTest, MayGoWhileItsMenuShows) {
+    panel.answer = [&](const TestSupport::TestWindow::Message& message) -> LRESULT {
+        if (message.id == WM_ENTERMENULOOP)
+            DestroyWindow(window());
+        return 0;
+    };
+    panel.menuKeys = {VK_DOWN, VK_RETURN};
+    SendMessageA(window(), WM_LBUTTONDOWN, 0, MAKELPARAM(VALUE.x, VALUE.y));
+    EXPECT_EQ(window(), nullptr);
+    EXPECT_EQ(countStrayTimers(), 0);
+    EXPECT_EQ(heard, "");
+}
+
 class TimeIntervalFieldTest : public TimeIntervalCtlTest {
 protected:
     TimeIntervalFieldTest() {
@@ -314,6 +344,21 @@ TEST_F(TimeIntervalFieldTest, PressOnTheTextIsTheFields) {
     clickLeft(field(), 20, 8);
     ASSERT_NE(field(), nullptr);
     EXPECT_EQ(GetCapture(), field());
+}
+
+TEST_F(TimeIntervalFieldTest, OpensOnlyOnce) {
+    SendMessageA(window(), WM_LBUTTONDOWN, 0, MAKELPARAM(VALUE.x, VALUE.y));
+    EXPECT_EQ(FindWindowExA(window(), field(), "Edit", nullptr), nullptr);
+    type("600");
+    key(VK_RETURN);
+    EXPECT_EQ(field(), nullptr);
+    EXPECT_EQ(heard, "600 ");
+}
+
+TEST_F(TimeIntervalFieldTest, NumberBeyondAllLimitsIsTheLongest) {
+    type("99999999999999999999");
+    key(VK_RETURN);
+    EXPECT_EQ(heard, "30720 ");
 }
 
 TEST_F(TimeIntervalFieldTest, TextWithoutANumberIsTheShortest) {

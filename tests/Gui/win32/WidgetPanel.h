@@ -74,6 +74,26 @@ protected:
         TestSupport::releaseButtons();
     }
 
+    // How many timers of this thread run without a window.
+    int countStrayTimers() const {
+        constexpr UINT_PTR LATER = 77;
+        constexpr UINT LATER_MILLISECONDS = 100;  // All others have shown up by then.
+        SetTimer(panel.getWindowHandle(), LATER, LATER_MILLISECONDS, nullptr);
+        int strays = 0;
+        bool done = false;
+        EXPECT_TRUE(TestSupport::eventually([&] {
+            MSG message;
+            while (!done && PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+                strays += message.message == WM_TIMER && !message.hwnd ? 1 : 0;
+                done = message.message == WM_TIMER && message.wParam == LATER;
+                DispatchMessageA(&message);
+            }
+            return done;
+        }));
+        KillTimer(panel.getWindowHandle(), LATER);
+        return strays;
+    }
+
     TestSupport::TestWindow top{500, 400};
     TestSupport::FakeMirelGui gui;
     WidgetPanel panel{gui};

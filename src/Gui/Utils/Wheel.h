@@ -1,0 +1,13 @@
+#pragma once
+
+#include <windows.h>
+
+namespace Gui {
+
+// [gui] Whether Shift is held at a turn of the wheel. The message's own word counts as well as the keyboard, since
+// other windows pass the wheel on.
+inline bool isShiftDown(WPARAM wheel) {
+    return (LOWORD(wheel) & MK_SHIFT) != 0 || GetKeyState(VK_SHIFT) < 0;
+}
+
+}
