@@ -86,7 +86,7 @@ bool MessageThread::post(UINT message, WPARAM wParam, LPARAM lParam) {
 
 void MessageThread::postUntilAccepted(UINT message, WPARAM wParam, LPARAM lParam) {
     while (!post(message, wParam, lParam))
-        sleepMilliseconds(RETRY_MILLISECONDS);
+        sleepAnsweringMilliseconds(RETRY_MILLISECONDS);  // The thread may be waiting for a window of this one.
 }
 
 bool MessageThread::get(MSG& message) {

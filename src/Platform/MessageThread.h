@@ -40,7 +40,8 @@ public:
     // [any] Appends to the queue. False, and nothing is kept, while the thread does not run or its queue is full.
     bool post(UINT message, WPARAM wParam, LPARAM lParam);
 
-    // [any] Posts, and while that fails sleeps 10 milliseconds and tries again, for ever.
+    // [any] Posts, and while that fails sleeps 10 milliseconds and tries again, for ever. Windows of the calling thread
+    // answer what is sent to them meanwhile.
     void postUntilAccepted(UINT message, WPARAM wParam, LPARAM lParam);
 
     // [this thread] Blocks until a message comes and takes it. False for WM_QUIT.

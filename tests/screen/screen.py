@@ -15,6 +15,8 @@ TEXT = (188, 188, 60)
 BUTTON = (0, 160, 0)
 BUTTON_THAT_IS_ON = (0, 255, 0)
 
+LINE = 12  # The height of a line of the log, in pixels.
+
 
 def eventually(condition, what):
     """Polls until the condition holds, and returns what it gave."""
@@ -163,21 +165,16 @@ class Console(Window):
         self.press("DISP")
         eventually(lambda: self.height() > before, "the log shows")
 
-    def log_height(self):
-        """Of the log, which shows together with the screen of the outputs."""
-        return self.height() - 123 - 7
-
     def log(self):
-        left, width = 15, 520
-        return self.picture(left, self.LOG_TOP, width, 100)
+        """The beginnings of its first eight lines."""
+        return self.picture(12, self.LOG_TOP, 60, 96)
 
     def wait_for_log(self, lines):
-        """Until it shows as many lines, each of which has a pixel of text at least."""
+        """Until it shows as many lines, up to eight; the first one is the product's name."""
         def shown():
             picture = self.log()
-            line_height = 12
-            return sum(any(picture.at(x, y) == TEXT for x in range(60) for y in range(top, top + line_height))
-                       for top in range(0, 96, line_height))
+            return sum(any(picture.at(x, y) == TEXT for x in range(picture.width) for y in range(top, top + LINE))
+                       for top in range(0, picture.height, LINE))
         eventually(lambda: shown() == lines, f"the log shows {lines} lines")
 
     def dialog(self, title):

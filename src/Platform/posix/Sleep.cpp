@@ -9,4 +9,8 @@ void sleepMilliseconds(unsigned milliseconds) {
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
 }
 
+void sleepAnsweringMilliseconds(unsigned milliseconds) {
+    sleepMilliseconds(milliseconds);
+}
+
 }
