@@ -2,6 +2,7 @@
 
 #include "Backend/core/MirelUtils.h"
 #include "Backend/input/Key.h"
+#include "Platform/Sleep.h"
 #include "tests/support/RunningDesk.h"
 
 #include <utility>
@@ -88,7 +89,7 @@ void WindowDesk::startPlayer() {
         m_threadId = Platform::currentThreadId();
         for (std::int32_t now = 0; m_isPlaying; ++now) {
             m_mirel->playTimeSlice(now, now + 1);
-            std::this_thread::yield();
+            Platform::sleepMilliseconds(1);  // The pace of a player; whatever comes meanwhile is one slice's.
         }
     });
 }

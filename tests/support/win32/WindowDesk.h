@@ -32,7 +32,7 @@ public:
     // The host's start, with two inputs and three outputs, without a window.
     void start();
 
-    // From here to the end a player plays slices on a thread of its own, one right after the other.
+    // From here to the end a player plays slices on a thread of its own.
     void startPlayer();
 
     // Makes the window, fills it, and waits until all is done.
