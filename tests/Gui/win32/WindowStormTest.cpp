@@ -175,7 +175,7 @@ protected:
         EXPECT_TRUE(pumpUntil([&] { return done == 2; }));
         out.join();
         in.join();
-        EXPECT_TRUE(pumpUntil([this] { return played == eventsEachWay; })) << played;
+        EXPECT_TRUE(pumpUntil([&] { return played == eventsEachWay; })) << played;
         desk.settle();
         watch.end();
         EXPECT_GT(watch.answers(), eventsEachWay / 1000);
