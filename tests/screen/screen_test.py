@@ -66,9 +66,13 @@ class KeyTest(unittest.TestCase):
     def test_modifiers_belong_to_a_key(self):
         with Console(program=key("Control Q", note(70), use_key_up_mod=True)) as desk:
             desk.open_log()
-            xdotool("key", "q")
-            xdotool("keydown", "ctrl", "key", "q", "keyup", "ctrl")
+            # The desk looks at the modifiers when it gets to the key, so they stay until then.
+            xdotool("keydown", "ctrl", "keydown", "q")
+            desk.wait_for_log(lines=2)
+            xdotool("keyup", "q")
             desk.wait_for_log(lines=3)
+            xdotool("keyup", "ctrl")
+            xdotool("key", "q")
             self.assertEqual(desk.close(), 0)
             self.assertEqual(desk.played(), [(NOTE_ON, 70, 100), (NOTE_OFF, 70, 100)])
 
