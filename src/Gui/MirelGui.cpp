@@ -191,8 +191,7 @@ void MirelGui::destroy() {
         DestroyWindow(m_windowHandle);
     m_mirelIF.setGuiWindowHandle(nullptr);
     // The log's thread must not show anything to a panel that is gone.
-    m_mirelIF.getDisplayMessageManager().postSetListener(nullptr);
-    m_mirelIF.getDisplayMessageManager().waitUntilIdle();
+    m_mirelIF.getDisplayMessageManager().sendSetListener(nullptr);
     m_keyboardHookProxy.setEnabled(false);
     m_keyboardHookProxy.setWindowHandle(nullptr);
     m_keyboardLossWatch.reset();

@@ -4,6 +4,7 @@
 #include "Backend/core/DisplayMessages.h"
 #include "Backend/core/EventLine.h"
 #include "Backend/core/MessagePayload.h"
+#include "Platform/AutoResetEvent.h"
 
 namespace Backend::Display {
 
@@ -76,6 +77,12 @@ void DisplayMessageManager::postSetListener(DisplayListener* listener) {
     post(SET_LISTENER, 0, reinterpret_cast<LPARAM>(listener));
 }
 
+void DisplayMessageManager::sendSetListener(DisplayListener* listener) {
+    Platform::AutoResetEvent done;
+    post(SET_LISTENER, reinterpret_cast<WPARAM>(&done), reinterpret_cast<LPARAM>(listener));
+    done.wait();
+}
+
 void DisplayMessageManager::postSetDisplayNumbers(bool display) {
     post(SET_DISPLAY_NUMBERS, display, 0);
 }
@@ -119,7 +126,10 @@ void DisplayMessageManager::handleMessage(const MSG& message) {
                 addEvent(getPortName(m_outputPorts, event->getOutput()), *event);
             break;
         }
-        case SET_LISTENER: m_listener = reinterpret_cast<DisplayListener*>(message.lParam); break;
+        case SET_LISTENER:
+            m_listener = reinterpret_cast<DisplayListener*>(message.lParam);
+            tellDone(message);
+            break;
         case SET_DISPLAY_NUMBERS: m_displayNumbers = message.wParam != 0; break;
         case SET_DISPLAY_INPUTS: m_displayInputs = message.wParam != 0; break;
         case SET_DISPLAY_OUTPUTS: m_displayOutputs = message.wParam != 0; break;
@@ -136,11 +146,18 @@ void DisplayMessageManager::addEvent(const std::string& port, const MirelMidiMes
     m_log.add(number + port + describeEvent(message));
 }
 
+// The sender of a listener may wait for it.
+void DisplayMessageManager::tellDone(const MSG& message) {
+    if (auto* const done = reinterpret_cast<Platform::AutoResetEvent*>(message.wParam))
+        done->set();
+}
+
 void DisplayMessageManager::discard(const MSG& message) {
     switch (message.message) {
         case ADD_TEXT: takePayload<std::string>(message.lParam); break;
         case ADD_INPUT_EVENT:
         case ADD_OUTPUT_EVENT: takePayload<MirelMidiMessage>(message.lParam); break;
+        case SET_LISTENER: tellDone(message); break;
         case SET_INPUT_PORTS: takePayload<std::vector<MidiInputPort>>(message.wParam); break;
         case SET_OUTPUT_PORTS: takePayload<std::vector<MidiOutputPort>>(message.wParam); break;
         default: break;

@@ -43,8 +43,12 @@ public:
     void postAddInputEvent(const MidiEngine::MirelMidiMessage& message);
     void postAddOutputEvent(const MidiEngine::MirelMidiMessage& message);
 
-    // [any] Who shows the log, or null. It must outlive the thread or another call and waitUntilIdle.
+    // [any] Who shows the log, or null. It must outlive the thread, or a call of sendSetListener.
     void postSetListener(DisplayListener* listener);
+
+    // [any other thread] The same, and returns when the listener before hears nothing more, however much there is to
+    // log. It may have to wait for what that one does at this moment. The thread must be running.
+    void sendSetListener(DisplayListener* listener);
 
     // [any] Whether event lines begin with their number, and which events are logged.
     void postSetDisplayNumbers(bool display);
@@ -69,6 +73,7 @@ private:
     void post(UINT number, WPARAM wParam, LPARAM lParam);
     void addEvent(const std::string& port, const MidiEngine::MirelMidiMessage& message);
 
+    static void tellDone(const MSG& message);
     static void discard(const MSG& message);
 
     DisplayListener* m_listener = nullptr;

@@ -13,23 +13,15 @@ FeedEnd::~FeedEnd() {
 }
 
 void FeedEnd::take(Backend::Display::DisplayMessageManager& feed) {
-    ResetEvent(m_reached);
-    // This object stands in for the listener, and whatever reaches it comes after all that the listener was told. A
-    // full queue would keep this thread in the posts, so another one makes them.
-    std::thread poster([&] {
-        feed.postSetListener(this);
-        feed.postSendAll();
+    std::thread other([&] {
+        feed.sendSetListener(nullptr);
+        SetEvent(m_reached);
     });
     while (MsgWaitForMultipleObjects(1, &m_reached, FALSE, INFINITE, QS_SENDMESSAGE) == WAIT_OBJECT_0 + 1) {
         MSG unused;
         PeekMessageA(&unused, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
     }
-    poster.join();
-    feed.postSetListener(nullptr);
-}
-
-void FeedEnd::setText(const char*) {
-    SetEvent(m_reached);
+    other.join();
 }
 
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "Backend/core/DisplayListener.h"
-
 #include <windows.h>
 
 namespace Backend::Display {
@@ -12,21 +10,17 @@ namespace Gui::Display {
 
 // Takes a listener out of the log's feed. The log's thread may be in the middle of telling the listener something, and
 // for that it may wait for the window's thread; so that thread goes on answering it while it waits.
-class FeedEnd : private Backend::Display::DisplayListener {
+class FeedEnd {
 public:
     FeedEnd();
-    ~FeedEnd() override;
+    ~FeedEnd();
     FeedEnd(const FeedEnd&) = delete;
     FeedEnd& operator=(const FeedEnd&) = delete;
 
-    // [gui] Returns when the log's thread is done with the listener that it has, and has none. The log must be running,
-    // and this object must outlive it or another listener.
+    // [gui] Returns when the log's thread is done with the listener that it has, and has none. The log must be running.
     void take(Backend::Display::DisplayMessageManager& feed);
 
 private:
-    void append(const char*) override {}
-    void setText(const char*) override;
-
     HANDLE m_reached;
 };
 

@@ -9,6 +9,10 @@ void sleepMilliseconds(unsigned milliseconds) {
 }
 
 void sleepAnsweringWindows(unsigned milliseconds) {
+    if (!IsGUIThread(FALSE)) {
+        Sleep(milliseconds);
+        return;
+    }
     const ULONGLONG end = GetTickCount64() + milliseconds;
     for (ULONGLONG now = GetTickCount64(); now < end; now = GetTickCount64()) {
         const auto left = static_cast<DWORD>(end - now);

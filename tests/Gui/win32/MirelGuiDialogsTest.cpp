@@ -1,9 +1,13 @@
 #include "Backend/core/Bank.h"
+#include "Gui/ResourceIds.h"
 #include "Platform/Files.h"
 #include "tests/support/ProjectFolder.h"
 #include "tests/support/win32/WindowDesk.h"
 
 #include <gtest/gtest.h>
+
+#include <commctrl.h>
+#include <prsht.h>
 
 namespace Gui {
 namespace {
@@ -179,6 +183,120 @@ TEST_F(MirelGuiDialogsTest, ImportKnowsItsFilesByTheirExtensionsInLowerCase) {
     }
     desk.settle();
     EXPECT_EQ(desk.gui().getCurrentBankName(), "");
+}
+
+TEST_F(MirelGuiDialogsTest, ImportThatIsCancelledAtAnyQuestionChangesNothing) {
+    const std::string bank = copy("tests/data/version2/bank.txt", "old.bnk");
+    const std::string preset = copy("tests/data/version2/key two.pst", "key two.pst");
+    {
+        const OtherThread user([] { answer("Select Version 2 File To Import", ""); });
+        desk.gui().importVersion2File();
+    }
+    {
+        const OtherThread user([&bank] {
+            answer("Select Version 2 File To Import", bank);
+            answer("Select Name Of New File", "");
+        });
+        desk.gui().importVersion2File();
+    }
+    {
+        const OtherThread user([&preset] {
+            answer("Select Version 2 File To Import", preset);
+            const HWND prompt = waitForDialog([](HWND window) { return textOf(window) == "Enter Preset Name"; });
+            SendMessageA(GetDlgItem(prompt, PROMPT_TEXT), WM_SETTEXT, 0, reinterpret_cast<LPARAM>("Old Keys"));
+            PostMessageA(prompt, WM_COMMAND, IDCANCEL, 0);
+            eventually([prompt] { return !IsWindow(prompt); });
+        });
+        desk.gui().importVersion2File();
+    }
+    desk.settle();
+    EXPECT_EQ(desk.gui().getCurrentBankName(), "");
+    EXPECT_FALSE(Platform::Files::size(desk.file("Computer Input Presets/Old Keys.pst")));
+}
+
+// Of the setup, as its user presses them.
+void enterVelocity(const char* velocity, int button) {
+    const HWND sheet = waitForDialog([](HWND window) { return textOf(window) == "Mirel Console Setup"; });
+    const auto page = reinterpret_cast<HWND>(SendMessageA(sheet, PSM_GETCURRENTPAGEHWND, 0, 0));
+    SendMessageA(GetDlgItem(page, IDC_SETUP_VELOCITY), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(velocity));
+    PostMessageA(sheet, PSM_PRESSBUTTON, static_cast<WPARAM>(button), 0);
+    eventually([sheet] { return !IsWindow(sheet); });
+}
+
+TEST_F(MirelGuiDialogsTest, SetupReachesTheDeskWithOkAlone) {
+    {
+        const OtherThread user([] { enterVelocity("77", PSBTN_OK); });
+        desk.gui().showSetupDialog();
+    }
+    desk.settle();
+    EXPECT_EQ(desk.mirel().getRegistrySettings().getLiteVelocity(), 77);
+    {
+        const OtherThread user([] { enterVelocity("55", PSBTN_CANCEL); });
+        desk.gui().showSetupDialog();
+    }
+    desk.settle();
+    EXPECT_EQ(desk.mirel().getRegistrySettings().getLiteVelocity(), 77);
+}
+
+class MirelGuiHeldKeysTest : public MirelGuiDialogsTest {
+protected:
+    using Strings = std::vector<std::string>;
+
+    // What becomes of a key that is down while something else gets the keyboard.
+    Strings holdDuring(const std::function<void()>& action) {
+        SetForegroundWindow(desk.host.handle());
+        desk.gui().setFocus();
+        desk.settle();
+        SendMessageA(desk.window(), WM_KEYDOWN, 'A', 1);
+        desk.takeKeys();
+        action();
+        desk.settle();
+        return desk.takeKeys();
+    }
+};
+
+TEST_F(MirelGuiHeldKeysTest, EveryDialogEndsThem) {
+    EXPECT_EQ(holdDuring([this] {
+                  const OtherThread user([] { enterVelocity("77", PSBTN_CANCEL); });
+                  desk.gui().showSetupDialog();
+              }),
+              Strings{"up 65 0"});
+    EXPECT_EQ(holdDuring([this] {
+                  const OtherThread user([] { answer("Load", ""); });
+                  desk.gui().showLoadDialog();
+              }),
+              Strings{"up 65 0"});
+    EXPECT_EQ(holdDuring([this] {
+                  const OtherThread user([] { answer("Select Version 2 File To Import", ""); });
+                  desk.gui().importVersion2File();
+              }),
+              Strings{"up 65 0"});
+}
+
+TEST_F(MirelGuiHeldKeysTest, EveryMenuEndsThem) {
+    const std::string bank = copy("tests/data/banks/three.bnk", "live.bnk");
+    desk.mirel().getMessageManager().postLoadBank(bank);
+    desk.settle();
+    for (void (MirelGuiIF::*show)() : {&MirelGuiIF::showProgramMenu, &MirelGuiIF::showDefaultMidiOutputMenu}) {
+        bool opened = false;
+        EXPECT_EQ(holdDuring([&] {
+                      const OtherThread user([&opened] {
+                          opened = eventually([] { return FindWindowA("#32768", nullptr) != nullptr; });
+                          // The menu is not ready for it yet, perhaps.
+                          eventually([] {
+                              DWORD thread = GetWindowThreadProcessId(FindWindowA("#32768", nullptr), nullptr);
+                              GUITHREADINFO info{};
+                              info.cbSize = sizeof info;
+                              if (thread != 0 && GetGUIThreadInfo(thread, &info) && info.hwndMenuOwner)
+                                  PostMessageA(info.hwndMenuOwner, WM_CANCELMODE, 0, 0);
+                              return FindWindowA("#32768", nullptr) == nullptr;
+                          });
+                      });
+                      (desk.gui().*show)();
+                  }),
+                  Strings{"up 65 0"});
+        EXPECT_TRUE(opened);
+    }
 }
 
 }

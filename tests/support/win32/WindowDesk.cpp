@@ -2,6 +2,7 @@
 
 #include "Backend/core/MirelUtils.h"
 #include "Backend/input/Key.h"
+#include "Platform/Sleep.h"
 #include "tests/support/RunningDesk.h"
 
 #include <utility>
@@ -51,6 +52,9 @@ WindowDesk::~WindowDesk() {
         m_mirel->getMessageManager().sendEnd();
         m_mirel->stop();
     }
+    m_isPlaying = false;
+    if (m_player.joinable())
+        m_player.join();
     m_mirel.reset();
     MirelUtils::useDataFolder("");
 }
@@ -77,6 +81,17 @@ void WindowDesk::start() {
     manager.sendSetMidiInputPorts(makePorts<MidiEngine::MidiInputPort>({"In 0", "In 1"}));
     manager.sendSetMidiOutputPorts(makePorts<MidiEngine::MidiOutputPort>({"Out 0", "Out 1", "Out 2"}));
     manager.sendEndInitialize();
+}
+
+void WindowDesk::startPlayer() {
+    m_isPlaying = true;
+    m_player = std::thread([this] {
+        m_threadId = Platform::currentThreadId();
+        for (std::int32_t now = 0; m_isPlaying; ++now) {
+            m_mirel->playTimeSlice(now, now + 1);
+            Platform::sleepMilliseconds(1);  // The pace of a player; whatever comes meanwhile is one slice's.
+        }
+    });
 }
 
 Gui::MirelGui& WindowDesk::open(bool isVstPlugin) {

@@ -7,9 +7,11 @@
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/win32/TestWindows.h"
 
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace TestSupport {
@@ -29,6 +31,9 @@ public:
 
     // The host's start, with two inputs and three outputs, without a window.
     void start();
+
+    // From here to the end a player plays slices on a thread of its own.
+    void startPlayer();
 
     // Makes the window, fills it, and waits until all is done.
     Gui::MirelGui& open(bool isVstPlugin = false);
@@ -54,12 +59,18 @@ public:
 
     std::string file(const std::string& name) const { return m_folder.file(name); }
 
+    // Before startPlayer: what is to see the events that come out. [player]
+    std::function<void(const Backend::MidiEngine::MirelMidiMessage&)> onPlayed;
+
     TestWindow host{800, 600};
 
 private:
     class WitnessMirel;
 
-    void playMidi(const Backend::MidiEngine::MirelMidiMessage&) override {}
+    void playMidi(const Backend::MidiEngine::MirelMidiMessage& message) override {
+        if (onPlayed)
+            onPlayed(message);
+    }
     void enableMidiInput(int, bool) override {}
     void enableMidiOutput(int, bool) override {}
     DWORD getThreadId() override { return m_threadId; }
@@ -69,10 +80,12 @@ private:
     char getTempoSource() override { return -1; }
 
     TemporaryFolder m_folder;
-    const DWORD m_threadId = Platform::currentThreadId();
+    std::atomic<DWORD> m_threadId = Platform::currentThreadId();
     std::vector<std::string> m_keys;
     std::unique_ptr<Backend::Mirel> m_mirel;
     std::unique_ptr<Gui::MirelGui> m_gui;
+    std::thread m_player;
+    std::atomic<bool> m_isPlaying = false;
     bool m_isRunning = false;
 };
 
