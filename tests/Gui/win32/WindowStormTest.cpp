@@ -205,7 +205,7 @@ protected:
         ASSERT_GT(lines.size(), 100u);
         const int first = 2 * EVENTS_EACH_WAY - static_cast<int>(lines.size());
         for (std::size_t i = 1; i < lines.size(); ++i)  // The oldest line is cut somewhere.
-            EXPECT_EQ(numberOf(lines[i]), first + static_cast<int>(i)) << lines[i];
+            ASSERT_EQ(numberOf(lines[i]), first + static_cast<int>(i)) << lines[i];
         EXPECT_EQ(numberOf(lines.back()), 2 * EVENTS_EACH_WAY - 1);
     }
 
