@@ -81,8 +81,7 @@ void MirelGui::create(HWND parentWindow) {
     createWindows();
     createButtons();
     m_skinner.skinWindow(m_windowHandle);
-    m_keyboardHookProxy.setWindowHandle(m_windowHandle);
-    m_keyboardHookProxy.setEnabled(m_settings.getGlobalKeyboard());
+    enableHook(m_settings.getGlobalKeyboard());
     setupPanels();
     applyScreenState();
     if (!m_isVstPlugin)

@@ -187,6 +187,7 @@ private:
     void showCollapsed(bool collapsed);
 
     // MirelGuiChanges.cpp
+    void enableHook(bool enable);
     void showGlobalKeyboard();
     void waitForDesk() const;
     void postToHost(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;

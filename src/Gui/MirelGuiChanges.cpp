@@ -146,10 +146,16 @@ void MirelGui::handleMidiThruChanged(bool thru) {
 
 void MirelGui::handleGlobalKeyboardChanged(bool globalKeyboard) {
     m_settings.setGlobalKeyboard(globalKeyboard);
-    m_keyboardHookProxy.setWindowHandle(m_windowHandle);
-    m_keyboardHookProxy.setEnabled(globalKeyboard);
+    enableHook(globalKeyboard);
     showGlobalKeyboard();
     postToHost(UM_GLOBAL_KEYBOARD_CHANGED, globalKeyboard);
+}
+
+void MirelGui::enableHook(bool enable) {
+    m_keyboardHookProxy.setWindowHandle(m_windowHandle);
+    m_keyboardHookProxy.setEnabled(enable);
+    if (enable && !m_keyboardHookProxy.isUsable())
+        m_mirelIF.displayString("KeyboardHook_64.dll can't be used: keys play only while the desk has the focus.\r\n");
 }
 
 void MirelGui::showGlobalKeyboard() {

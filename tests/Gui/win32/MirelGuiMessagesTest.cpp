@@ -6,6 +6,7 @@
 #include "Backend/midi/MirelMidiMessage.h"
 #include "Gui/Rules/WindowMove.h"
 #include "Gui/Utils/UserMessages.h"
+#include "tests/support/LogText.h"
 #include "tests/support/RunningDesk.h"
 #include "tests/support/win32/RecordedHook.h"
 #include "tests/support/win32/WindowDesk.h"
@@ -420,6 +421,8 @@ protected:
     WindowDesk desk;
 };
 
+constexpr const char* NO_HOOK = "KeyboardHook_64.dll can't be used: keys play only while the desk has the focus.\r\n";
+
 TEST_F(MirelGuiHookTest, TheHookLearnsOfTheWindowAndTheSetting) {
     open(TestSupport::RecordedHook::recordingFolder(), true);
     const std::string calls = hook.takeCalls();
@@ -472,6 +475,14 @@ TEST_F(MirelGuiHookTest, WithoutALibraryTheButtonStillChangesTheSetting) {
     EXPECT_TRUE(desk.mirel().getRegistrySettings().getGlobalKeyboard());
     EXPECT_EQ(desk.host.count(UM_GLOBAL_KEYBOARD_CHANGED), 1u);
     EXPECT_EQ(hook.takeCalls(), "");
+    const std::string log = TestSupport::readLog(desk.mirel().getDisplayMessageManager());
+    EXPECT_NE(log.find(NO_HOOK), std::string::npos) << log;
+}
+
+TEST_F(MirelGuiHookTest, NobodyIsToldOfALibraryThatIsNotWanted) {
+    open(TestSupport::RecordedHook::missingFolder());
+    const std::string log = TestSupport::readLog(desk.mirel().getDisplayMessageManager());
+    EXPECT_EQ(log.find(NO_HOOK), std::string::npos) << log;
 }
 
 TEST_F(MirelGuiHookTest, KeysThatSwitchTheHookAreHandedToIt) {

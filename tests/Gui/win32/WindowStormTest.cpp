@@ -3,6 +3,7 @@
 #include "Backend/core/DisplayListener.h"
 #include "Backend/functions/SelectType.h"
 #include "Platform/Files.h"
+#include "tests/support/LogText.h"
 #include "tests/support/ProjectFolder.h"
 #include "tests/support/win32/WindowDesk.h"
 
@@ -44,32 +45,13 @@ MirelMidiMessage makeEvent(int number, char output, char input) {
             AT_ONCE};
 }
 
-// All of the log.
-class WholeLog : public Backend::Display::DisplayListener {
-public:
-    explicit WholeLog(Backend::Display::DisplayMessageManager& log) {
-        log.postSetListener(this);
-        log.postSendAll();
-        log.postSetListener(nullptr);
-        log.waitUntilIdle();
-    }
-
-    std::vector<std::string> lines() const { return split(m_text); }
-
-    static std::vector<std::string> split(const std::string& text) {
-        std::vector<std::string> lines;
-        std::size_t begin = 0;
-        for (std::size_t end; (end = text.find("\r\n", begin)) != std::string::npos; begin = end + 2)
-            lines.push_back(text.substr(begin, end - begin));
-        return lines;
-    }
-
-private:
-    void append(const char* text) override { m_text += text; }
-    void setText(const char* text) override { m_text = text; }
-
-    std::string m_text;
-};
+std::vector<std::string> splitLines(const std::string& text) {
+    std::vector<std::string> lines;
+    std::size_t begin = 0;
+    for (std::size_t end; (end = text.find("\r\n", begin)) != std::string::npos; begin = end + 2)
+        lines.push_back(text.substr(begin, end - begin));
+    return lines;
+}
 
 // The number that an event's line begins with.
 std::optional<int> numberOf(const std::string& line) {
@@ -191,7 +173,7 @@ protected:
                 << note;
         expectNothingSounds();
         desk.close();
-        expectLog(WholeLog(desk.mirel().getDisplayMessageManager()).lines());
+        expectLog(splitLines(TestSupport::readLog(desk.mirel().getDisplayMessageManager())));
     }
 
     // A note that the engine took for sounding would be ended now.
@@ -220,7 +202,7 @@ TEST_F(WindowStormTest, LosesNothingWhileTheLogShows) {
     storm(EVENTS_EACH_WAY);
     const std::string end = std::to_string(2 * EVENTS_EACH_WAY - 1) + "  ";
     EXPECT_TRUE(pumpUntil([&] {
-        const auto lines = WholeLog::split(shown());
+        const auto lines = splitLines(shown());
         return !lines.empty() && lines.back().starts_with(end);
     })) << shown().substr(shown().size() / 2);
     EXPECT_LT(shown().size(), 30000u);

@@ -1,10 +1,9 @@
 #include "Host/common/PortDesk.h"
 
-#include "Backend/core/DisplayListener.h"
-#include "Backend/core/DisplayMessageManager.h"
 #include "Backend/core/MirelUtils.h"
 #include "tests/support/Eventually.h"
 #include "tests/support/FakeMidiSystem.h"
+#include "tests/support/LogText.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -17,14 +16,7 @@ namespace {
 
 using TestSupport::eventually;
 using TestSupport::FakeMidiSystem;
-
-class Log : public Backend::Display::DisplayListener {
-public:
-    void append(const char* added) override { text += added; }
-    void setText(const char* whole) override { text = whole; }
-
-    std::string text;
-};
+using TestSupport::readLog;
 
 class PortDeskTest : public testing::Test {
 public:
@@ -33,17 +25,6 @@ public:
 
     std::unique_ptr<PortDesk> make() {
         return std::make_unique<PortDesk>(system, PortDesk::Options{"Desk", m_folder.path(), ""});
-    }
-
-    // What stands in the log at this moment.
-    static std::string readLog(PortDesk& desk) {
-        Log log;
-        auto& display = desk.mirel().getDisplayMessageManager();
-        display.postSetListener(&log);
-        display.postSendAll();
-        display.postSetListener(nullptr);
-        display.waitUntilIdle();
-        return log.text;
     }
 
     static int count(const std::string& text, const std::string& part) {
@@ -68,7 +49,7 @@ TEST_F(PortDeskTest, LogSaysWhichPortsDoNotWork) {
     system->refuse("Synth", true);
     const auto desk = make();
     desk->start();
-    const std::string log = readLog(*desk);
+    const std::string log = readLog(desk->mirel().getDisplayMessageManager());
     EXPECT_EQ(count(log, "MIDI input \"Broken\" does not work. It will be tried again.\r\n"), 1) << log;
     EXPECT_EQ(count(log, SYNTH_FAILS), 1) << log;
     EXPECT_EQ(count(log, "does not work"), 2) << log;
@@ -84,14 +65,14 @@ TEST_F(PortDeskTest, PortThatFailsAnewIsToldAnew) {
     const int times = system->timesOpened("Synth");
     system->refuse("Synth", false);
     ASSERT_TRUE(eventually([&] { return system->timesOpened("Synth") > times && system->isOutputOpen("Synth"); }));
-    EXPECT_EQ(count(readLog(*desk), SYNTH_FAILS), 1);
+    EXPECT_EQ(count(readLog(desk->mirel().getDisplayMessageManager()), SYNTH_FAILS), 1);
     const int looks = system->timesListed();
     ASSERT_TRUE(eventually([&] { return system->timesListed() > looks + 1; })) << "the desk sees that it works";
     system->refuse("Synth", true);
     system->breakPort("Synth", true);
     ASSERT_TRUE(eventually([&] {
         desk->ports().play(1, 0x643c90, 0);
-        return count(readLog(*desk), SYNTH_FAILS) == 2;
+        return count(readLog(desk->mirel().getDisplayMessageManager()), SYNTH_FAILS) == 2;
     }));
     EXPECT_TRUE(desk->stop());
 }

@@ -1,6 +1,7 @@
 #include "Host/console/win32/ConsoleDesk.h"
 
 #include "Backend/core/Bank.h"
+#include "Backend/core/BankFile.h"
 #include "Backend/core/MessageManagerMaster.h"
 #include "Backend/core/MirelMessageManager.h"
 #include "Backend/core/MirelUtils.h"
@@ -128,8 +129,12 @@ void ConsoleDesk::chooseOutputs() {
 
 void ConsoleDesk::loadFirstPrograms() {
     const std::string& defaultBank = m_desk.mirel().getRegistrySettings().getDefaultBank();
-    if (m_line.bank.empty() && !defaultBank.empty())
+    if (m_line.bank.empty() && !defaultBank.empty()) {
         manager().postLoadBank(defaultBank);
+        // It was there once, so that a box at each start would be too much.
+        if (!Platform::Files::size(defaultBank))
+            m_desk.mirel().displayString(defaultBank + ": can't be read.\r\n");
+    }
     openRequested({m_line.bank, m_line.program, m_line.files});
 }
 
@@ -142,18 +147,22 @@ void ConsoleDesk::openFile(const std::string& path) {
 }
 
 void ConsoleDesk::openBank(const std::string& path) {
-    if (Platform::Files::size(path))
-        manager().postLoadBank(withLowerCaseExtension(path));
-    else
+    if (!Platform::Files::size(path))
         tell(path + ": can't be read.");
+    else if (Backend::BankFile::readProgramNames(path).empty())
+        tell(path + ": holds no programs.");  // The bank that there is stays.
+    else
+        manager().postLoadBank(withLowerCaseExtension(path));
 }
 
 void ConsoleDesk::openProgram(const std::string& wanted) {
     if (kindOfDeskFile(wanted) == DeskFileKind::program) {
-        if (Platform::Files::size(wanted))
-            manager().postLoadProgram(withLowerCaseExtension(wanted));
-        else
+        if (!Platform::Files::size(wanted))
             tell(wanted + ": can't be read.");
+        else if (Backend::BankFile::readProgramNames(wanted).empty())
+            tell(wanted + ": holds no program.");
+        else
+            manager().postLoadProgram(withLowerCaseExtension(wanted));
         return;
     }
     waitForBank();

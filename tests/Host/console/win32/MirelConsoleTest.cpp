@@ -253,7 +253,18 @@ TEST_F(MirelConsoleTest, ABankThatIsBrokenLeavesADeskThatCanBeUsed) {
     const Program program(data() + " --bank \"" + folder.file("broken.bnk") + "\" --program 2", output());
     const HWND frame = program.waitForFrame();
     ASSERT_NE(frame, nullptr) << readOutput();
+    EXPECT_EQ(program.answerBox(), folder.file("broken.bnk") + ": holds no programs.");
     EXPECT_EQ(program.answerBox(), "The bank has no program \"2\".");
+    PostMessageA(frame, WM_CLOSE, 0, 0);
+    EXPECT_EQ(program.wait(), 0u);
+}
+
+TEST_F(MirelConsoleTest, AProgramFileWithoutAProgramIsTold) {
+    ASSERT_TRUE(Platform::Files::replace(folder.file("empty.prg"), "<Program/>"));
+    const Program program(data() + " --program \"" + folder.file("empty.prg") + "\"", output());
+    const HWND frame = program.waitForFrame();
+    ASSERT_NE(frame, nullptr) << readOutput();
+    EXPECT_EQ(program.answerBox(), folder.file("empty.prg") + ": holds no program.");
     PostMessageA(frame, WM_CLOSE, 0, 0);
     EXPECT_EQ(program.wait(), 0u);
 }
