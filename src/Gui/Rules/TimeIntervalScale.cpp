@@ -88,7 +88,7 @@ int scale(int inLow, int inHigh, int value, int outLow, int outHigh) {
     const double size =
         std::clamp<double>(std::abs(static_cast<double>(value)), std::min(inLow, inHigh), std::max(inLow, inHigh));
     const double result = (outHigh - outLow) * (size - inLow) / (inHigh - inLow) + outLow;
-    return static_cast<int>((value < 0 ? -result : result) + 0.5);
+    return static_cast<int>(std::trunc((value < 0 ? -result : result) + 0.5));
 }
 
 std::int32_t clamp(Range range, std::int32_t value) {
