@@ -40,7 +40,9 @@ double grain(int along, int across) {
 }
 
 std::uint32_t pack(const Colour& colour) {
-    const auto byte = [](double value) { return static_cast<std::uint32_t>(std::lround(std::clamp(value, 0.0, 255.0))); };
+    const auto byte = [](double value) {
+        return static_cast<std::uint32_t>(std::lround(std::clamp(value, 0.0, 255.0)));
+    };
     return byte(colour.red) << 16 | byte(colour.green) << 8 | byte(colour.blue);
 }
 
