@@ -154,8 +154,6 @@ void MirelGui::handleGlobalKeyboardChanged(bool globalKeyboard) {
 void MirelGui::enableHook(bool enable) {
     m_keyboardHookProxy.setWindowHandle(m_windowHandle);
     m_keyboardHookProxy.setEnabled(enable);
-    if (enable && !m_keyboardHookProxy.isUsable())
-        m_mirelIF.displayString("KeyboardHook_64.dll can't be used: keys play only while the desk has the focus.\r\n");
 }
 
 void MirelGui::showGlobalKeyboard() {

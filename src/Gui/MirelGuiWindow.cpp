@@ -117,10 +117,11 @@ void MirelGui::handleKeyDown(WPARAM wParam, LPARAM lParam) {
     }
     const Key key = makePressedKey(virtualKey, isExtendedKey(lParam), readModifiers());
     if (key.getCode() != Key::NO_KEY) {
+        if (!m_heldKeys.press(key, wasKeyDown(lParam)))
+            return;
         auto& keyboard = m_computerInputPanel.getMainPanel().getComputerKeyboardCtl();
         keyboard.setPressed(key, true);
         keyboard.redraw();
-        m_heldKeys.press(key);
     }
     getMirelMessageManager().postKeyDown(key, wasKeyDown(lParam));
 }
@@ -128,8 +129,8 @@ void MirelGui::handleKeyDown(WPARAM wParam, LPARAM lParam) {
 void MirelGui::handleKeyUp(WPARAM wParam, LPARAM lParam) {
     const auto virtualKey = static_cast<std::uint32_t>(wParam);
     const Key key = makeReleasedKey(virtualKey, isExtendedKey(lParam), readModifiers());
-    m_heldKeys.release(key.getCode());
-    if (virtualKey == VirtualKeys::LEFT_WIN)
+    const bool isNews = m_heldKeys.release(key.getCode());
+    if (virtualKey == VirtualKeys::LEFT_WIN || !isNews)
         return;
     showKeyReleased(key);
     getMirelMessageManager().postKeyUp(key);
@@ -166,7 +167,9 @@ void MirelGui::handleSize(WPARAM wParam, LPARAM lParam) {
 
 // The wheel turns what is under the pointer, whatever has the keyboard.
 void MirelGui::handleMouseWheel(WPARAM wParam, LPARAM lParam) const {
-    if (const HWND window = WindowFromPoint({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}))
+    const HWND window = WindowFromPoint({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+    // To the windows of other programs the number means something else.
+    if (window && GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId())
         SendMessageA(window, UM_MOUSEWHEEL, wParam, lParam);
 }
 

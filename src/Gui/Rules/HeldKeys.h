@@ -3,6 +3,7 @@
 #include "Backend/input/Key.h"
 
 #include <map>
+#include <set>
 #include <vector>
 
 namespace Gui {
@@ -11,24 +12,37 @@ namespace Gui {
 // it to the desk itself. For one thread.
 class HeldKeys {
 public:
-    // A key is down, with the modifiers of its first press; repeats change nothing.
-    void press(const Key& key) { m_keys.try_emplace(key.getCode(), key); }
+    // A key is down, with the modifiers of its first press; repeats change nothing. False for a repeat of a key whose
+    // end was told, as it is still held: nothing is to be told of it.
+    bool press(const Key& key, bool isRepeat) {
+        if (isRepeat && m_told.contains(key.getCode()))
+            return false;
+        m_told.erase(key.getCode());
+        m_keys.try_emplace(key.getCode(), key);
+        return true;
+    }
 
-    // A key came up, whatever the modifiers are by then.
-    void release(std::int32_t code) { m_keys.erase(code); }
+    // A key came up, whatever the modifiers are by then. False if its end was told already.
+    bool release(std::int32_t code) {
+        m_keys.erase(code);
+        return m_told.erase(code) == 0;
+    }
 
-    // All that are down, each as it was pressed, and none afterwards.
+    // All that are down, each as it was pressed, and none afterwards. Whoever takes them tells their end.
     std::vector<Key> takeAll() {
         std::vector<Key> keys;
         keys.reserve(m_keys.size());
         for (const auto& [code, key] : m_keys)
             keys.push_back(key);
+        for (const Key& key : keys)
+            m_told.insert(key.getCode());
         m_keys.clear();
         return keys;
     }
 
 private:
     std::map<std::int32_t, Key> m_keys;
+    std::set<std::int32_t> m_told;  // Still held, for all that is known, with their end told.
 };
 
 }

@@ -198,11 +198,18 @@ void SystemPanel::refreshSettings() {
     setButton(IDC_SYSTEM_GLOBAL_KEYBOARD, gui().getRegistrySettings().getGlobalKeyboard());
 }
 
+// The menu of a program that is not in front stays open, whatever the user does.
+void SystemPanel::comeToFront() {
+    SetForegroundWindow(GetAncestor(getWindowHandle(), GA_ROOT));
+}
+
 void SystemPanel::showOutputMenu() {
+    comeToFront();
     SendMessageA(m_outputs.getWindowHandle(), WM_RBUTTONDOWN, MK_RBUTTON, 0);
 }
 
 void SystemPanel::showProgramMenu() {
+    comeToFront();
     SendMessageA(m_programs.getWindowHandle(), WM_RBUTTONDOWN, MK_RBUTTON, 0);
 }
 

@@ -45,6 +45,8 @@ public:
     void showProgramMenu();
 
 private:
+    void comeToFront();
+
     void buttonChanged(int id, bool state) override;
     void createButtons();
     void createComboBox(ComboBox& box, int id, int rowsPerColumn, int helpId);

@@ -4,6 +4,7 @@
 #include "Gui/Rules/ButtonLook.h"
 #include "Gui/Utils/ButtonFill.h"
 #include "Gui/Utils/DeviceContexts.h"
+#include "Gui/Utils/DrawnText.h"
 #include "Gui/Utils/GdiManager.h"
 #include "Gui/Utils/Placeholder.h"
 #include "Gui/Utils/Redraw.h"
@@ -136,7 +137,7 @@ void Button::paint() {
     SetTextColor(dc, textColour());
     if (m_caption == "+" || (m_caption == "-" && rect.bottom < SMALL_BUTTON_HEIGHT))
         OffsetRect(&rect, 0, -1);
-    DrawTextA(dc, m_caption.c_str(), -1, &rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    drawText(dc, m_caption, rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 }
 
 HFONT Button::fontFor(int width, int height) const {

@@ -164,14 +164,23 @@ void ComboBox::handleClick() {
 void ComboBox::openMenu() {
     const HWND edit = m_windowHandle;
     m_menuShowing = true;
-    const int index = trackMenu() - 1;
+    // The list may become another one while the menu shows.
+    const std::vector<Item> shown = m_items;
+    int index = trackMenu() - 1;
     if (!isOn(edit))
         return;
+    if (m_items != shown)
+        index = index >= 0 ? findItem(shown[static_cast<std::size_t>(index)]) : index;
     // The click that closed the menu may have been one on the edit, which comes only now.
     SetTimer(m_windowHandle, MENU_TIMER, MENU_TIMER_MILLISECONDS, nullptr);
     if (index >= 0 && index < getItemCount() && m_items[static_cast<std::size_t>(index)].enabled)
         choose(index);
     PostMessageA(GetParent(edit), UM_RETURN_FOCUS, 0, 0);
+}
+
+int ComboBox::findItem(const Item& item) const {
+    const auto found = std::find(m_items.begin(), m_items.end(), item);
+    return found == m_items.end() ? -1 : static_cast<int>(found - m_items.begin());
 }
 
 int ComboBox::trackMenu() {

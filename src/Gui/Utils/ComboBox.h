@@ -64,11 +64,14 @@ private:
         std::string key;
         std::string text;
         bool enabled;
+
+        bool operator==(const Item&) const = default;
     };
 
     static LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     const Item* selectedItem() const;
+    int findItem(const Item& item) const;  // -1 if there is none like it.
     bool isOn(HWND edit) const;
     int controlId() const;
     bool isReadOnly() const;

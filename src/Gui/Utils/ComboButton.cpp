@@ -3,6 +3,7 @@
 #include "Gui/MirelGuiIF.h"
 #include "Gui/Utils/ButtonFill.h"
 #include "Gui/Utils/DeviceContexts.h"
+#include "Gui/Utils/DrawnText.h"
 #include "Gui/Utils/GdiManager.h"
 #include "Gui/Utils/Placeholder.h"
 #include "Gui/Utils/Redraw.h"
@@ -90,8 +91,7 @@ void ComboButton::paint() {
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, GdiManager::BLACK);
     if (m_selected >= 0 && static_cast<std::size_t>(m_selected) < m_texts.size())
-        DrawTextA(dc, m_texts[static_cast<std::size_t>(m_selected)].c_str(), -1, &rect,
-                  DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+        drawText(dc, m_texts[static_cast<std::size_t>(m_selected)], rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 }
 
 }

@@ -25,9 +25,6 @@ public:
     KeyboardHookProxy(const KeyboardHookProxy&) = delete;
     KeyboardHookProxy& operator=(const KeyboardHookProxy&) = delete;
 
-    // Whether there is a library that can take keys.
-    bool isUsable() const { return m_setWindowHandle && m_setEnabled; }
-
     // The window that gets the keys, as ordinary key messages, and the message of getStateMessage().
     void setWindowHandle(HWND window) const;
 

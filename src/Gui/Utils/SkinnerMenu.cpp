@@ -1,6 +1,7 @@
 // Menus: their items, which their owner draws, and the frame around them.
 #include "Gui/MirelGuiIF.h"
 #include "Gui/Utils/DeviceContexts.h"
+#include "Gui/Utils/DrawnText.h"
 #include "Gui/Utils/GdiManager.h"
 #include "Gui/Utils/PopupMenu.h"
 #include "Gui/Utils/SkinProperties.h"
@@ -61,7 +62,7 @@ bool Skinner::handleDrawMenuItem(const DRAWITEMSTRUCT& item) {
     RECT place = item.rcItem;
     place.left += TEXT_INDENT;
     const SelectScope font(item.hDC, getItemFont(gdi(), *record));
-    DrawTextA(item.hDC, record->text.c_str(), -1, &place, DT_SINGLELINE | DT_VCENTER);
+    drawText(item.hDC, record->text, place, DT_SINGLELINE | DT_VCENTER);
     return true;
 }
 
@@ -71,8 +72,7 @@ void Skinner::handleMeasureMenuItem(HWND window, MEASUREITEMSTRUCT& item) {
         return;
     const WindowDc dc(window);
     const SelectScope font(dc.dc(), getItemFont(gdi(), *record));
-    SIZE extent{};
-    GetTextExtentPoint32A(dc.dc(), record->text.c_str(), static_cast<int>(record->text.size()), &extent);
+    const SIZE extent = measureText(dc.dc(), record->text);
     item.itemWidth = static_cast<UINT>(extent.cx) + TEXT_INDENT;
     item.itemHeight = static_cast<UINT>(extent.cy) + LINE_GAP;
 }

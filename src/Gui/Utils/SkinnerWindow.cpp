@@ -2,6 +2,7 @@
 #include "Gui/MirelGuiIF.h"
 #include "Gui/Rules/ButtonLook.h"
 #include "Gui/Utils/DeviceContexts.h"
+#include "Gui/Utils/DrawnText.h"
 #include "Gui/Utils/GdiManager.h"
 #include "Gui/Utils/SkinProperties.h"
 #include "Gui/Utils/Skinner.h"
@@ -197,7 +198,7 @@ bool Skinner::handleDrawButtonItem(const DRAWITEMSTRUCT& item) {
     RECT place = item.rcItem;
     if (isSign(text) && place.bottom - place.top < SMALL_BUTTON_HEIGHT)
         OffsetRect(&place, 0, -1);
-    DrawTextA(item.hDC, text.c_str(), -1, &place, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    drawText(item.hDC, text, place, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
     return true;
 }
 

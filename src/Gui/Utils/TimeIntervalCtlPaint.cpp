@@ -1,6 +1,7 @@
 // How the time knob looks.
 #include "Gui/MirelGuiIF.h"
 #include "Gui/Utils/DeviceContexts.h"
+#include "Gui/Utils/DrawnText.h"
 #include "Gui/Utils/GdiManager.h"
 #include "Gui/Utils/PopupMenu.h"
 #include "Gui/Utils/TimeIntervalCtl.h"
@@ -22,7 +23,7 @@ void paintText(HDC dc, RECT box, const WindowsLib::Font& font, COLORREF colour, 
     const SelectScope scope(dc, font.handle());
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, colour);
-    DrawTextA(dc, text.c_str(), -1, &box, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    drawText(dc, text, box, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 }
 
 const char* nameOf(TimeIntervalType::Mode type) {

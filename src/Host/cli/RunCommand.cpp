@@ -16,6 +16,7 @@
 #include "Host/common/InputEvent.h"
 #include "Host/common/MidiFileReader.h"
 #include "Host/common/PortDesk.h"
+#include "Host/common/RecordTarget.h"
 #include "Platform/Files.h"
 #include "Platform/StopRequest.h"
 
@@ -96,16 +97,6 @@ bool contains(const std::vector<int>& indices, std::size_t index) {
     return std::find(indices.begin(), indices.end(), static_cast<int>(index)) != indices.end();
 }
 
-// The file stays as it is, also one that is not there.
-bool isWritable(const std::string& path) {
-    const bool isNew = !Platform::Files::size(path);
-    if (!Platform::Files::append(path, ""))
-        return false;
-    if (isNew)
-        Platform::Files::remove(path);
-    return true;
-}
-
 class RunningDesk {
 public:
     explicit RunningDesk(const RunOptions& options)
@@ -113,7 +104,7 @@ public:
           m_desk(createMidiSystem(PORT_NAME),
                  {PRODUCT, MirelUtils::getMirelAppDataDir(), options.virtualPorts ? PORT_NAME : "", false,
                   !options.recordFile.empty()}) {
-        if (!options.recordFile.empty() && !isWritable(options.recordFile))
+        if (!options.recordFile.empty() && !canRecordTo(options.recordFile))
             throw RunError(options.recordFile + ": can't be written");
     }
 

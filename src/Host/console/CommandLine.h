@@ -9,7 +9,7 @@ namespace Host::Console {
 // What the desk with a window was started for.
 struct CommandLine {
     static constexpr const char* USAGE =
-        "usage: MirelConsole [--bank FILE] [--program NAME] [--data DIR] [--record FILE.mid] [FILE]\n"
+        "usage: MirelConsole [--bank FILE] [--program NAME] [--data DIR] [--record FILE.mid] [FILE]...\n"
         "\n"
         "  --bank     the bank to load; without it that of the settings, or the built-in set-up\n"
         "  --program  a program of the bank by name or by number, or a program file (.prg)\n"

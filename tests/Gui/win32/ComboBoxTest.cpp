@@ -279,6 +279,31 @@ TEST_F(ComboBoxTest, WheelGoesThroughTheEnabledItemsAndStopsAtTheEnds) {
     }
 }
 
+TEST_F(ComboBoxTest, ListThatChangesWhileItShowsGivesWhatWasChosen) {
+    panel.answer = [&](const Message& message) -> LRESULT {
+        if (message.id == WM_ENTERMENULOOP) {
+            box.clearItems();
+            box.addItem(4, "Synth");
+            box.addItem(9, "Drums");
+        }
+        return 0;
+    };
+    openLeft({VK_DOWN, VK_DOWN, VK_RETURN});
+    EXPECT_EQ(box.getSelectedValue(), 4) << "the second of the list that was shown, and the first of the new one";
+}
+
+TEST_F(ComboBoxTest, ItemThatGoesWhileTheListShowsIsNotChosen) {
+    panel.answer = [&](const Message& message) -> LRESULT {
+        if (message.id == WM_ENTERMENULOOP) {
+            box.clearItems();
+            box.addItem(9, "Drums");
+        }
+        return 0;
+    };
+    openLeft({VK_DOWN, VK_DOWN, VK_RETURN});
+    EXPECT_EQ(box.getSelection(), -1);
+}
+
 TEST_F(ComboBoxTest, EditMayGoWhileItsListShows) {
     auto lost = std::make_unique<ComboBox>(gui.getGdiManager());
     const HWND field = panel.item(IDC_TEST_EDIT);

@@ -195,6 +195,26 @@ TEST_F(MirelGuiKeysTest, KeysAreReleasedWhenAnotherProgramComesToTheFront) {
     EXPECT_FALSE(keyboard().isPressed(Key(65, false, false, false, false)));
 }
 
+TEST_F(MirelGuiKeysTest, AKeyThatWasReleasedWithTheFocusIsNotReleasedAgain) {
+    const TestWindow other;
+    SetForegroundWindow(desk.host.handle());
+    desk.gui().setFocus();
+    desk.settle();
+    send(WM_KEYDOWN, 'A', FIRST);
+    SetForegroundWindow(other.handle());
+    desk.settle();
+    SetForegroundWindow(desk.host.handle());
+    desk.gui().setFocus();
+    desk.settle();
+    EXPECT_EQ(desk.takeKeys(), (Strings{"down 65 0", "up 65 0"}));
+    send(WM_KEYDOWN, 'A', REPEAT);
+    send(WM_KEYUP, 'A', RELEASED);
+    EXPECT_EQ(desk.takeKeys(), Strings{});
+    send(WM_KEYDOWN, 'A', FIRST);
+    send(WM_KEYUP, 'A', RELEASED);
+    EXPECT_EQ(desk.takeKeys(), (Strings{"down 65 0", "up 65 0"}));
+}
+
 TEST_F(MirelGuiKeysTest, AReleasedKeyKeepsTheModifiersOfItsPress) {
     HeldKey control(VK_CONTROL);
     send(WM_KEYDOWN, 'A', FIRST);

@@ -421,8 +421,6 @@ protected:
     WindowDesk desk;
 };
 
-constexpr const char* NO_HOOK = "KeyboardHook_64.dll can't be used: keys play only while the desk has the focus.\r\n";
-
 TEST_F(MirelGuiHookTest, TheHookLearnsOfTheWindowAndTheSetting) {
     open(TestSupport::RecordedHook::recordingFolder(), true);
     const std::string calls = hook.takeCalls();
@@ -476,13 +474,7 @@ TEST_F(MirelGuiHookTest, WithoutALibraryTheButtonStillChangesTheSetting) {
     EXPECT_EQ(desk.host.count(UM_GLOBAL_KEYBOARD_CHANGED), 1u);
     EXPECT_EQ(hook.takeCalls(), "");
     const std::string log = TestSupport::readLog(desk.mirel().getDisplayMessageManager());
-    EXPECT_NE(log.find(NO_HOOK), std::string::npos) << log;
-}
-
-TEST_F(MirelGuiHookTest, NobodyIsToldOfALibraryThatIsNotWanted) {
-    open(TestSupport::RecordedHook::missingFolder());
-    const std::string log = TestSupport::readLog(desk.mirel().getDisplayMessageManager());
-    EXPECT_EQ(log.find(NO_HOOK), std::string::npos) << log;
+    EXPECT_EQ(log.find("Hook"), std::string::npos) << log;
 }
 
 TEST_F(MirelGuiHookTest, KeysThatSwitchTheHookAreHandedToIt) {

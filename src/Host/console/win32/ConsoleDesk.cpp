@@ -61,10 +61,12 @@ void ConsoleDesk::run() {
     }
 }
 
-void ConsoleDesk::stop() {
+bool ConsoleDesk::stop() {
     removeWindow();
-    if (!endDesk())
+    const bool isWritten = endDesk();
+    if (!isWritten)
         tell(m_line.recordFile + ": can't be written.");
+    return isWritten;
 }
 
 // False if what was played could not be written.
@@ -76,17 +78,22 @@ bool ConsoleDesk::endDesk() {
 }
 
 void ConsoleDesk::closeRequested() {
+    m_isClosing = true;
     PostQuitMessage(0);
 }
 
-// The system ends the program as soon as this returns, and waits for no box.
+// The system may end the program as soon as this returns, and waits for no box. An installer waits for the end.
 void ConsoleDesk::sessionEnds() {
+    m_isClosing = true;
     if (m_gui)
         m_gui->destroy();
     endDesk();
+    PostQuitMessage(0);
 }
 
 void ConsoleDesk::openRequested(const OpenRequest& request) {
+    if (m_isClosing)
+        return;
     if (!request.bank.empty())
         openBank(request.bank);
     for (const std::string& file : request.files)
@@ -150,7 +157,7 @@ void ConsoleDesk::openBank(const std::string& path) {
     if (!Platform::Files::size(path))
         tell(path + ": can't be read.");
     else if (Backend::BankFile::readProgramNames(path).empty())
-        tell(path + ": holds no programs.");  // The bank that there is stays.
+        tell(path + ": holds no programs that can be read.");  // The bank that there is stays.
     else
         manager().postLoadBank(withLowerCaseExtension(path));
 }
@@ -160,7 +167,7 @@ void ConsoleDesk::openProgram(const std::string& wanted) {
         if (!Platform::Files::size(wanted))
             tell(wanted + ": can't be read.");
         else if (Backend::BankFile::readProgramNames(wanted).empty())
-            tell(wanted + ": holds no program.");
+            tell(wanted + ": holds no program that can be read.");
         else
             manager().postLoadProgram(withLowerCaseExtension(wanted));
         return;
@@ -177,7 +184,6 @@ void ConsoleDesk::openProgram(const std::string& wanted) {
 void ConsoleDesk::waitForBank() {
     while (!m_desk.mirel().getMessageManagerMaster().isIdle())
         Platform::sleepAnsweringWindows(1);
-    m_desk.waitUntilIdle();
 }
 
 void ConsoleDesk::removeWindow() {

@@ -31,8 +31,9 @@ public:
     // Runs until the user closes the window, or it is closed otherwise.
     void run();
 
-    // Takes the window away, ends all that sounds and keeps the settings and the recording.
-    void stop();
+    // Takes the window away, ends all that sounds and keeps the settings and the recording. False if the recording
+    // could not be written.
+    bool stop();
 
     HWND getFrameWindow() const { return m_frame->getWindowHandle(); }
     Gui::MirelGuiIF& gui() { return *m_gui; }
@@ -41,6 +42,7 @@ public:
 private:
     void closeRequested() override;
     void sessionEnds() override;
+    bool canOpen() const override { return !m_isClosing; }
     void openRequested(const OpenRequest& request) override;
     void timePassed() override;
 
@@ -61,6 +63,7 @@ private:
     std::unique_ptr<FrameWindow> m_frame;
     std::unique_ptr<Gui::MirelGuiIF> m_gui;
     bool m_isStopped = true;
+    bool m_isClosing = false;
     bool m_hasToldFailure = false;
 };
 

@@ -1,5 +1,7 @@
 #include "Host/console/win32/FrameBorder.h"
 
+#include "Gui/Utils/DrawnText.h"
+
 namespace Host::Console {
 
 FrameBorder::FrameBorder()
@@ -53,10 +55,10 @@ void FrameBorder::drawTitle(HDC dc, const Rect& place, bool isActive, const std:
     SetBkMode(dc, TRANSPARENT);
     RECT rect{place.left, place.top + 1, place.right, place.bottom + 1};
     SetTextColor(dc, isActive ? RGB(226, 230, 236) : RGB(128, 130, 134));
-    DrawTextA(dc, title.c_str(), -1, &rect, FORMAT);
+    Gui::drawText(dc, title, rect, FORMAT);
     OffsetRect(&rect, 0, -1);
     SetTextColor(dc, isActive ? RGB(22, 26, 30) : RGB(52, 54, 58));
-    DrawTextA(dc, title.c_str(), -1, &rect, FORMAT);
+    Gui::drawText(dc, title, rect, FORMAT);
     SelectObject(dc, old);
 }
 

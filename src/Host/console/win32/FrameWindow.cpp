@@ -93,7 +93,10 @@ void FrameWindow::show(int command) {
         place(m_options.dockToBottomEdge ? dockFrame(middle, workArea()) : middle);
     }
     refreshTitle();
-    ShowWindow(m_window, command);
+    // The desk has the size of its screens, whatever a shortcut says.
+    ShowWindow(m_window, command == SW_SHOWMAXIMIZED ? SW_SHOWNORMAL : command);
+    if (IsZoomed(m_window))
+        ShowWindow(m_window, SW_RESTORE);
 }
 
 // What the desk has posted while it was made.
@@ -168,7 +171,9 @@ LRESULT FrameWindow::wndProc(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_DROPFILES: takeDroppedFiles(reinterpret_cast<HDROP>(wParam)); return 0;
         case WM_COPYDATA: {
             OpenRequest request;
-            if (!SingleInstance::read(*reinterpret_cast<const COPYDATASTRUCT*>(lParam), request))
+            // A desk that is closing leaves it to the one that asks, which starts itself then.
+            if (!m_listener.canOpen() ||
+                !SingleInstance::read(*reinterpret_cast<const COPYDATASTRUCT*>(lParam), request))
                 return FALSE;
             // Who sent it waits; a message box that this may open must not keep it.
             ReplyMessage(TRUE);
@@ -224,12 +229,13 @@ void FrameWindow::setDeskSize(int width, int height) {
     place(rect);
 }
 
-// The desk stays where it is on the screen, the border changes around it.
+// The desk stays where it is on the screen, the border changes around it; the lower edge of a docked one stays.
 void FrameWindow::setSkinBorder(bool useSkinBorder) {
     if (useSkinBorder == m_options.useSkinBorder)
         return;
     POINT before{0, 0};
     ClientToScreen(m_window, &before);
+    const std::int32_t bottom = position().bottom;
     m_options.useSkinBorder = useSkinBorder;
     m_look = {GetActiveWindow() == m_window, FramePart::outside, FramePart::outside};
     const DWORD visible = static_cast<DWORD>(GetWindowLongPtrA(m_window, GWL_STYLE)) & (WS_VISIBLE | WS_MINIMIZE);
@@ -242,7 +248,7 @@ void FrameWindow::setSkinBorder(bool useSkinBorder) {
     if (!IsIconic(m_window)) {
         Rect rect = position();
         const std::int32_t dx = before.x - after.x;
-        const std::int32_t dy = before.y - after.y;
+        const std::int32_t dy = m_options.dockToBottomEdge ? bottom - rect.bottom : before.y - after.y;
         place({rect.left + dx, rect.top + dy, rect.right + dx, rect.bottom + dy});
     }
     RedrawWindow(m_window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
@@ -256,8 +262,8 @@ void FrameWindow::setAlwaysOnTop(bool alwaysOnTop) {
 
 // From here on the desk itself keeps the lower edge in its place.
 void FrameWindow::setDock(bool dock) {
-    m_options.dockToBottomEdge = dock;
-    if (dock)
+    const bool wasDocked = std::exchange(m_options.dockToBottomEdge, dock);
+    if (dock && !wasDocked)
         place(dockFrame(position(), workArea()));
 }
 

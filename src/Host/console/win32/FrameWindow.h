@@ -26,9 +26,11 @@ public:
     public:
         virtual void closeRequested() = 0;
 
-        // The user's session ends; there is no other call after this one.
+        // The user's session ends.
         virtual void sessionEnds() = 0;
 
+        // Whether what is asked for can still be opened; false from the first of the two calls above on.
+        virtual bool canOpen() const = 0;
         virtual void openRequested(const OpenRequest& request) = 0;
 
         // Twice a second.

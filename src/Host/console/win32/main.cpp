@@ -1,11 +1,13 @@
 // The desk with a window.
 #include "Backend/core/MirelUtils.h"
 #include "Host/common/MidiSystem.h"
+#include "Host/common/RecordTarget.h"
 #include "Host/console/CommandLine.h"
 #include "Host/console/DeskFileName.h"
 #include "Host/console/FrameTitle.h"
 #include "Host/console/win32/ConsoleDesk.h"
 #include "Host/console/win32/SingleInstance.h"
+#include "Platform/Files.h"
 #include "Platform/Shell.h"
 
 #include <windows.h>
@@ -58,8 +60,11 @@ OpenRequest makeRequest(const CommandLine& line) {
 }
 
 int runDesk(const CommandLine& line, int showCommand) {
-    if (!line.dataFolder.empty())
+    if (!line.dataFolder.empty()) {
+        if (!Platform::Files::createFolders(line.dataFolder))
+            return fail(line.dataFolder + ": is no folder and can't be made one");
         Backend::MirelUtils::useDataFolder(line.dataFolder);
+    }
     SingleInstance instance(Backend::MirelUtils::getMirelAppDataDir());
     switch (instance.enter(makeRequest(line))) {
         case SingleInstance::Result::handedOver:
@@ -68,12 +73,13 @@ int runDesk(const CommandLine& line, int showCommand) {
         case SingleInstance::Result::failed: return fail("a desk runs with these data already, and does not answer");
         case SingleInstance::Result::first: break;
     }
+    if (!line.recordFile.empty() && !Host::canRecordTo(line.recordFile))
+        return fail(line.recordFile + ": can't be written");
     ConsoleDesk desk(Host::createMidiSystem(PORT_NAME), line);
     if (!desk.start(instance, showCommand))
         return fail("this build has no window");
     desk.run();
-    desk.stop();
-    return DONE;
+    return desk.stop() ? DONE : FAILED;
 }
 
 }

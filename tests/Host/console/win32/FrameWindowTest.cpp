@@ -21,6 +21,7 @@ class Listener : public FrameWindow::Listener {
 public:
     void closeRequested() override { ++closes; }
     void sessionEnds() override { ++sessionEndings; }
+    bool canOpen() const override { return opens; }
     void openRequested(const OpenRequest& request) override {
         requests.push_back(request);
         if (isFailing)
@@ -32,6 +33,7 @@ public:
     int sessionEndings = 0;
     int times = 0;
     bool isFailing = false;
+    bool opens = true;
     std::vector<OpenRequest> requests;
 };
 
@@ -206,6 +208,23 @@ TEST_F(FrameWindowTest, DocksAtTheBottomOfTheScreen) {
     EXPECT_EQ(position().top, docked.top - 100);
 }
 
+TEST_F(FrameWindowTest, ADockedDeskThatWasMovedStaysWhenItIsToldAgain) {
+    open();
+    show();
+    tell(Gui::UM_DOCK_CHANGED, TRUE);
+    SetWindowPos(window(), nullptr, 40, 50, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    tell(Gui::UM_DOCK_CHANGED, TRUE);
+    EXPECT_EQ(position().left, 40);
+    EXPECT_EQ(position().top, 50);
+}
+
+TEST_F(FrameWindowTest, IsNotMaximisedByAShortcut) {
+    open();
+    frame->show(SW_SHOWMAXIMIZED);
+    EXPECT_TRUE(IsWindowVisible(window()));
+    EXPECT_FALSE(IsZoomed(window()));
+}
+
 TEST_F(FrameWindowTest, StaysAboveOtherWindowsOnRequest) {
     FrameWindow::Options options;
     options.alwaysOnTop = true;
@@ -236,6 +255,16 @@ TEST_F(FrameWindowTest, ChangesItsBorderAroundTheDesk) {
         EXPECT_EQ(clientSize().cx, 300) << skin;
         EXPECT_EQ(clientSize().cy, 100) << skin;
         EXPECT_TRUE(IsWindowVisible(window()));
+    }
+}
+
+TEST_F(FrameWindowTest, ADockedDeskKeepsItsLowerEdgeUnderEitherBorder) {
+    open();
+    show();
+    tell(Gui::UM_DOCK_CHANGED, TRUE);
+    for (const WPARAM useSkinBorder : {FALSE, TRUE, FALSE}) {
+        tell(Gui::UM_SKIN_BORDER_CHANGED, useSkinBorder);
+        EXPECT_EQ(position().bottom, workArea().bottom) << useSkinBorder;
     }
 }
 
@@ -394,6 +423,26 @@ TEST_F(FrameWindowTest, TakesTheRequestsOfAnotherStart) {
     }
     EXPECT_EQ(result, SingleInstance::Result::handedOver);
     EXPECT_EQ(listener.requests, std::vector<OpenRequest>{request});
+}
+
+TEST_F(FrameWindowTest, AClosingDeskTakesNoRequests) {
+    open();
+    SingleInstance first("closing frame");
+    ASSERT_EQ(first.enter({}), SingleInstance::Result::first);
+    first.announce(window());
+    listener.opens = false;
+    auto result = SingleInstance::Result::handedOver;
+    bool done = false;
+    {
+        const TestSupport::OtherThread other([&] {
+            SingleInstance second("closing frame");
+            result = second.enter({"C:\\b.bnk", "", {}}, std::chrono::milliseconds(100));
+            done = true;
+        });
+        EXPECT_TRUE(pumpUntil([&done] { return done; }));
+    }
+    EXPECT_EQ(result, SingleInstance::Result::failed) << "it would have started when this one is gone";
+    EXPECT_TRUE(listener.requests.empty());
 }
 
 TEST_F(FrameWindowTest, AFailureStaysInsideTheWindow) {

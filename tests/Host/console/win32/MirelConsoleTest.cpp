@@ -253,10 +253,21 @@ TEST_F(MirelConsoleTest, ABankThatIsBrokenLeavesADeskThatCanBeUsed) {
     const Program program(data() + " --bank \"" + folder.file("broken.bnk") + "\" --program 2", output());
     const HWND frame = program.waitForFrame();
     ASSERT_NE(frame, nullptr) << readOutput();
-    EXPECT_EQ(program.answerBox(), folder.file("broken.bnk") + ": holds no programs.");
+    EXPECT_EQ(program.answerBox(), folder.file("broken.bnk") + ": holds no programs that can be read.");
     EXPECT_EQ(program.answerBox(), "The bank has no program \"2\".");
     PostMessageA(frame, WM_CLOSE, 0, 0);
     EXPECT_EQ(program.wait(), 0u);
+}
+
+TEST_F(MirelConsoleTest, APlaceThatCanNotBeWrittenIsToldBeforeTheDeskStarts) {
+    const Program program(data() + " --record \"" + folder.file("none") + "\\take.mid\"", output());
+    EXPECT_EQ(program.wait(), 1u);
+    EXPECT_NE(readOutput().find("take.mid: can't be written"), std::string::npos) << readOutput();
+    ASSERT_TRUE(Platform::Files::replace(folder.file("file"), "text"));
+    const Program other("--data \"" + folder.file("file") + "\"", output());
+    EXPECT_EQ(other.wait(), 1u);
+    EXPECT_NE(readOutput().find("file: is no folder and can't be made one"), std::string::npos) << readOutput();
+    EXPECT_EQ(Platform::Files::read(folder.file("file")).value_or(""), "text");
 }
 
 TEST_F(MirelConsoleTest, AProgramFileWithoutAProgramIsTold) {
@@ -264,7 +275,7 @@ TEST_F(MirelConsoleTest, AProgramFileWithoutAProgramIsTold) {
     const Program program(data() + " --program \"" + folder.file("empty.prg") + "\"", output());
     const HWND frame = program.waitForFrame();
     ASSERT_NE(frame, nullptr) << readOutput();
-    EXPECT_EQ(program.answerBox(), folder.file("empty.prg") + ": holds no program.");
+    EXPECT_EQ(program.answerBox(), folder.file("empty.prg") + ": holds no program that can be read.");
     PostMessageA(frame, WM_CLOSE, 0, 0);
     EXPECT_EQ(program.wait(), 0u);
 }
@@ -296,6 +307,7 @@ TEST_F(MirelConsoleTest, TheEndOfTheSessionKeepsTheRecording) {
     ASSERT_NE(frame, nullptr) << readOutput();
     SendMessageA(frame, WM_ENDSESSION, TRUE, 0);
     EXPECT_TRUE(Platform::Files::read(record).value_or("").starts_with("MThd"));
+    EXPECT_EQ(program.wait(), 0u) << "an installer waits for the end";
 }
 
 TEST_F(MirelConsoleTest, ComesBackWhereItWas) {
