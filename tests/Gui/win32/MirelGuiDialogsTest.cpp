@@ -12,6 +12,7 @@
 namespace Gui {
 namespace {
 
+using TestSupport::endMenuOf;
 using TestSupport::eventually;
 using TestSupport::OtherThread;
 using TestSupport::projectFile;
@@ -280,18 +281,7 @@ TEST_F(MirelGuiHeldKeysTest, EveryMenuEndsThem) {
     for (void (MirelGuiIF::*show)() : {&MirelGuiIF::showProgramMenu, &MirelGuiIF::showDefaultMidiOutputMenu}) {
         bool opened = false;
         EXPECT_EQ(holdDuring([&] {
-                      const OtherThread user([&opened] {
-                          opened = eventually([] { return FindWindowA("#32768", nullptr) != nullptr; });
-                          // The menu is not ready for it yet, perhaps.
-                          eventually([] {
-                              DWORD thread = GetWindowThreadProcessId(FindWindowA("#32768", nullptr), nullptr);
-                              GUITHREADINFO info{};
-                              info.cbSize = sizeof info;
-                              if (thread != 0 && GetGUIThreadInfo(thread, &info) && info.hwndMenuOwner)
-                                  PostMessageA(info.hwndMenuOwner, WM_CANCELMODE, 0, 0);
-                              return FindWindowA("#32768", nullptr) == nullptr;
-                          });
-                      });
+                      const OtherThread user([&opened, thread = GetCurrentThreadId()] { opened = endMenuOf(thread); });
                       (desk.gui().*show)();
                   }),
                   Strings{"up 65 0"});

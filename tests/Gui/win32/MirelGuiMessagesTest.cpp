@@ -275,7 +275,7 @@ TEST_F(MirelGuiMessagesTest, AFullLogDoesNotHoldTheWindowUp) {
     log.postAddText("first\r\n");
     log.postFlush();
     std::atomic<int> posted = 0;
-    std::thread flood([&] {
+    std::jthread flood([&] {
         while (posted < CAPACITY + 1) {
             log.postAddText("flood\r\n");
             ++posted;
@@ -335,26 +335,13 @@ TEST_F(MirelGuiMessagesTest, MenusOpenForProgramsAndOutputs) {
     tellObject(33221, Bank("live.bnk", {"Piano", "Lead"}));
     for (const UINT message : {33259u, 33260u}) {
         bool opened = false;
-        const TestSupport::OtherThread closer([&opened] {
-            const HWND menu = TestSupport::eventually([] { return FindWindowA("#32768", nullptr) != nullptr; })
-                                  ? FindWindowA("#32768", nullptr)
-                                  : nullptr;
-            opened = menu != nullptr;
-            PostMessageA(menu, WM_KEYDOWN, VK_ESCAPE, 0);
-            // Whoever owns it listens to its own keys.
-            TestSupport::eventually([] {
-                INPUT input{};
-                input.type = INPUT_KEYBOARD;
-                input.ki.wVk = VK_ESCAPE;
-                SendInput(1, &input, sizeof input);
-                input.ki.dwFlags = KEYEVENTF_KEYUP;
-                SendInput(1, &input, sizeof input);
-                return FindWindowA("#32768", nullptr) == nullptr;
-            });
-        });
-        SendMessageA(desk.window(), message, 0, 0);
-        EXPECT_TRUE(pumpUntil([] { return FindWindowA("#32768", nullptr) == nullptr; })) << message;
-        EXPECT_TRUE(pumpUntil([&opened] { return opened; })) << message;
+        {
+            const TestSupport::OtherThread user(
+                [&opened, thread = GetCurrentThreadId()] { opened = TestSupport::endMenuOf(thread); });
+            SendMessageA(desk.window(), message, 0, 0);
+        }
+        EXPECT_TRUE(opened) << message;
+        TestSupport::pump();
     }
 }
 

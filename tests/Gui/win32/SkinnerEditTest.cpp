@@ -256,7 +256,7 @@ protected:
                 ++opened;
                 shown = look(reinterpret_cast<HMENU>(message.wParam));
             } else if (message.id == WM_ENTERIDLE) {
-                const HWND window = FindWindowA("#32768", nullptr);
+                const HWND window = reinterpret_cast<HWND>(message.lParam);
                 RECT place{};
                 GetWindowRect(window, &place);
                 shown.corner = {place.left, place.top};

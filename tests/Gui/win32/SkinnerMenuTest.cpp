@@ -64,7 +64,7 @@ protected:
         dialog.onMessage = [&](const SkinnedDialog::Message& message) {
             if (message.id != WM_ENTERIDLE || shown.windows++ > 0)
                 return;
-            const HWND window = FindWindowA("#32768", nullptr);
+            const HWND window = reinterpret_cast<HWND>(message.lParam);
             shown.hooked = getFlag(window, MENU_PROCEDURE);
             UpdateWindow(window);
             SendMessageA(window, WM_NCPAINT, 1, 0);

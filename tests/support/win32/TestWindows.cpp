@@ -175,6 +175,19 @@ void keyForMenu(HWND owner, WPARAM key) {
     PostMessageA(owner, WM_KEYDOWN, key, 1);
 }
 
+bool endMenuOf(DWORD thread) {
+    const auto owner = [thread] {
+        GUITHREADINFO info{};
+        info.cbSize = sizeof info;
+        return GetGUIThreadInfo(thread, &info) ? info.hwndMenuOwner : nullptr;
+    };
+    // The menu may not be ready for it at once.
+    return eventually([&] { return owner() != nullptr; }) && eventually([&] {
+               PostMessageA(owner(), WM_CANCELMODE, 0, 0);
+               return owner() == nullptr;
+           });
+}
+
 OtherThread::OtherThread(std::function<void()> work) : m_work(std::move(work)) {
     m_thread = CreateThread(
         nullptr, 0,

@@ -99,6 +99,10 @@ void releaseButtons();  // Whichever are down.
 // Queues a press of a key for a menu that is going to open on this window.
 void keyForMenu(HWND owner, WPARAM key);
 
+// [any other] Waits for a menu that a thread shows, and ends it; whether there was one. What it posts may come late:
+// the thread pumps before it shows another.
+bool endMenuOf(DWORD thread);
+
 // Does something on another thread, which may see a dialog of this one, and ends it with this object.
 class OtherThread {
 public:

@@ -8,6 +8,7 @@
 
 #include <shlobj.h>
 
+#include <atomic>
 #include <stdexcept>
 
 namespace Host::Console {
@@ -411,7 +412,7 @@ TEST_F(FrameWindowTest, TakesTheRequestsOfAnotherStart) {
     first.announce(window());
     const OpenRequest request{"C:\\b.bnk", "Lead", {"C:\\x.prg"}};
     auto result = SingleInstance::Result::failed;
-    bool done = false;
+    std::atomic<bool> done = false;
     {
         // Locks know threads, so another one can stand for another process.
         const TestSupport::OtherThread other([&] {
@@ -419,7 +420,7 @@ TEST_F(FrameWindowTest, TakesTheRequestsOfAnotherStart) {
             result = second.enter(request);
             done = true;
         });
-        EXPECT_TRUE(pumpUntil([&done] { return done; }));
+        EXPECT_TRUE(pumpUntil([&done] { return done.load(); }));
     }
     EXPECT_EQ(result, SingleInstance::Result::handedOver);
     EXPECT_EQ(listener.requests, std::vector<OpenRequest>{request});
@@ -432,14 +433,14 @@ TEST_F(FrameWindowTest, AClosingDeskTakesNoRequests) {
     first.announce(window());
     listener.opens = false;
     auto result = SingleInstance::Result::handedOver;
-    bool done = false;
+    std::atomic<bool> done = false;
     {
         const TestSupport::OtherThread other([&] {
             SingleInstance second("closing frame");
             result = second.enter({"C:\\b.bnk", "", {}}, std::chrono::milliseconds(100));
             done = true;
         });
-        EXPECT_TRUE(pumpUntil([&done] { return done; }));
+        EXPECT_TRUE(pumpUntil([&done] { return done.load(); }));
     }
     EXPECT_EQ(result, SingleInstance::Result::failed) << "it would have started when this one is gone";
     EXPECT_TRUE(listener.requests.empty());
@@ -451,14 +452,14 @@ TEST_F(FrameWindowTest, AFailureStaysInsideTheWindow) {
     ASSERT_EQ(first.enter({}), SingleInstance::Result::first);
     first.announce(window());
     listener.isFailing = true;
-    bool done = false;
+    std::atomic<bool> done = false;
     {
         const TestSupport::OtherThread other([&done] {
             SingleInstance second("failing frame");
             second.enter({"C:\\b.bnk", "", {}});
             done = true;
         });
-        EXPECT_TRUE(pumpUntil([&done] { return done; }));
+        EXPECT_TRUE(pumpUntil([&done] { return done.load(); }));
     }
     EXPECT_EQ(listener.requests.size(), 1u);
     listener.isFailing = false;

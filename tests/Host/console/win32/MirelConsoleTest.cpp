@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+
 namespace Host::Console {
 namespace {
 
@@ -238,7 +240,7 @@ TEST_F(MirelConsoleTest, ItsBoxesDisableNoOtherProgram) {
     const TestSupport::TestWindow worker;
     SetForegroundWindow(worker.handle());
     const Program program(data() + " --bank \"" + folder.file("missing.bnk") + "\"", output(), SW_SHOWMINNOACTIVE);
-    HWND box = nullptr;
+    std::atomic<HWND> box = nullptr;
     const TestSupport::OtherThread user([&program, &box] {
         box = program.waitForBox();
         EXPECT_EQ(GetWindow(box, GW_OWNER), nullptr);
@@ -280,26 +282,6 @@ TEST_F(MirelConsoleTest, AProgramFileWithoutAProgramIsTold) {
     EXPECT_EQ(program.wait(), 0u);
 }
 
-TEST_F(MirelConsoleTest, ComesBackWhereItWasWhenItIsClosedMinimised) {
-    {
-        const Program program(data(), output());
-        const HWND frame = program.waitForFrame();
-        ASSERT_NE(frame, nullptr) << readOutput();
-        SetWindowPos(frame, nullptr, 33, 44, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-        ShowWindow(frame, SW_MINIMIZE);
-        EXPECT_TRUE(eventually([frame] { return IsIconic(frame) != FALSE; }));
-        PostMessageA(frame, WM_CLOSE, 0, 0);
-        EXPECT_EQ(program.wait(), 0u);
-    }
-    const Program program(data(), output());
-    const HWND frame = program.waitForFrame();
-    ASSERT_NE(frame, nullptr) << readOutput();
-    RECT rect;
-    GetWindowRect(frame, &rect);
-    EXPECT_EQ(rect.left, 33);
-    EXPECT_EQ(rect.top, 44);
-}
-
 TEST_F(MirelConsoleTest, TheEndOfTheSessionKeepsTheRecording) {
     const std::string record = folder.file("played.mid");
     const Program program(data() + " --record \"" + record + "\"", output());
@@ -311,24 +293,27 @@ TEST_F(MirelConsoleTest, TheEndOfTheSessionKeepsTheRecording) {
 }
 
 TEST_F(MirelConsoleTest, ComesBackWhereItWas) {
-    const auto corner = [](HWND frame) {
-        RECT rect;
-        GetWindowRect(frame, &rect);
-        return POINT{rect.left, rect.top};
-    };
-    {
-        const Program program(data(), output());
+    for (const bool isMinimised : {false, true}) {
+        const std::string arguments = "--data \"" + folder.file(isMinimised ? "minimised" : "shown") + "\"";
+        {
+            const Program program(arguments, output());
+            const HWND frame = program.waitForFrame();
+            ASSERT_NE(frame, nullptr) << readOutput();
+            SetWindowPos(frame, nullptr, 33, 44, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+            if (isMinimised)
+                ShowWindow(frame, SW_MINIMIZE);
+            EXPECT_TRUE(eventually([&] { return (IsIconic(frame) != FALSE) == isMinimised; }));
+            PostMessageA(frame, WM_CLOSE, 0, 0);
+            EXPECT_EQ(program.wait(), 0u);
+        }
+        const Program program(arguments, output());
         const HWND frame = program.waitForFrame();
         ASSERT_NE(frame, nullptr) << readOutput();
-        SetWindowPos(frame, nullptr, 33, 44, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-        PostMessageA(frame, WM_CLOSE, 0, 0);
-        EXPECT_EQ(program.wait(), 0u);
+        RECT rect;
+        GetWindowRect(frame, &rect);
+        EXPECT_EQ(rect.left, 33) << isMinimised;
+        EXPECT_EQ(rect.top, 44) << isMinimised;
     }
-    const Program program(data(), output());
-    const HWND frame = program.waitForFrame();
-    ASSERT_NE(frame, nullptr) << readOutput();
-    EXPECT_EQ(corner(frame).x, 33);
-    EXPECT_EQ(corner(frame).y, 44);
 }
 
 TEST_F(MirelConsoleTest, WritesWhatWasPlayed) {
