@@ -1,6 +1,7 @@
 #include "Backend/core/MirelUtils.h"
 
 #include "Backend/core/MidiPortInstallation.h"
+#include "Backend/core/Product.h"
 #include "Backend/core/Text.h"
 #include "Platform/Files.h"
 #include "Platform/Folders.h"
@@ -17,8 +18,6 @@ namespace {
 
 constexpr const char* COMPANY = "Tamsel Software";
 constexpr const char* PRODUCT = "Mirel Console 3";
-constexpr const char* PRODUCT_LITE = "Mirel Console 3 LE";
-constexpr const char* SETTINGS_VERSION = "3.2";
 constexpr const char* SETTINGS_FILE = "settings";
 
 constexpr std::size_t LONGEST_FOLDER = 1000;  // With the zero that ends it, as all texts of the settings.
@@ -56,7 +55,7 @@ std::unique_ptr<Platform::SettingsStore> MirelUtils::createSettingsStore() {
 }
 
 std::string MirelUtils::getRegistryKey(const std::string& productName) {
-    return std::string("Software\\") + COMPANY + "\\" + productName + "\\" + SETTINGS_VERSION;
+    return std::string("Software\\") + COMPANY + "\\" + productName + "\\" + MIREL_VERSION;
 }
 
 std::string MirelUtils::getMainRegistryKey() {
@@ -64,7 +63,7 @@ std::string MirelUtils::getMainRegistryKey() {
 }
 
 std::string MirelUtils::getMainRegistryKeyLite() {
-    return getRegistryKey(PRODUCT_LITE);
+    return getRegistryKey(MIREL_PRODUCT);
 }
 
 std::string MirelUtils::getCompanyAppDataDir() {
@@ -76,7 +75,7 @@ std::string MirelUtils::getMirelAppDataDir() {
     if (!chosenDataFolder().empty())
         return chosenDataFolder();
     const std::string folder = getCompanyAppDataDir();
-    return folder.empty() ? folder : Files::join(folder, PRODUCT_LITE);
+    return folder.empty() ? folder : Files::join(folder, MIREL_PRODUCT);
 }
 
 std::string MirelUtils::getMirelProgDir() {

@@ -4,6 +4,7 @@
 #include "Backend/core/BankFile.h"
 #include "Backend/core/MirelMessageManager.h"
 #include "Backend/core/MirelUtils.h"
+#include "Backend/core/Product.h"
 #include "Backend/core/Program.h"
 #include "Backend/core/RegistrySettings.h"
 #include "Backend/functions/SelectType.h"
@@ -17,6 +18,7 @@
 #include "Host/common/MidiFileReader.h"
 #include "Host/common/PortDesk.h"
 #include "Host/common/RecordTarget.h"
+#include "Host/common/StartChoices.h"
 #include "Platform/Files.h"
 #include "Platform/StopRequest.h"
 
@@ -31,9 +33,7 @@ using std::chrono::milliseconds;
 
 namespace {
 
-constexpr const char* PRODUCT = "Mirel Console 3 LE";
 constexpr const char* PORT_NAME = "Mirel";
-constexpr const char* RESCUED_TAKE = "Rescued recording.mid";  // For one that its own place does not take.
 
 constexpr const char* USAGE =
     "usage: mirel run [--in NAME]... [--out NAME]... [--bank FILE] [--program NAME] [--clock internal|NAME] [--keys]\n"
@@ -89,10 +89,6 @@ std::vector<int> findPorts(const std::vector<PortRow>& rows, const std::vector<s
     return indices;
 }
 
-bool isRecorder(const PortRow& row) {
-    return row.id == MidiPortId{Recorder::NAME, PortList::BUILT_IN};
-}
-
 bool contains(const std::vector<int>& indices, std::size_t index) {
     return std::find(indices.begin(), indices.end(), static_cast<int>(index)) != indices.end();
 }
@@ -101,9 +97,11 @@ class RunningDesk {
 public:
     explicit RunningDesk(const RunOptions& options)
         : m_options(options),
-          m_desk(createMidiSystem(PORT_NAME),
-                 {PRODUCT, MirelUtils::getMirelAppDataDir(), options.virtualPorts ? PORT_NAME : "", false,
-                  !options.recordFile.empty()}) {
+          m_desk(createMidiSystem(PORT_NAME), {.product = MIREL_PRODUCT,
+                                               .dataFolder = MirelUtils::getMirelAppDataDir(),
+                                               .virtualPort = options.virtualPorts ? PORT_NAME : "",
+                                               .keepsSwitches = false,
+                                               .recordsAll = !options.recordFile.empty()}) {
         if (!options.recordFile.empty() && !canRecordTo(options.recordFile))
             throw RunError(options.recordFile + ": can't be written");
     }
@@ -162,14 +160,13 @@ public:
             std::fprintf(stderr, "mirel run: a port hung and was left behind\n");
         if (m_options.recordFile.empty())
             return;
-        std::string file = m_options.recordFile;
-        if (!m_desk.ports().recorder().write(file)) {
-            std::fprintf(stderr, "mirel run: %s: can't be written\n", file.c_str());
-            file = Platform::Files::join(MirelUtils::getMirelAppDataDir(), RESCUED_TAKE);
-            if (!m_desk.ports().recorder().write(file))
-                throw RunError(file + ": can't be written either");
-        }
-        std::printf("recorded %zu events to %s\n", m_desk.ports().recorder().size(), file.c_str());
+        const Recorder& recorder = m_desk.ports().recorder();
+        const auto file = keepRecording(recorder, m_options.recordFile);
+        if (file != m_options.recordFile)
+            std::fprintf(stderr, "mirel run: %s: can't be written\n", m_options.recordFile.c_str());
+        if (!file)
+            throw RunError("the recording is lost");
+        std::printf("recorded %zu events to %s\n", recorder.size(), file->c_str());
         if (file != m_options.recordFile)
             throw RunError("the recording lies in another place than it should");
     }
@@ -186,27 +183,13 @@ private:
         }
         const auto outputs = m_desk.ports().outputs();
         const auto wanted = findPorts(outputs, m_options.outputs, "output");
-        for (std::size_t i = 0; i < outputs.size(); ++i) {
-            const bool isRecording = isRecorder(outputs[i]) && !m_options.recordFile.empty();
-            if (isRecording || !wanted.empty())
-                manager().postEnableMidiOutput(static_cast<int>(i), isRecording || contains(wanted, i));
-        }
+        if (!wanted.empty())
+            for (std::size_t i = 0; i < outputs.size(); ++i)
+                manager().postEnableMidiOutput(static_cast<int>(i), contains(wanted, i));
         m_desk.waitUntilIdle();
-        if (const int output = wanted.empty() ? findBetterOutput(outputs) : wanted.front(); output >= 0)
-            manager().postChangeDefaultMidiOutput(SelectType(SelectType::specific, output));
-    }
-
-    // An output that can be heard, if the present default one can't; -1 for none.
-    int findBetterOutput(const std::vector<PortRow>& outputs) {
-        const auto isHeard = [](const PortRow& row) {
-            return row.available && row.settings.enabled && row.id.copy != PortList::BUILT_IN;
-        };
         const int present = m_desk.mirel().getRegistrySettings().getDefaultMidiOutput();
-        if (present >= 0 && static_cast<std::size_t>(present) < outputs.size() &&
-            isHeard(outputs[static_cast<std::size_t>(present)]))
-            return -1;
-        const auto better = std::find_if(outputs.begin(), outputs.end(), isHeard);
-        return better == outputs.end() ? -1 : static_cast<int>(better - outputs.begin());
+        if (const int output = wanted.empty() ? findBetterOutput(outputs, present) : wanted.front(); output >= 0)
+            manager().postChangeDefaultMidiOutput(SelectType(SelectType::specific, output));
     }
 
     void loadPrograms() {
@@ -232,13 +215,10 @@ private:
             manager().postLoadProgram(wanted);
             return;
         }
-        const auto& names = m_desk.mirel().getCurrentBank().getProgramNames();
-        auto index = std::find(names.begin(), names.end(), wanted) - names.begin();
-        if (const auto number = parseNumber(wanted); number && static_cast<std::size_t>(index) == names.size())
-            index = *number - 1;
-        if (index < 0 || static_cast<std::size_t>(index) >= names.size())
+        const int index = findProgram(m_desk.mirel().getCurrentBank().getProgramNames(), wanted);
+        if (index < 0)
             throw RunError("the bank has no program \"" + wanted + "\"");
-        manager().postChangeProgram(SelectType(SelectType::specific, static_cast<std::int32_t>(index)));
+        manager().postChangeProgram(SelectType(SelectType::specific, index));
     }
 
     void chooseClock() {

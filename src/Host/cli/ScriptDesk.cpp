@@ -2,6 +2,7 @@
 
 #include "Backend/core/DisplayListener.h"
 #include "Backend/core/MessagePayload.h"
+#include "Backend/core/Product.h"
 #include "Backend/midi/ZoneMap.h"
 
 #include <algorithm>
@@ -19,7 +20,6 @@ using MidiEngine::MirelMidiMessage;
 
 namespace {
 
-constexpr const char* PRODUCT = "Mirel Console 3 LE";
 constexpr int PORTS_AT_START = 2;
 
 class LogText : public Display::DisplayListener {
@@ -83,7 +83,7 @@ ScriptDesk::~ScriptDesk() {
 }
 
 std::unique_ptr<ObservedMirel> ScriptDesk::createMirel() {
-    return std::make_unique<ObservedMirel>(PRODUCT, m_player, [this](const MirelMidiMessage& message) {
+    return std::make_unique<ObservedMirel>(MIREL_PRODUCT, m_player, [this](const MirelMidiMessage& message) {
         m_player.tellUpdate(message);
         if (m_isStarted)
             m_updates.push_back(message);

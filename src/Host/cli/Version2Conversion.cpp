@@ -2,6 +2,7 @@
 
 #include "Backend/core/Mirel.h"
 #include "Backend/core/MirelUtils.h"
+#include "Backend/core/Product.h"
 #include "Backend/core/Text.h"
 #include "Backend/core/Version2Import.h"
 #include "Backend/core/XmlDocument.h"
@@ -23,7 +24,6 @@ namespace Files = Platform::Files;
 
 namespace {
 
-constexpr const char* PRODUCT = "Mirel Console 3 LE";
 constexpr const char* NOTHING = "holds nothing of version 2";
 constexpr const char* PRESET_NAME = "preset";
 constexpr char PROGRAM = 'P';
@@ -75,7 +75,7 @@ public:
         MirelUtils::useDataFolder(m_folder.getPath());
         writeBasePreset(dataFolder);
         writeSequencePresets();
-        m_mirel = std::make_unique<Mirel>(PRODUCT, m_player);
+        m_mirel = std::make_unique<Mirel>(MIREL_PRODUCT, m_player);
     }
 
     ~ImportDesk() {

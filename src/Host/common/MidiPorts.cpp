@@ -49,8 +49,8 @@ std::vector<Port> portsOf(const std::vector<PortRow>& rows) {
 
 // Opens or closes the line as the row wants it. One that failed is tried again.
 template <class MakeOpener>
-void apply(const PortRow& row, PortLine& line, MidiPortId& opened, MakeOpener makeOpener) {
-    if (!row.settings.enabled || !row.available) {
+void apply(const PortRow& row, bool isEnabled, PortLine& line, MidiPortId& opened, MakeOpener makeOpener) {
+    if (!isEnabled || !row.available) {
         if (line.isWanted())
             line.close();
     } else if (!line.isWanted() || line.hasFailed() || opened != row.id) {
@@ -79,7 +79,7 @@ MidiPorts::MidiPorts(std::shared_ptr<MidiSystem> system, Options options, InputT
       m_savedInputs(m_inputList.toText()),
       m_savedOutputs(m_outputList.toText()) {
     // So that events have somewhere to go before the first look at the system, which may take its time.
-    m_outputList.update({{Recorder::NAME, PortList::BUILT_IN}});
+    m_outputList.update({recorderId()});
     applyAll();
 }
 
@@ -93,7 +93,7 @@ MidiPortIds MidiPorts::present() {
         ids.inputs.push_back({m_options.virtualPort, PortList::BUILT_IN});
         ids.outputs.push_back({m_options.virtualPort, PortList::BUILT_IN});
     }
-    ids.outputs.push_back({Recorder::NAME, PortList::BUILT_IN});
+    ids.outputs.push_back(recorderId());
     return ids;
 }
 
@@ -133,7 +133,7 @@ void MidiPorts::applyInput(std::size_t index) {
     Input& input = m_inputs[index];
     const PortRow& row = m_inputList.rows()[index];
     input.translator->setSettings(row.settings);
-    apply(row, *input.line, input.opened, [&] { return inputOpener(row.id, input.translator); });
+    apply(row, row.settings.enabled, *input.line, input.opened, [&] { return inputOpener(row.id, input.translator); });
 }
 
 void MidiPorts::applyOutput(std::size_t index) {
@@ -144,7 +144,8 @@ void MidiPorts::applyOutput(std::size_t index) {
     }
     Output& output = m_outputs[index];
     const PortRow& row = m_outputList.rows()[index];
-    apply(row, *output.line, output.opened, [&] { return outputOpener(row.id); });
+    const bool isEnabled = row.settings.enabled || (m_options.isRecording && row.id == recorderId());
+    apply(row, isEnabled, *output.line, output.opened, [&] { return outputOpener(row.id); });
 }
 
 PortLine::Opener MidiPorts::inputOpener(const MidiPortId& id, std::shared_ptr<InputTranslator> translator) const {
@@ -161,7 +162,7 @@ PortLine::Opener MidiPorts::inputOpener(const MidiPortId& id, std::shared_ptr<In
 }
 
 PortLine::Opener MidiPorts::outputOpener(const MidiPortId& id) const {
-    if (id == MidiPortId{Recorder::NAME, PortList::BUILT_IN})
+    if (id == recorderId())
         return [recorder = m_recorder] { return openRecorder(recorder); };
     return [system = m_system, id] {
         return id.copy == PortList::BUILT_IN ? system->openVirtualOutput(id.name) : system->openOutput(id);

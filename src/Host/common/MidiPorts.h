@@ -31,6 +31,7 @@ public:
         std::string
             virtualPort;  // The name of an input and of an output for other programs to connect to; empty: none.
         bool keepsSwitches = true;  // Which ports were switched on and off is known in the next run too.
+        bool isRecording = false;   // The recorder takes what is played to it however it is switched.
     };
 
     static constexpr std::chrono::milliseconds OPEN_LIMIT{1000};
@@ -79,6 +80,9 @@ public:
     ClockInput& clockInput() { return *m_clock; }
 
     Recorder& recorder() { return *m_recorder; }
+
+    // [any] The recorder among the outputs.
+    static MidiPortId recorderId() { return {Recorder::NAME, PortList::BUILT_IN}; }
 
     // [any] Whether all lines have done what they were asked for, as to open their ports.
     bool isIdle() const;

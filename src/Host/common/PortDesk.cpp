@@ -15,14 +15,13 @@ using Backend::MidiEngine::MirelMidiMessage;
 
 PortDesk::PortDesk(std::shared_ptr<MidiSystem> system, const Options& options)
     : m_recordsAll(options.recordsAll),
-      m_ports(std::move(system), {options.dataFolder, options.virtualPort, options.keepsSwitches},
-              [this](const MirelMidiMessage& event) { receiveInputEvent(*m_mirel, event); }),
+      m_ports(std::make_shared<MidiPorts>(
+          std::move(system),
+          MidiPorts::Options{options.dataFolder, options.virtualPort, options.keepsSwitches, options.recordsAll},
+          [this](const MirelMidiMessage& event) { receiveInputEvent(*m_mirel, event); })),
       m_player(*this),
       m_mirel(Backend::MirelFactory::createMirel(options.product, m_player, false)) {
-    m_ports.setListener([this] {
-        if (m_isRunning)
-            postPorts();
-    });
+    m_ports->setListener([watch = m_watch] { ++watch->changes; });
 }
 
 PortDesk::~PortDesk() {
@@ -31,31 +30,40 @@ PortDesk::~PortDesk() {
 
 void PortDesk::start() {
     auto& manager = m_mirel->getMessageManager();
-    m_watcher = std::make_unique<PortWatcher>([this] { watchPorts(); });
+    // A look that hangs may come back when the desk is gone: it finds the watch and the ports alone.
+    m_watcher = std::make_unique<PortWatcher>([this, watch = m_watch, ports = m_ports] {
+        if (watch->isRunning)
+            tellChanges();
+        ports->update();
+        if (watch->isRunning)
+            tellChanges();
+    });
     m_mirel->start();
     manager.sendInitialize();
-    m_ports.update();
+    m_ports->update();
     m_recorder = findRecorder();
-    manager.sendSetMidiInputPorts(m_ports.inputPorts());
-    manager.sendSetMidiOutputPorts(m_ports.outputPorts());
-    m_ports.waitUntilIdle();  // What is played to a port that is not open yet is lost.
+    m_watch->told = m_watch->changes.load();
+    manager.sendSetMidiInputPorts(m_ports->inputPorts());
+    manager.sendSetMidiOutputPorts(m_ports->outputPorts());
+    m_ports->waitUntilIdle();  // What is played to a port that is not open yet is lost.
     logFailures();
     startPlayer();
     manager.sendEndInitialize();
-    m_isRunning = true;
+    m_watch->isRunning = true;
+    m_watcher->wake();  // For what has changed meanwhile.
 }
 
 bool PortDesk::stop() {
-    if (!m_isRunning.exchange(false))
+    if (!m_watch->isRunning.exchange(false))
         return true;
     const bool watchEnded = m_watcher->stop();
     // A desk that has ended takes no events, so who brought one would wait for ever.
-    m_ports.stopListening();
+    m_ports->stopListening();
     // The player and the outputs go on until the desk has ended: it may need a slice, and it ends what sounds.
     m_mirel->getMessageManager().sendEnd();
     m_mirel->stop();
     m_player.stop();
-    const bool portsClosed = m_ports.close();
+    const bool portsClosed = m_ports->close();
     return watchEnded && portsClosed;
 }
 
@@ -67,7 +75,7 @@ bool PortDesk::pause() {
     if (!m_player.hasEnded())
         m_mirel->getMidiEngineMessageManager().sendReset();
     m_player.stop();  // It also ends what sounds at the ports alone.
-    return m_ports.waitUntilIdle();
+    return m_ports->waitUntilIdle();
 }
 
 void PortDesk::resume() {
@@ -80,46 +88,41 @@ void PortDesk::waitUntilIdle() {
     for (;;) {
         m_mirel->getMessageManagerMaster().waitUntilIdle();
         m_mirel->getMidiEngineMessageManager().waitUntilIdle();
-        if (m_toldSwitches == m_switches || std::chrono::steady_clock::now() > deadline)
+        if (m_watch->told == m_watch->changes || std::chrono::steady_clock::now() > deadline)
             break;
         Platform::sleepMilliseconds(1);
     }
     m_mirel->getMessageManagerMaster().waitUntilIdle();
 }
 
-void PortDesk::watchPorts() {
-    const int switches = m_switches;
-    if (m_isRunning && m_toldSwitches != switches) {
-        postPorts();
-        m_toldSwitches = switches;
+void PortDesk::tellChanges() {
+    const int changes = m_watch->changes;
+    if (m_watch->told != changes) {
+        m_mirel->getMessageManager().postSetMidiInputPorts(m_ports->inputPorts());
+        m_mirel->getMessageManager().postSetMidiOutputPorts(m_ports->outputPorts());
+        m_watch->told = changes;
     }
     logFailures();
-    m_ports.update();
 }
 
 void PortDesk::logFailures() {
-    for (const std::string& port : m_ports.takeFailures())
+    for (const std::string& port : m_ports->takeFailures())
         m_mirel->displayString(port + " does not work. It will be tried again.\r\n");
 }
 
 // On the engine's thread, which must not wait for the backend: the backend may be waiting for the engine, or have
 // ended.
 void PortDesk::noteSwitch() {
-    ++m_switches;
+    ++m_watch->changes;
     m_watcher->wake();
 }
 
 char PortDesk::findRecorder() const {
-    const auto outputs = m_ports.outputs();
+    const auto outputs = m_ports->outputs();
     for (std::size_t i = 0; i < outputs.size(); ++i)
-        if (outputs[i].id == MidiPortId{Recorder::NAME, PortList::BUILT_IN})
+        if (outputs[i].id == MidiPorts::recorderId())
             return static_cast<char>(i);
     return MirelMidiMessage::DEFAULT_OUTPUT;
-}
-
-void PortDesk::postPorts() {
-    m_mirel->getMessageManager().postSetMidiInputPorts(m_ports.inputPorts());
-    m_mirel->getMessageManager().postSetMidiOutputPorts(m_ports.outputPorts());
 }
 
 void PortDesk::Player::playMidi(const MirelMidiMessage& message) {

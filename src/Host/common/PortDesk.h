@@ -42,10 +42,10 @@ public:
     void resume();
 
     Backend::MirelIF& mirel() { return *m_mirel; }
-    MidiPorts& ports() { return m_ports; }
+    MidiPorts& ports() { return *m_ports; }
 
     // [any] Whether the player's thread has ended by itself, as it does when something fails in a slice.
-    bool hasFailed() const { return m_isRunning && m_player.hasEnded(); }
+    bool hasFailed() const { return m_watch->isRunning && m_player.hasEnded(); }
 
     // [main] Waits until the desk has done what was posted to it.
     void waitUntilIdle();
@@ -54,7 +54,7 @@ private:
     // The desk's host: real ports, of which the desk hears anew when it switches one on or off.
     class Player : public PortPlayer {
     public:
-        explicit Player(PortDesk& desk) : PortPlayer(desk.m_ports), m_desk(desk) {}
+        explicit Player(PortDesk& desk) : PortPlayer(*desk.m_ports), m_desk(desk) {}
 
         void playMidi(const Backend::MidiEngine::MirelMidiMessage& message) override;
         void enableMidiInput(int port, bool enable) override;
@@ -64,30 +64,34 @@ private:
         PortDesk& m_desk;
     };
 
+    // What of the watch outlives the desk if a look at the ports hangs.
+    struct Watch {
+        std::atomic<bool> isRunning{false};
+        std::atomic<int> changes{0};  // Of the lists of ports: by the desk, which switches them, and by the system.
+        std::atomic<int> told{0};     // Of those, that the desk has been told of.
+    };
+
     // The index of the recorder among the outputs.
     char findRecorder() const;
-    void postPorts();
 
     void startPlayer();
 
     // [any] Says in the log which ports don't work.
     void logFailures();
 
-    // [watcher] Tells the desk of ports that were switched, and looks for ports that came or went.
-    void watchPorts();
+    // [watcher] Tells the desk of what has changed.
+    void tellChanges();
 
     // [engine] A port was switched on or off, of which the desk hears soon.
     void noteSwitch();
 
     const bool m_recordsAll;
-    MidiPorts m_ports;
+    const std::shared_ptr<Watch> m_watch = std::make_shared<Watch>();
+    const std::shared_ptr<MidiPorts> m_ports;
     Player m_player;
     char m_recorder = -1;
     std::unique_ptr<Backend::MirelIF> m_mirel;
     std::unique_ptr<PortWatcher> m_watcher;
-    std::atomic<bool> m_isRunning{false};
-    std::atomic<int> m_switches{0};      // Of ports, by the desk.
-    std::atomic<int> m_toldSwitches{0};  // Of those, that it has been told of.
 };
 
 }

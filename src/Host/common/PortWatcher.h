@@ -15,8 +15,8 @@ public:
     static constexpr std::chrono::milliseconds INTERVAL{1000};
     static constexpr std::chrono::milliseconds STOP_LIMIT{1000};
 
-    // Calls look() an interval after the last time, for the first time one interval from now. It owns all that it
-    // touches.
+    // Calls look() an interval after the last time, for the first time one interval from now. A look that may
+    // hang owns all that it touches afterwards.
     explicit PortWatcher(std::function<void()> look, std::chrono::milliseconds interval = INTERVAL);
 
     // As stop.

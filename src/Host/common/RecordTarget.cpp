@@ -1,5 +1,7 @@
 #include "Host/common/RecordTarget.h"
 
+#include "Backend/core/MirelUtils.h"
+#include "Host/common/Recorder.h"
 #include "Platform/Files.h"
 
 namespace Host {
@@ -11,6 +13,13 @@ bool canRecordTo(const std::string& path) {
     if (isNew)
         Platform::Files::remove(path);
     return true;
+}
+
+std::optional<std::string> keepRecording(const Recorder& recorder, const std::string& path) {
+    if (recorder.write(path))
+        return path;
+    const std::string other = Platform::Files::join(Backend::MirelUtils::getMirelAppDataDir(), "Rescued recording.mid");
+    return recorder.write(other) ? std::optional(other) : std::nullopt;
 }
 
 }

@@ -1,5 +1,7 @@
 #include "Host/console/FrameTitle.h"
 
+#include "Backend/core/Product.h"
+
 namespace Host::Console {
 
 std::string makeFrameTitle(const std::string& bank, const std::string& program, int programIndex, bool globalKeyboard) {
@@ -9,7 +11,7 @@ std::string makeFrameTitle(const std::string& bank, const std::string& program, 
         title += std::to_string(programIndex + 1) + SEPARATOR + program + SEPARATOR;
     if (!bank.empty())
         title += bank + SEPARATOR;
-    title += PRODUCT;
+    title += MIREL_PRODUCT;
     if (globalKeyboard)
         title += " (global keyboard)";
     return title;

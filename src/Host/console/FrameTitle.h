@@ -4,9 +4,6 @@
 
 namespace Host::Console {
 
-constexpr const char* PRODUCT = "Mirel Console 3 LE";
-constexpr const char* VERSION = "3.2";
-
 // [any] The title of the window: the program with its number from 1, the bank, and the product. What has no name is
 // left out. A desk that takes all keys of the computer says so.
 std::string makeFrameTitle(const std::string& bank, const std::string& program, int programIndex, bool globalKeyboard);

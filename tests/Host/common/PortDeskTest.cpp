@@ -1,6 +1,8 @@
 #include "Host/common/PortDesk.h"
 
+#include "Backend/core/MirelMessageManager.h"
 #include "Backend/core/MirelUtils.h"
+#include "Backend/functions/SelectType.h"
 #include "tests/support/Eventually.h"
 #include "tests/support/FakeMidiSystem.h"
 #include "tests/support/LogText.h"
@@ -8,12 +10,16 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <string>
+#include <thread>
 
 namespace Host {
 namespace {
 
+using Backend::MidiEngine::MidiMessage;
+using Backend::MidiEngine::MirelMidiMessage;
 using TestSupport::eventually;
 using TestSupport::FakeMidiSystem;
 using TestSupport::readLog;
@@ -23,8 +29,28 @@ public:
     PortDeskTest() { Backend::MirelUtils::useDataFolder(m_folder.path()); }
     ~PortDeskTest() override { Backend::MirelUtils::useDataFolder(""); }
 
-    std::unique_ptr<PortDesk> make() {
-        return std::make_unique<PortDesk>(system, PortDesk::Options{"Desk", m_folder.path(), ""});
+    std::unique_ptr<PortDesk> make(bool recordsAll = false, bool keepsSwitches = true) {
+        return std::make_unique<PortDesk>(system, PortDesk::Options{.product = "Desk",
+                                                                    .dataFolder = m_folder.path(),
+                                                                    .virtualPort = "",
+                                                                    .keepsSwitches = keepsSwitches,
+                                                                    .recordsAll = recordsAll});
+    }
+
+    static int findOutput(PortDesk& desk, const std::string& name) {
+        const auto outputs = desk.ports().outputs();
+        const auto found =
+            std::find_if(outputs.begin(), outputs.end(), [&](const PortRow& row) { return row.id.name == name; });
+        return found == outputs.end() ? -1 : static_cast<int>(found - outputs.begin());
+    }
+
+    // What the engine plays to an output.
+    static void play(PortDesk& desk, int output, MidiMessage::MessageType status, char note) {
+        MirelMidiMessage message;
+        message.setMidiMessage(MidiMessage(status, note, 100, 0));
+        message.setOutput(static_cast<char>(output));
+        message.setChannel(0);
+        desk.mirel().getMessageManager().postPlayMidi(message);
     }
 
     static int count(const std::string& text, const std::string& part) {
@@ -73,6 +99,71 @@ TEST_F(PortDeskTest, PortThatFailsAnewIsToldAnew) {
     ASSERT_TRUE(eventually([&] {
         desk->ports().play(1, 0x643c90, 0);
         return count(readLog(desk->mirel().getDisplayMessageManager()), SYNTH_FAILS) == 2;
+    }));
+    EXPECT_TRUE(desk->stop());
+}
+
+TEST_F(PortDeskTest, RecordsWhatGoesToAnotherOutput) {
+    for (const bool records : {false, true}) {
+        system->plugOutputs({"Synth"});
+        const auto desk = make(records);
+        desk->start();
+        const int synth = findOutput(*desk, "Synth");
+        ASSERT_GE(synth, 0);
+        const std::size_t sent = system->sent("Synth").size();
+        desk->mirel().getMessageManager().postChangeDefaultMidiOutput(SelectType(SelectType::specific, synth));
+        desk->waitUntilIdle();
+        play(*desk, synth, MidiMessage::NoteOn, 60);
+        play(*desk, synth, MidiMessage::NoteOff, 60);
+        ASSERT_TRUE(eventually([&] { return system->sent("Synth").size() >= sent + 2; }));
+        EXPECT_TRUE(desk->stop());
+        const std::string content = desk->ports().recorder().content().value_or("");
+        EXPECT_EQ(content.find("\x90\x3c\x64") != std::string::npos, records);
+    }
+}
+
+TEST_F(PortDeskTest, RecordsAlsoWhenTheRecorderIsSwitchedOff) {
+    system->plugOutputs({"Synth"});
+    const auto desk = make(true);
+    desk->start();
+    desk->mirel().getMessageManager().postEnableMidiOutput(findOutput(*desk, Recorder::NAME), false);
+    desk->waitUntilIdle();
+    play(*desk, findOutput(*desk, "Synth"), MidiMessage::NoteOn, 60);
+    EXPECT_TRUE(eventually([&] { return desk->ports().recorder().size() > 0; }));
+    EXPECT_TRUE(desk->stop());
+}
+
+TEST_F(PortDeskTest, SwitchedOutputStaysSoInTheNextRun) {
+    system->plugOutputs({"Synth", "Module"});
+    for (const bool keeps : {false, true}) {
+        const auto desk = make(false, keeps);
+        desk->start();
+        const int module = findOutput(*desk, "Module");
+        EXPECT_TRUE(desk->ports().outputs().at(static_cast<std::size_t>(module)).settings.enabled);
+        desk->mirel().getMessageManager().postEnableMidiOutput(module, false);
+        desk->waitUntilIdle();
+        EXPECT_TRUE(eventually([&] { return !system->isOutputOpen("Module"); }));
+        EXPECT_TRUE(desk->stop());
+    }
+    const auto desk = make();
+    desk->start();
+    EXPECT_FALSE(desk->ports().outputs().at(static_cast<std::size_t>(findOutput(*desk, "Module"))).settings.enabled);
+    EXPECT_TRUE(desk->stop());
+}
+
+TEST_F(PortDeskTest, HearsOfPortsThatComeWhileItStarts) {
+    system->plugOutputs({"Synth"});
+    const auto desk = make();
+    std::jthread user([&] {
+        eventually([&] { return system->timesListed() > 0; });
+        system->plugOutputs({"Synth", "Late"});
+    });
+    desk->start();
+    user.join();
+    EXPECT_TRUE(eventually([&] {
+        const auto& ports = desk->mirel().getMidiOutputPorts();
+        desk->waitUntilIdle();
+        return std::any_of(ports.begin(), ports.end(), [](const auto& port) { return port.name == "Late"; });
     }));
     EXPECT_TRUE(desk->stop());
 }

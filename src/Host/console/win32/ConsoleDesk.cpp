@@ -5,15 +5,19 @@
 #include "Backend/core/MessageManagerMaster.h"
 #include "Backend/core/MirelMessageManager.h"
 #include "Backend/core/MirelUtils.h"
+#include "Backend/core/Product.h"
 #include "Backend/core/RegistrySettings.h"
 #include "Backend/functions/SelectType.h"
 #include "Gui/MirelGuiIF.h"
+#include "Host/common/RecordTarget.h"
+#include "Host/common/StartChoices.h"
 #include "Host/console/DeskFileName.h"
 #include "Host/console/FrameTitle.h"
-#include "Host/console/StartChoices.h"
 #include "Host/console/win32/SingleInstance.h"
 #include "Platform/Files.h"
 #include "Platform/Sleep.h"
+
+#include <utility>
 
 namespace Host::Console {
 
@@ -21,7 +25,10 @@ using Backend::MirelUtils;
 
 ConsoleDesk::ConsoleDesk(std::shared_ptr<MidiSystem> system, const CommandLine& line)
     : m_line(line),
-      m_desk(std::move(system), {PRODUCT, MirelUtils::getMirelAppDataDir(), "", !line.recordFile.empty()}) {}
+      m_desk(std::move(system), {.product = MIREL_PRODUCT,
+                                 .dataFolder = MirelUtils::getMirelAppDataDir(),
+                                 .virtualPort = "",
+                                 .recordsAll = !line.recordFile.empty()}) {}
 
 ConsoleDesk::~ConsoleDesk() {
     removeWindow();
@@ -63,18 +70,21 @@ void ConsoleDesk::run() {
 
 bool ConsoleDesk::stop() {
     removeWindow();
-    const bool isWritten = endDesk();
-    if (!isWritten)
-        tell(m_line.recordFile + ": can't be written.");
-    return isWritten;
+    endDesk();
+    if (m_line.recordFile.empty() || m_recording == m_line.recordFile)
+        return true;
+    if (!m_hasSessionEnded)
+        tell(m_line.recordFile + ": can't be written. " +
+             (m_recording ? "The recording is in " + *m_recording + "." : "The recording is lost."));
+    return false;
 }
 
-// False if what was played could not be written.
-bool ConsoleDesk::endDesk() {
+void ConsoleDesk::endDesk() {
     if (std::exchange(m_isStopped, true))
-        return true;
+        return;
     m_desk.stop();
-    return m_line.recordFile.empty() || m_desk.ports().recorder().write(m_line.recordFile);
+    if (!m_line.recordFile.empty())
+        m_recording = keepRecording(m_desk.ports().recorder(), m_line.recordFile);
 }
 
 void ConsoleDesk::closeRequested() {
@@ -85,6 +95,7 @@ void ConsoleDesk::closeRequested() {
 // The system may end the program as soon as this returns, and waits for no box. An installer waits for the end.
 void ConsoleDesk::sessionEnds() {
     m_isClosing = true;
+    m_hasSessionEnded = true;
     if (m_gui)
         m_gui->destroy();
     endDesk();
@@ -92,13 +103,13 @@ void ConsoleDesk::sessionEnds() {
 }
 
 void ConsoleDesk::openRequested(const OpenRequest& request) {
-    if (m_isClosing)
-        return;
-    if (!request.bank.empty())
+    // The desk may be closed while a box waits for its answer.
+    if (!m_isClosing && !request.bank.empty())
         openBank(request.bank);
     for (const std::string& file : request.files)
-        openFile(file);
-    if (!request.program.empty())
+        if (!m_isClosing)
+            openFile(file);
+    if (!m_isClosing && !request.program.empty())
         openProgram(request.program);
 }
 
@@ -113,7 +124,7 @@ void ConsoleDesk::timePassed() {
 // In a box over the frame, never over the window of another program that the user works in at the moment.
 void ConsoleDesk::tell(const std::string& text) const {
     const HWND frame = m_frame ? m_frame->getWindowHandle() : nullptr;
-    MessageBoxA(IsIconic(frame) ? nullptr : frame, text.c_str(), PRODUCT, MB_OK);
+    MessageBoxA(IsIconic(frame) ? nullptr : frame, text.c_str(), MIREL_PRODUCT, MB_OK);
 }
 
 FrameWindow::Options ConsoleDesk::frameOptions() {
@@ -123,13 +134,9 @@ FrameWindow::Options ConsoleDesk::frameOptions() {
 }
 
 void ConsoleDesk::chooseOutputs() {
-    const auto outputs = m_desk.ports().outputs();
-    if (!m_line.recordFile.empty())
-        for (std::size_t i = 0; i < outputs.size(); ++i)
-            if (outputs[i].id == MidiPortId{Recorder::NAME, PortList::BUILT_IN})
-                manager().postEnableMidiOutput(static_cast<int>(i), true);
     m_desk.waitUntilIdle();
-    const int output = findBetterOutput(outputs, m_desk.mirel().getRegistrySettings().getDefaultMidiOutput());
+    const int output =
+        findBetterOutput(m_desk.ports().outputs(), m_desk.mirel().getRegistrySettings().getDefaultMidiOutput());
     if (output >= 0)
         manager().postChangeDefaultMidiOutput(SelectType(SelectType::specific, output));
 }
@@ -173,6 +180,8 @@ void ConsoleDesk::openProgram(const std::string& wanted) {
         return;
     }
     waitForBank();
+    if (m_isClosing)
+        return;
     const int index = findProgram(m_desk.mirel().getCurrentBank().getProgramNames(), wanted);
     if (index >= 0)
         manager().postChangeProgram(SelectType(SelectType::specific, index));
@@ -182,7 +191,7 @@ void ConsoleDesk::openProgram(const std::string& wanted) {
 
 // The desk may wait for its log, and that for this thread's windows.
 void ConsoleDesk::waitForBank() {
-    while (!m_desk.mirel().getMessageManagerMaster().isIdle())
+    while (!m_isClosing && !m_desk.mirel().getMessageManagerMaster().isIdle())
         Platform::sleepAnsweringWindows(1);
 }
 

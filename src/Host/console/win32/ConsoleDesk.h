@@ -6,6 +6,7 @@
 #include "Host/console/win32/FrameWindow.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace Gui {
@@ -32,12 +33,8 @@ public:
     void run();
 
     // Takes the window away, ends all that sounds and keeps the settings and the recording. False if the recording
-    // could not be written.
+    // is not where it should be, of which the user is told, unless the session ends.
     bool stop();
-
-    HWND getFrameWindow() const { return m_frame->getWindowHandle(); }
-    Gui::MirelGuiIF& gui() { return *m_gui; }
-    PortDesk& desk() { return m_desk; }
 
 private:
     void closeRequested() override;
@@ -56,14 +53,16 @@ private:
     void openProgram(const std::string& wanted);
     void waitForBank();
     void removeWindow();
-    bool endDesk();
+    void endDesk();
 
     const CommandLine m_line;
     PortDesk m_desk;
     std::unique_ptr<FrameWindow> m_frame;
     std::unique_ptr<Gui::MirelGuiIF> m_gui;
     bool m_isStopped = true;
+    std::optional<std::string> m_recording;  // Where it lies, once the desk has ended.
     bool m_isClosing = false;
+    bool m_hasSessionEnded = false;
     bool m_hasToldFailure = false;
 };
 

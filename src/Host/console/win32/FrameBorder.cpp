@@ -2,6 +2,8 @@
 
 #include "Gui/Utils/DrawnText.h"
 
+#include <algorithm>
+
 namespace Host::Console {
 
 FrameBorder::FrameBorder()

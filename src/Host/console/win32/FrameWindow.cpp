@@ -1,9 +1,12 @@
 // What a desk's window does for the desk. The metallic border's messages are in FrameWindowBorder.cpp.
 #include "Host/console/win32/FrameWindow.h"
 
+#include "Backend/core/Product.h"
 #include "Gui/MirelGuiIF.h"
 #include "Gui/Rules/WindowMove.h"
 #include "Gui/Utils/UserMessages.h"
+#include "Gui/Utils/WindowClass.h"
+#include "Gui/Utils/WindowPlace.h"
 #include "Gui/Utils/WindowProcedure.h"
 #include "Host/console/FramePlacement.h"
 #include "Host/console/FrameTitle.h"
@@ -13,6 +16,7 @@
 #include <shellapi.h>
 
 #include <optional>
+#include <utility>
 
 namespace Host::Console {
 
@@ -23,29 +27,13 @@ constexpr UINT_PTR TIMER = 1;
 constexpr UINT TIMER_INTERVAL = 500;  // In milliseconds.
 
 void registerClassOnce() {
-    static const ATOM registered = [] {
-        WNDCLASSEXA description{};
-        description.cbSize = sizeof description;
-        description.lpfnWndProc = DefWindowProcA;
-        description.hInstance = GetModuleHandleA(nullptr);
-        description.hCursor = LoadCursorA(nullptr, IDC_ARROW);
-        description.lpszClassName = CLASS_NAME;
-        return RegisterClassExA(&description);
-    }();
+    static const HINSTANCE registered = Gui::registerWindowClass(CLASS_NAME, GetModuleHandleA(nullptr), DefWindowProcA);
     static_cast<void>(registered);
 }
 
 HICON loadIcon(int width, int height) {
     return static_cast<HICON>(
         LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDI_MIREL_CONSOLE), IMAGE_ICON, width, height, 0));
-}
-
-RECT toWindows(const Rect& rect) {
-    return {rect.left, rect.top, rect.right, rect.bottom};
-}
-
-Rect fromWindows(const RECT& rect) {
-    return {rect.left, rect.top, rect.right, rect.bottom};
 }
 
 }
@@ -55,7 +43,7 @@ FrameWindow::FrameWindow(Listener& listener, const Options& options)
       m_options(options),
       m_icon(loadIcon(GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON))),
       m_smallIcon(loadIcon(GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON))),
-      m_title(PRODUCT) {
+      m_title(MIREL_PRODUCT) {
     registerClassOnce();
     m_window =
         CreateWindowExA(WS_EX_APPWINDOW | (options.alwaysOnTop ? WS_EX_TOPMOST : 0u), CLASS_NAME, m_title.c_str(),
@@ -120,7 +108,7 @@ void FrameWindow::comeToFront() {
 }
 
 void FrameWindow::refreshTitle() {
-    std::string title = PRODUCT;
+    std::string title = MIREL_PRODUCT;
     if (m_gui) {
         const auto& program = static_cast<const Gui::MirelGuiIF*>(m_gui)->getCurrentProgram();
         title = makeFrameTitle(m_gui->getCurrentBankName(), program.getName(), program.getIndex(),
@@ -268,41 +256,20 @@ void FrameWindow::setDock(bool dock) {
 }
 
 void FrameWindow::place(const Rect& rect) {
-    if (IsIconic(m_window)) {
-        WINDOWPLACEMENT placement{};
-        placement.length = sizeof placement;
-        GetWindowPlacement(m_window, &placement);
-        placement.rcNormalPosition = toWindows(rect);
-        SetWindowPlacement(m_window, &placement);
-        return;
-    }
-    SetWindowPos(m_window, nullptr, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    Gui::placeWindow(m_window, rect);
 }
 
 Rect FrameWindow::position() const {
-    if (IsIconic(m_window)) {
-        WINDOWPLACEMENT placement{};
-        placement.length = sizeof placement;
-        GetWindowPlacement(m_window, &placement);
-        return fromWindows(placement.rcNormalPosition);
-    }
-    RECT rect;
-    GetWindowRect(m_window, &rect);
-    return fromWindows(rect);
+    return Gui::windowPlace(m_window);
 }
 
 Rect FrameWindow::workArea() const {
-    const RECT rect = toWindows(position());
-    MONITORINFO info{};
-    info.cbSize = sizeof info;
-    GetMonitorInfoA(MonitorFromRect(&rect, MONITOR_DEFAULTTONEAREST), &info);
-    return fromWindows(info.rcWork);
+    return Gui::fromWindows(Gui::monitorNear(position()).rcWork);
 }
 
 // A screen that goes must not take the desk along.
 void FrameWindow::comeIntoReach() {
-    const RECT rect = toWindows(position());
+    const RECT rect = Gui::toWindows(position());
     if (!MonitorFromRect(&rect, MONITOR_DEFAULTTONULL))
         place(centreFrame(position(), workArea()));
     else if (m_options.dockToBottomEdge && rect.bottom > workArea().bottom)

@@ -8,7 +8,6 @@
 
 #include <shellapi.h>
 
-#include <functional>
 #include <string>
 
 namespace Gui {

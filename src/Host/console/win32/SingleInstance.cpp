@@ -3,7 +3,6 @@
 #include "Platform/SystemPath.h"
 
 #include <cstdio>
-#include <vector>
 
 namespace Host::Console {
 

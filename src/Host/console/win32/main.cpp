@@ -1,5 +1,6 @@
 // The desk with a window.
 #include "Backend/core/MirelUtils.h"
+#include "Backend/core/Product.h"
 #include "Host/common/MidiSystem.h"
 #include "Host/common/RecordTarget.h"
 #include "Host/console/CommandLine.h"
@@ -35,7 +36,7 @@ void tell(DWORD stream, const std::string& text) {
     DWORD written = 0;
     if (!file || file == INVALID_HANDLE_VALUE ||
         !WriteFile(file, text.data(), static_cast<DWORD>(text.size()), &written, nullptr))
-        Platform::showMessage(text, PRODUCT);
+        Platform::showMessage(text, MIREL_PRODUCT);
 }
 
 int fail(const std::string& error) {
@@ -93,7 +94,7 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int showCommand) {
     switch (line->action) {
         case CommandLine::Action::showHelp: tell(STD_OUTPUT_HANDLE, CommandLine::USAGE); return DONE;
         case CommandLine::Action::showVersion:
-            tell(STD_OUTPUT_HANDLE, std::string(PRODUCT) + " " + VERSION + "\n");
+            tell(STD_OUTPUT_HANDLE, MIREL_PRODUCT " " MIREL_VERSION "\n");
             return DONE;
         case CommandLine::Action::run: break;
     }

@@ -292,6 +292,31 @@ TEST_F(MirelConsoleTest, TheEndOfTheSessionKeepsTheRecording) {
     EXPECT_EQ(program.wait(), 0u) << "an installer waits for the end";
 }
 
+TEST_F(MirelConsoleTest, TheEndOfTheSessionWaitsForNoAnswer) {
+    const std::string bank = copy("tests/data/banks/three.bnk", "Live.bnk");
+    const Program program(data() + " \"" + folder.file("missing.bnk") + "\" \"" + bank + "\" --program 2", output());
+    const HWND frame = program.waitForFrame();
+    ASSERT_NE(frame, nullptr) << readOutput();
+    const HWND box = program.waitForBox();
+    ASSERT_NE(box, nullptr);
+    SendMessageA(frame, WM_ENDSESSION, TRUE, 0);
+    PostMessageA(box, WM_COMMAND, IDOK, 0);
+    EXPECT_EQ(program.wait(), 0u) << readOutput();
+}
+
+TEST_F(MirelConsoleTest, ATakeThatItsPlaceNoLongerTakesIsRescued) {
+    const std::string record = folder.file("played.mid");
+    const Program program(data() + " --record \"" + record + "\"", output());
+    const HWND frame = program.waitForFrame();
+    ASSERT_NE(frame, nullptr) << readOutput();
+    ASSERT_TRUE(Platform::Files::createFolders(record));
+    PostMessageA(frame, WM_CLOSE, 0, 0);
+    const std::string rescued = Platform::Files::join(folder.file("data"), "Rescued recording.mid");
+    EXPECT_EQ(program.answerBox(), record + ": can't be written. The recording is in " + rescued + ".");
+    EXPECT_EQ(program.wait(), 1u);
+    EXPECT_TRUE(Platform::Files::read(rescued).value_or("").starts_with("MThd"));
+}
+
 TEST_F(MirelConsoleTest, ComesBackWhereItWas) {
     for (const bool isMinimised : {false, true}) {
         const std::string arguments = "--data \"" + folder.file(isMinimised ? "minimised" : "shown") + "\"";

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace Host::Console {
+namespace Host {
 
 // [any] The index of a program by its name or else by its number from 1; -1 if there is none.
 int findProgram(const std::vector<std::string>& names, const std::string& wanted);

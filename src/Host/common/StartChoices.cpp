@@ -1,11 +1,11 @@
-#include "Host/console/StartChoices.h"
+#include "Host/common/StartChoices.h"
 
 #include "Host/common/PortList.h"
 
 #include <algorithm>
 #include <charconv>
 
-namespace Host::Console {
+namespace Host {
 
 int findProgram(const std::vector<std::string>& names, const std::string& wanted) {
     const auto found = std::find(names.begin(), names.end(), wanted);

@@ -1,13 +1,11 @@
 #include "Host/common/PortList.h"
-#include "Host/console/StartChoices.h"
+#include "Host/common/StartChoices.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 using namespace Host;
-using Host::Console::findBetterOutput;
-using Host::Console::findProgram;
 
 TEST(StartChoices, FindAProgramByNameBeforeItsNumber) {
     const std::vector<std::string> names = {"Piano", "1", "Lead"};
