@@ -7,6 +7,7 @@
 #include "Backend/core/MirelUtils.h"
 #include "Backend/core/Trace.h"
 #include "Gui/ResourceIds.h"
+#include "Gui/Utils/WindowPlace.h"
 #include "Gui/Utils/WindowProperties.h"
 #include "Platform/Shell.h"
 
@@ -219,22 +220,8 @@ int MirelGui::getNumberOfPrograms() {
     return static_cast<int>(m_currentBank.getProgramNames().size());
 }
 
-// That of a minimised host is where it comes back to.
 Rect MirelGui::getMainWindowPosition() {
-    RECT rect{};
-    WINDOWPLACEMENT placement{};
-    placement.length = sizeof placement;
-    if (IsIconic(m_parentWindow) && GetWindowPlacement(m_parentWindow, &placement)) {
-        rect = placement.rcNormalPosition;
-        MONITORINFO monitor{};
-        monitor.cbSize = sizeof monitor;
-        // It counts from the corner of what the task bar leaves.
-        if (GetMonitorInfoA(MonitorFromRect(&rect, MONITOR_DEFAULTTONEAREST), &monitor))
-            OffsetRect(&rect, monitor.rcWork.left - monitor.rcMonitor.left, monitor.rcWork.top - monitor.rcMonitor.top);
-    } else {
-        GetWindowRect(m_parentWindow, &rect);
-    }
-    return {rect.left, rect.top, rect.right, rect.bottom};
+    return windowPlace(m_parentWindow);
 }
 
 }

@@ -10,8 +10,6 @@ namespace Gui {
 
 namespace {
 
-const FileDialog::Filter BANK_FILES{"Bank Files", "*.bnk"};
-const FileDialog::Filter PROGRAM_FILES{"Program Files", "*.prg"};
 const FileDialog::Filter PRESET_FILES{"Preset Files", "*.pst"};
 
 }

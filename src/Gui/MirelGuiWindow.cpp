@@ -96,10 +96,7 @@ LRESULT CALLBACK MirelGui::focusControlProc(HWND window, UINT message, WPARAM wP
         case WM_SYSKEYDOWN:
         case WM_SYSKEYUP:
         case WM_MOUSEWHEEL: return SendMessageA(GetParent(window), message, wParam, lParam);
-        case WM_DESTROY: {
-            const WNDPROC original = unsubclass(window, ORIGINAL);
-            return CallWindowProcA(original, window, message, wParam, lParam);
-        }
+        case WM_DESTROY: return passOnForTheLastTime(window, ORIGINAL, message, wParam, lParam);
         default: return callOriginal(window, ORIGINAL, message, wParam, lParam);
     }
 }

@@ -18,6 +18,9 @@ public:
     // [any] Blocks without a time limit until the event is set, and unsets it.
     void wait();
 
+    // [any] The same for a thread that may have windows: it answers what other threads send to them meanwhile.
+    void waitAnsweringWindows();
+
 private:
     struct State;
     std::unique_ptr<State> m_state;

@@ -1,18 +1,9 @@
 #include "Backend/core/DisplayLog.h"
 
 #include "Backend/core/DisplayListener.h"
+#include "Backend/core/Text.h"
 
 namespace Backend::Display {
-
-namespace {
-
-bool isInsideCharacter(char byte) {
-    constexpr unsigned CONTINUATION_MASK = 0xc0;
-    constexpr unsigned CONTINUATION = 0x80;
-    return (static_cast<unsigned char>(byte) & CONTINUATION_MASK) == CONTINUATION;
-}
-
-}
 
 void DisplayLog::add(std::string_view text) {
     if (text.size() >= MAX_ADDITION)
@@ -24,7 +15,7 @@ void DisplayLog::add(std::string_view text) {
 
 void DisplayLog::keepLastHalf() {
     std::size_t cut = m_text.size() - m_text.size() / 2;
-    while (cut < m_text.size() && isInsideCharacter(m_text[cut]))
+    while (cut < m_text.size() && Text::isInsideCharacter(m_text[cut]))
         ++cut;
     m_text.erase(0, cut);
     m_sentLength = m_text.size();

@@ -80,7 +80,8 @@ void DisplayMessageManager::postSetListener(DisplayListener* listener) {
 void DisplayMessageManager::sendSetListener(DisplayListener* listener) {
     Platform::AutoResetEvent done;
     post(SET_LISTENER, reinterpret_cast<WPARAM>(&done), reinterpret_cast<LPARAM>(listener));
-    done.wait();
+    // The log may be in the middle of telling a listener whose window is this thread's.
+    done.waitAnsweringWindows();
 }
 
 void DisplayMessageManager::postSetDisplayNumbers(bool display) {

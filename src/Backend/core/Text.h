@@ -1,4 +1,4 @@
-// Small rules for text that every reader of attributes shares. White space is that of the C locale.
+// Small rules for text. White space is that of the C locale.
 #pragma once
 
 #include <cstdint>
@@ -24,6 +24,13 @@ std::optional<bool> readBool(std::string_view text);
 // The low byte of a number, as the fields of one byte keep it.
 constexpr char lowByte(std::int32_t number) {
     return static_cast<char>(static_cast<unsigned char>(number & 0xff));
+}
+
+// Whether a byte of UTF-8 text is not the first of its character.
+constexpr bool isInsideCharacter(char byte) {
+    constexpr unsigned CONTINUATION_MASK = 0xc0;
+    constexpr unsigned CONTINUATION = 0x80;
+    return (static_cast<unsigned char>(byte) & CONTINUATION_MASK) == CONTINUATION;
 }
 
 }

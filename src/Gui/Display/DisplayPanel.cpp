@@ -90,7 +90,7 @@ INT_PTR DisplayPanel::dlgProc(HWND window, UINT message, WPARAM wParam, LPARAM l
 }
 
 void DisplayPanel::handleTimer() {
-    // One request at a time: with the log's thread waiting for this one, a post to its full queue would wait for ever.
+    // One request at a time: more would only fill the queue of a log that is behind.
     if (isVisible() && (!m_isAwaitingText || m_display.isIdle()))
         requestText(false);
 }
@@ -115,7 +115,7 @@ void DisplayPanel::handleSize(int height) const {
 void DisplayPanel::handleDestroy() {
     KillTimer(getWindowHandle(), TIMER);
     giveResizingUp();
-    m_feedEnd.take(m_display);
+    m_display.sendSetListener(nullptr);
     const RECT rect = windowRect(getWindowHandle());
     gui().getMirelMessageManager().postSetDisplayHeight(rect.bottom - rect.top);
 }
@@ -201,8 +201,7 @@ LRESULT DisplayPanel::editProc(HWND window, UINT message, WPARAM wParam, LPARAM 
         case WM_DESTROY: {
             m_edit = nullptr;
             RemovePropA(window, OBJECT);
-            const WNDPROC original = unsubclass(window, PROCEDURE);
-            return original ? CallWindowProcA(original, window, message, wParam, lParam) : 0;
+            return passOnForTheLastTime(window, PROCEDURE, message, wParam, lParam);
         }
         default: break;
     }

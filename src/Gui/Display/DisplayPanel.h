@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Backend/core/DisplayListener.h"
-#include "Gui/Display/FeedEnd.h"
 #include "Gui/Utils/PopupMenu.h"
 #include "Gui/Utils/SkinPanel.h"
 
@@ -66,7 +65,6 @@ private:
     bool m_resizing = false;
     bool m_largeFont = false;
     std::optional<int> m_line;  // Where the edge would go, on the screen.
-    FeedEnd m_feedEnd;
 };
 
 }

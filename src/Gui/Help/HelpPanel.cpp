@@ -50,10 +50,8 @@ LRESULT CALLBACK HelpPanel::editProcedure(HWND window, UINT message, WPARAM wPar
         SetFocus(GetParent(window));
         return 0;
     }
-    if (message == WM_DESTROY) {
-        const WNDPROC original = unsubclass(window, PROCEDURE);
-        return original ? CallWindowProcA(original, window, message, wParam, lParam) : 0;
-    }
+    if (message == WM_DESTROY)
+        return passOnForTheLastTime(window, PROCEDURE, message, wParam, lParam);
     return callOriginal(window, PROCEDURE, message, wParam, lParam);
 }
 

@@ -2,6 +2,7 @@
 
 #include "Gui/MirelGuiIF.h"
 #include "Gui/ResourceIds.h"
+#include "Gui/Utils/SkinProperties.h"
 #include "Gui/Utils/WindowProperties.h"
 
 namespace Gui::Output {
@@ -22,7 +23,7 @@ void MusicKeyboardPanel::createWnd(HINSTANCE module, HWND parentWindow) {
     for (const Row& row : {Row{m_ccButton, IDC_SHOW_CC, HELP_SHOW_CC}, Row{m_zoneButton, IDC_SHOW_ZONE, HELP_SHOW_ZONE},
                            Row{m_layerButton, IDC_SHOW_LAYER, HELP_SHOW_LAYER}}) {
         row.button.create(GetDlgItem(getWindowHandle(), row.id));
-        setNumber(row.button.getWindowHandle(), "HELP", row.help);
+        setNumber(row.button.getWindowHandle(), SkinProperties::HELP, row.help);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "Gui/Rules/AboutText.h"
 
+#include "Backend/core/Product.h"
+
 #include <iomanip>
 #include <sstream>
 
@@ -7,9 +9,7 @@ namespace Gui {
 
 namespace {
 
-constexpr const char* PRODUCT = "Mirel Console 3 LE";
 constexpr const char* VERSION_LABEL = "\r\nVersion ";
-constexpr const char* VERSION = "3.2";
 constexpr const char* CREDITS =
     "\r\n"
     "\r\nMIDI from the computer's keyboard, from controls on the screen and from MIDI ports,"
@@ -22,7 +22,7 @@ constexpr const char* CREDITS =
 
 std::string describeProduct(const std::optional<BuildTime>& built) {
     std::ostringstream text;
-    text << PRODUCT << VERSION_LABEL << VERSION << ' ';
+    text << MIREL_PRODUCT << VERSION_LABEL << MIREL_VERSION << ' ';
     if (built)
         text << std::setfill('0') << '(' << std::setw(2) << built->month << '/' << std::setw(2) << built->day << '/'
              << std::setw(4) << built->year << ' ' << std::setw(2) << built->hour << ':' << std::setw(2)

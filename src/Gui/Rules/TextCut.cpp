@@ -1,18 +1,12 @@
 #include "Gui/Rules/TextCut.h"
 
+#include "Backend/core/Text.h"
+
 #include <algorithm>
 
 namespace Gui {
 
-namespace {
-
-bool isInsideCharacter(char byte) {
-    constexpr unsigned CONTINUATION_MASK = 0xc0;
-    constexpr unsigned CONTINUATION = 0x80;
-    return (static_cast<unsigned char>(byte) & CONTINUATION_MASK) == CONTINUATION;
-}
-
-}
+using Backend::Text::isInsideCharacter;
 
 std::string cutText(const std::string& text, std::size_t maxBytes) {
     std::size_t end = std::min(maxBytes, text.size());

@@ -67,7 +67,7 @@ void GeneralPage::apply() {
     desk.postSetLiteStackNotes(stackNotes);
     desk.postSetLiteChannel(channel);
 
-    // The keys in use read these at once.
+    // The desk tells the window nothing of these.
     m_settings.setLiteVelocity(velocity);
     m_settings.setLiteStackNotes(stackNotes);
     m_settings.setLiteChannel(channel);

@@ -6,7 +6,7 @@
 #include "Gui/MirelGuiIF.h"
 #include "Gui/ResourceIds.h"
 #include "Gui/Rules/ProgramListText.h"
-#include "Gui/System/SaveDialog.h"
+#include "Gui/Utils/FileDialog.h"
 #include "Gui/Utils/GdiManager.h"
 #include "Gui/Utils/SkinProperties.h"
 #include "Gui/Utils/WindowProperties.h"
@@ -215,12 +215,23 @@ void SystemPanel::showProgramMenu() {
 
 void SystemPanel::showFunctionMenu(LPARAM position) {
     switch (m_functionMenu.track(getWindowHandle(), GET_X_LPARAM(position), GET_Y_LPARAM(position))) {
-        case IDM_SYSTEM_SAVE: SaveDialog(gui()).show(); break;
+        case IDM_SYSTEM_SAVE: save(); break;
         case IDM_SYSTEM_LOAD: gui().showLoadDialog(); break;
         case IDM_SYSTEM_SETUP: gui().showSetupDialog(); break;
         case IDM_SYSTEM_IMPORT: gui().importVersion2File(); break;
         default: break;
     }
+}
+
+// The current program, as a program of its own or in a copy of the bank.
+void SystemPanel::save() {
+    const auto path = FileDialog("Save", {BANK_FILES, PROGRAM_FILES}).save(gui().getWindowHandle());
+    if (!path)
+        return;
+    if (path->ends_with(".prg"))
+        gui().getMirelMessageManager().postSaveToProgram(*path, nullptr);
+    else
+        gui().getMirelMessageManager().postSaveToBank(*path, nullptr);
 }
 
 }

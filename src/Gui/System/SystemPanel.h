@@ -53,6 +53,7 @@ private:
     void setButton(int id, bool state);
     bool handleChoice(HWND window);
     void showFunctionMenu(LPARAM position);
+    void save();
 
     ComboBox m_outputs;
     ProgramNameComboBox m_programs;

@@ -37,4 +37,7 @@ private:
     std::string m_extension;  // Of the first filter.
 };
 
+inline const FileDialog::Filter BANK_FILES{"Bank Files", "*.bnk"};
+inline const FileDialog::Filter PROGRAM_FILES{"Program Files", "*.prg"};
+
 }

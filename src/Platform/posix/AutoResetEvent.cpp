@@ -27,4 +27,8 @@ void AutoResetEvent::wait() {
     m_state->isSet = false;
 }
 
+void AutoResetEvent::waitAnsweringWindows() {
+    wait();
+}
+
 }

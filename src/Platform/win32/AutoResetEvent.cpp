@@ -22,4 +22,11 @@ void AutoResetEvent::wait() {
     WaitForSingleObject(m_state->handle, INFINITE);
 }
 
+void AutoResetEvent::waitAnsweringWindows() {
+    while (MsgWaitForMultipleObjects(1, &m_state->handle, FALSE, INFINITE, QS_SENDMESSAGE) == WAIT_OBJECT_0 + 1) {
+        MSG unused;
+        PeekMessageA(&unused, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
+    }
+}
+
 }
