@@ -302,6 +302,7 @@ bool MidiPorts::close(std::chrono::milliseconds limit) {
         if (std::exchange(m_isClosed, true))
             return true;
     }
+    m_system->beginClose();
     // From here on nobody else changes the lines.
     for (Input& input : m_inputs)
         input.line->finish();

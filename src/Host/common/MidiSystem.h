@@ -61,6 +61,9 @@ public:
     // [any] A port of the desk's own, for other programs to connect to. Null where the system has no such thing.
     virtual std::unique_ptr<OpenMidiPort> openVirtualInput(const std::string& name, MidiReceiver receiver) = 0;
     virtual std::unique_ptr<OpenMidiPort> openVirtualOutput(const std::string& name) = 0;
+
+    // [any] Says that from now on ports are only closed, all of them, so that they may go together in the end.
+    virtual void beginClose() {}
 };
 
 // [any] The computer's own. The name is the one under which other programs see the desk. There is always an object, on

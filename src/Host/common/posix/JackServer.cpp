@@ -87,8 +87,8 @@ public:
         m_slot.use = Use::RETIRED;
         // Until the server's thread has certainly left the slot.
         waitForCycles();
-        if (m_server->isAlive())
-            jack_port_unregister(m_server->m_client, m_slot.port);
+        if (m_server->isAlive() && !m_server->m_isLeaving)
+            m_server->unregisterPort(m_slot.port);
         m_slot.receiver = nullptr;
         OutputEvent left;
         while (m_slot.queue.pop(left)) {
@@ -189,6 +189,7 @@ JackServer::JackServer(jack_client_t* client, std::string clientName, std::strin
     jack_on_shutdown(m_client, goneCallback, this);
     jack_set_process_callback(m_client, processCallback, this);
     jack_set_port_registration_callback(m_client, registeredCallback, this);
+    jack_set_graph_order_callback(m_client, graphCallback, this);
     if (jack_activate(m_client) != 0)
         m_isAlive = false;
 }
@@ -215,11 +216,18 @@ void JackServer::goneCallback(void* self) {
 // The server waits for this, so nothing is asked of it here but the name.
 void JackServer::registeredCallback(std::uint32_t port, int isRegistered, void* self) {
     auto& server = *static_cast<JackServer*>(self);
+    server.m_lastChange = server.m_cycles.load();
     const char* name = isRegistered != 0 ? jack_port_name(jack_port_by_id(server.m_client, port)) : nullptr;
     if (!name)
         return;
     const std::lock_guard lock(server.m_newcomersMutex);
     server.m_newcomers.emplace_back(name);
+}
+
+int JackServer::graphCallback(void* self) {
+    auto& server = *static_cast<JackServer*>(self);
+    server.m_lastChange = server.m_cycles.load();
+    return 0;
 }
 
 int JackServer::processCallback(std::uint32_t frames, void* self) {
@@ -291,6 +299,29 @@ bool JackServer::waitForCycles(std::uint32_t count) const {
         Platform::sleepMilliseconds(1);
     }
     return true;
+}
+
+jack_port_t* JackServer::registerPort(const std::string& name, bool isInput) {
+    const std::lock_guard lock(m_portsMutex);
+    m_lastChange = m_cycles.load();
+    return jack_port_register(m_client, name.c_str(), JACK_DEFAULT_MIDI_TYPE,
+                              isInput ? JackPortIsInput : JackPortIsOutput, 0);
+}
+
+// The library keeps the desk's ports in a list that it walks through, on a thread of its own and without a lock, a few
+// cycles after any program has changed something. A port that leaves the list meanwhile would lead it astray.
+void JackServer::unregisterPort(jack_port_t* port) {
+    const std::lock_guard lock(m_portsMutex);
+    waitForCalm();
+    m_lastChange = m_cycles.load();
+    jack_port_unregister(m_client, port);
+}
+
+void JackServer::waitForCalm() const {
+    constexpr std::uint32_t CALM_CYCLES = 4;
+    const std::int64_t limit = Platform::monotonicMicroseconds() + PATIENCE_MICROSECONDS;
+    while (m_isAlive && m_cycles - m_lastChange < CALM_CYCLES && Platform::monotonicMicroseconds() < limit)
+        Platform::sleepMilliseconds(1);
 }
 
 std::vector<std::string> JackServer::otherPorts(unsigned long flags) {
@@ -376,8 +407,7 @@ std::unique_ptr<OpenMidiPort> JackServer::open(const std::string& name, const st
     const std::size_t room = static_cast<std::size_t>(jack_port_name_size()) - m_name.size() - 2;
     std::string portName = name.substr(0, room);
     std::replace(portName.begin(), portName.end(), ':', ' ');  // That divides clients and ports.
-    slot->port = jack_port_register(m_client, portName.c_str(), JACK_DEFAULT_MIDI_TYPE,
-                                    isInput ? JackPortIsInput : JackPortIsOutput, 0);
+    slot->port = registerPort(portName, isInput);
     if (!slot->port)
         return nullptr;
     slot->receiver = std::move(receiver);

@@ -53,6 +53,9 @@ public:
     std::unique_ptr<OpenMidiPort> openVirtualInput(const std::string& name, MidiReceiver receiver);
     std::unique_ptr<OpenMidiPort> openVirtualOutput(const std::string& name);
 
+    // [any] From now on ports are only closed; they leave the server together, with the desk.
+    void beginClose() { m_isLeaving = true; }
+
 private:
     struct Slot;
     class Port;
@@ -65,6 +68,7 @@ private:
     static int processCallback(std::uint32_t frames, void* self);
     static void goneCallback(void* self);
     static void registeredCallback(std::uint32_t port, int isRegistered, void* self);
+    static int graphCallback(void* self);
 
     void process(std::uint32_t frames);
     void processInput(const Slot& slot, std::uint32_t frames);
@@ -74,6 +78,9 @@ private:
     std::unique_ptr<OpenMidiPort> open(const std::string& name, const std::string& other, MidiReceiver receiver,
                                        bool isInput);
     bool waitForCycles(std::uint32_t count) const;
+    jack_port_t* registerPort(const std::string& name, bool isInput);
+    void unregisterPort(jack_port_t* port);
+    void waitForCalm() const;
     std::vector<std::string> otherPorts(unsigned long flags);
     bool isOfADesk(const std::string& port) const;
     void findReplaced();
@@ -85,8 +92,11 @@ private:
     const std::string m_clientName;  // That of all desks, without a number.
     const std::string m_name;
     std::atomic<bool> m_isAlive{true};
-    std::atomic<std::uint32_t> m_cycles{0};  // How often the server has had the ports processed; wraps.
-    std::mutex m_mutex;                      // Of who opens ports; not of the server's thread.
+    std::atomic<std::uint32_t> m_cycles{0};      // How often the server has had the ports processed; wraps.
+    std::atomic<std::uint32_t> m_lastChange{0};  // The cycle in which somebody changed something at the server.
+    std::atomic<bool> m_isLeaving{false};
+    std::mutex m_mutex;       // Of who opens ports; not of the server's thread.
+    std::mutex m_portsMutex;  // Of the library's list of the desk's ports.
     std::mutex m_newcomersMutex;
     std::vector<std::string> m_newcomers;  // Ports that the server has registered since the last look.
     // Slots are used again and live as long as the client.

@@ -79,6 +79,11 @@ std::unique_ptr<OpenMidiPort> PosixMidiSystem::openVirtualOutput(const std::stri
     return now.isAlsa ? AlsaPorts::openVirtualOutput(m_clientName, name) : nullptr;
 }
 
+void PosixMidiSystem::beginClose() {
+    if (const Place now = place(); now.jack)
+        now.jack->beginClose();
+}
+
 std::shared_ptr<MidiSystem> createMidiSystem(const std::string& clientName) {
     return std::make_shared<PosixMidiSystem>(clientName);
 }

@@ -22,6 +22,7 @@ public:
     bool hasVirtualPorts() override;
     std::unique_ptr<OpenMidiPort> openVirtualInput(const std::string& name, MidiReceiver receiver) override;
     std::unique_ptr<OpenMidiPort> openVirtualOutput(const std::string& name) override;
+    void beginClose() override;
 
 private:
     // Where ports are at the moment: at the server, else with ALSA if that is there.

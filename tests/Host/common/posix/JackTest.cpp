@@ -10,8 +10,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdlib>
 #include <mutex>
+#include <thread>
 
 namespace Host {
 namespace {
@@ -38,8 +40,9 @@ protected:
 
     // The server goes on without a client that is late, and what that one should have heard in the meantime is lost: on
     // a busy computer an event must be played more than once.
-    void startServer(JackTestServer::Cycles cycles = JackTestServer::Cycles::IN_TIME) {
-        ASSERT_TRUE(m_server.start(cycles)) << m_server.process()->output();
+    void startServer(JackTestServer::Cycles cycles = JackTestServer::Cycles::IN_TIME,
+                     int frames = JackTestServer::CALM_FRAMES) {
+        ASSERT_TRUE(m_server.start(cycles, frames)) << m_server.process()->output();
     }
 
     ChildProcess& server() { return *m_server.process(); }
@@ -288,6 +291,28 @@ TEST_F(JackTest, OnlyTheConnectionsOfDesksAreLeftOut) {
     const auto port = organ->openOutput(other.input());
     ASSERT_NE(port, nullptr);
     EXPECT_TRUE(contains(system->list().inputs, "Mirel Organ:to Mirelle in"));
+}
+
+// JACK's library looks at a client's ports on a thread of its own whenever any program changes something.
+TEST_F(JackTest, PortsCloseWhileOtherProgramsChangeTheirs) {
+    constexpr int ROUNDS = 30;
+    constexpr int FRAMES = 128;
+    startServer(JackTestServer::Cycles::IN_TIME, FRAMES);
+    const auto desk = createMidiSystem(DESK);
+    const auto other = createMidiSystem("Other");
+    std::atomic<bool> isOver = false;
+    std::jthread busy([&] {
+        while (!isOver)
+            other->openVirtualOutput("Notes");
+    });
+    for (int round = 0; round < ROUNDS; ++round) {
+        auto first = desk->openVirtualOutput("First");
+        auto second = desk->openVirtualInput("Second", [](const std::uint8_t*, std::size_t, std::int64_t) {});
+        EXPECT_TRUE(first && second);
+        const std::jthread closing([&first] { first = nullptr; });
+        second = nullptr;
+    }
+    isOver = true;
 }
 
 TEST_F(JackTest, DeskSurvivesTheEndOfTheServerAndFindsTheNextOne) {

@@ -52,7 +52,12 @@ bool JackTestServer::start(Cycles cycles, int frames) {
         command.insert(command.end(), {"-S", "-t", "5000"});
     command.insert(command.end(), {"-d", "dummy", "-r", "48000", "-p", std::to_string(frames)});
     m_process.emplace(command);
-    return eventually([] { return JackServer::connect("probe") != nullptr; });
+    return eventually([&] {
+        // JACK takes the last server of this name for a running one until its process is gone altogether.
+        if (m_process->hasEnded())
+            m_process.emplace(command);
+        return JackServer::connect("probe") != nullptr;
+    });
 }
 
 }
