@@ -1,5 +1,6 @@
 #include "Gui/Rules/ValuePicker.h"
 
+#include "Backend/core/Text.h"
 #include "Backend/midi/Note.h"
 
 namespace Gui {
@@ -38,6 +39,8 @@ std::optional<ValuePicker> makeValuePicker(std::string_view text, const ValueFie
     if (picker.choices.empty())
         return std::nullopt;
 
+    if (field.isNote && Backend::Text::trim(text).empty())
+        return picker;
     const std::int64_t current = readValue(text, field) - min;
     if (current >= 0 && current < static_cast<std::int64_t>(picker.choices.size()))
         picker.current = static_cast<int>(current);

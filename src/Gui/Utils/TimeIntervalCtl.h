@@ -138,6 +138,7 @@ private:
     std::int32_t m_max = 30720;
     bool m_menuShowing = false;
     bool m_invalid = false;
+    bool m_isLockedByMiddle = false;  // So that no button of the mouse is really down.
     TimeIntervalEdit m_edit;
 };
 

@@ -69,10 +69,12 @@ void TimeIntervalCtl::handleMiddleButtonDown(POINT point) {
         return;
     }
     m_gui->setFocus();
-    if (startLock(point))
+    m_isLockedByMiddle = startLock(point);
+    if (m_isLockedByMiddle)
         SetCursor(m_gui->getGdiManager().getRedCursor().handle());
 }
 
+// For as long as a button is down, the mouse stays with this window also beyond the program's own.
 bool TimeIntervalCtl::startLock(POINT point) {
     const RECT knob = knobSquare();
     if (!PtInRect(&knob, point))
@@ -81,7 +83,6 @@ bool TimeIntervalCtl::startLock(POINT point) {
     setNumber(m_windowHandle, CAPTURE_POSITION, point.y + POSITION_OFFSET);
     setNumber(m_windowHandle, CAPTURE_VALUE, getPosition());
     SetCapture(m_windowHandle);
-    // The mouse stays with this window, also beyond the program's own, for as long as a button is down.
     if (sendLeftButton(true))
         setNumber(m_windowHandle, OWN_PRESS, 1);
     return true;
@@ -90,20 +91,28 @@ bool TimeIntervalCtl::startLock(POINT point) {
 bool TimeIntervalCtl::endLock() {
     if (RemovePropA(m_windowHandle, CAPTURED) == nullptr)
         return false;
+    m_isLockedByMiddle = false;
     ReleaseCapture();
     restoreCursor();
     return true;
 }
 
 void TimeIntervalCtl::handleLeftButtonUp() {
+    m_isLockedByMiddle = false;
     if (RemovePropA(m_windowHandle, CAPTURED) != nullptr)
         ReleaseCapture();
+    // After a click so short that it ends before the press that was sent arrives, nothing else would end that one.
+    if (getFlag(m_windowHandle, OWN_PRESS))
+        sendLeftButton(false);
 }
 
 void TimeIntervalCtl::handleCaptureChanged(HWND capturer) {
     // Something else took the mouse away.
-    if (capturer != m_windowHandle && RemovePropA(m_windowHandle, CAPTURED) != nullptr)
-        restoreCursor();
+    if (capturer == m_windowHandle || RemovePropA(m_windowHandle, CAPTURED) == nullptr)
+        return;
+    restoreCursor();
+    if (std::exchange(m_isLockedByMiddle, false))
+        sendLeftButton(false);
 }
 
 void TimeIntervalCtl::drag(int y) {

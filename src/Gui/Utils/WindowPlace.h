@@ -53,6 +53,7 @@ inline void placeWindow(HWND window, const Rect& place) {
         placement.rcNormalPosition = toWindows(place);
         const POINT offset = workAreaOffset(place);
         OffsetRect(&placement.rcNormalPosition, -offset.x, -offset.y);
+        placement.showCmd = SW_SHOWMINNOACTIVE;
         SetWindowPlacement(window, &placement);
         return;
     }

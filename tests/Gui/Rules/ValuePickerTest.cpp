@@ -36,6 +36,14 @@ TEST(ValuePicker, ListsNotesWhateverTheLimits) {
     EXPECT_EQ(makeValuePicker("", field)->choices.size(), 128u);
 }
 
+TEST(ValuePicker, MarksNoNoteForNone) {
+    ValueField field;
+    field.isNote = true;
+    for (const char* text : {"", " "})
+        EXPECT_EQ(makeValuePicker(text, field)->current, ValuePicker::NOTHING);
+    EXPECT_EQ(makeValuePicker("C-1", field)->current, 0);
+}
+
 TEST(ValuePicker, MarksNoNoteBeyondTheLast) {
     ValueField field;
     field.isNote = true;

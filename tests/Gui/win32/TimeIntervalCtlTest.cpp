@@ -205,9 +205,23 @@ TEST_F(TimeIntervalCtlTest, LockEndsWhenTheMouseIsTakenAway) {
     middle();
     SetCapture(top.handle());
     EXPECT_FALSE(isLocked());
+    EXPECT_TRUE(TestSupport::pumpUntil([] { return GetAsyncKeyState(VK_LBUTTON) >= 0; }));
     ReleaseCapture();
     movePointer(window(), KNOB.x, KNOB.y - 9);
     EXPECT_EQ(heard, "");
+}
+
+TEST_F(TimeIntervalCtlTest, AClickThatIsOverAtOnceLeavesNoButtonDown) {
+    movePointer(window(), KNOB.x, KNOB.y);
+    INPUT click[2]{};
+    click[0].type = click[1].type = INPUT_MOUSE;
+    click[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+    click[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
+    SendInput(2, click, sizeof click[0]);
+    EXPECT_TRUE(TestSupport::pumpUntil(
+        [this] { return !isLocked() && !GetPropA(window(), "MYLDOWN") && GetAsyncKeyState(VK_LBUTTON) >= 0; }));
+    clickLeft(window(), TYPE.x, TYPE.y);
+    EXPECT_EQ(heard, "ppq ");
 }
 
 TEST_F(TimeIntervalCtlTest, WheelStepsByWhatLiesBelowIt) {
