@@ -5,6 +5,7 @@
 #include "Backend/core/MirelMessageManager.h"
 #include "Backend/midi/MidiEngineMessageManager.h"
 #include "Host/common/InputEvent.h"
+#include "Platform/MonotonicClock.h"
 #include "Platform/Sleep.h"
 
 #include <chrono>
@@ -32,8 +33,9 @@ void PortDesk::start() {
     auto& manager = m_mirel->getMessageManager();
     // A look that hangs may come back when the desk is gone: it finds the watch and the ports alone.
     m_watcher = std::make_unique<PortWatcher>([this, watch = m_watch, ports = m_ports] {
-        if (watch->isRunning)
-            tellChanges();
+        if (!watch->isRunning)
+            return;
+        tellChanges();
         ports->update();
         if (watch->isRunning)
             tellChanges();
@@ -125,13 +127,30 @@ char PortDesk::findRecorder() const {
     return MirelMidiMessage::DEFAULT_OUTPUT;
 }
 
+PortDesk::Player::Player(PortDesk& desk)
+    : PortPlayer(*desk.m_ports), m_desk(desk), m_takes(desk.m_recordsAll ? PortList::MAX_ROWS : 0) {}
+
 void PortDesk::Player::playMidi(const MirelMidiMessage& message) {
     PortPlayer::playMidi(message);
-    if (!m_desk.m_recordsAll || message.getOutput() == m_desk.m_recorder)
+    if (m_desk.m_recordsAll && message.getOutput() != m_desk.m_recorder)
+        record(message);
+}
+
+void PortDesk::Player::record(const MirelMidiMessage& message) {
+    const std::size_t output = static_cast<unsigned char>(message.getOutput());  // One below 0 is beyond all.
+    if (output >= m_takes.size() || m_takes[output].isSwitchedOff || !message.getMidiMessage().isValid())
         return;
     MirelMidiMessage copy(message);
     copy.setOutput(m_desk.m_recorder);
     PortPlayer::playMidi(copy);
+    m_takes[output].sounding.sent({message.getMidiMessage().getMidiOutShortMsg(), 0});
+}
+
+// The desk plays no more ends of notes to an output that is switched off, as the port gets them at its close.
+void PortDesk::Player::endTake(Take& take) const {
+    take.sounding.end(Platform::monotonicMicroseconds(), [this](const OutputEvent& ending) {
+        m_desk.m_ports->play(m_desk.m_recorder, ending.bytes, ending.microseconds);
+    });
 }
 
 void PortDesk::Player::enableMidiInput(int port, bool enable) {
@@ -141,6 +160,11 @@ void PortDesk::Player::enableMidiInput(int port, bool enable) {
 
 void PortDesk::Player::enableMidiOutput(int port, bool enable) {
     PortPlayer::enableMidiOutput(port, enable);
+    if (const auto output = static_cast<std::size_t>(port); output < m_takes.size()) {
+        m_takes[output].isSwitchedOff = !enable;
+        if (!enable)
+            endTake(m_takes[output]);
+    }
     m_desk.noteSwitch();
 }
 

@@ -4,9 +4,11 @@
 #include "Host/common/MidiPorts.h"
 #include "Host/common/PortPlayer.h"
 #include "Host/common/PortWatcher.h"
+#include "Host/common/SoundingNotes.h"
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace Host {
 
@@ -54,14 +56,24 @@ private:
     // The desk's host: real ports, of which the desk hears anew when it switches one on or off.
     class Player : public PortPlayer {
     public:
-        explicit Player(PortDesk& desk) : PortPlayer(*desk.m_ports), m_desk(desk) {}
+        explicit Player(PortDesk& desk);
 
         void playMidi(const Backend::MidiEngine::MirelMidiMessage& message) override;
         void enableMidiInput(int port, bool enable) override;
         void enableMidiOutput(int port, bool enable) override;
 
     private:
+        // An output as the take has it.
+        struct Take {
+            SoundingNotes sounding;
+            bool isSwitchedOff = false;
+        };
+
+        void record(const Backend::MidiEngine::MirelMidiMessage& message);
+        void endTake(Take& take) const;
+
         PortDesk& m_desk;
+        std::vector<Take> m_takes;  // By output; none unless all is recorded. Under the engine's lock.
     };
 
     // What of the watch outlives the desk if a look at the ports hangs.

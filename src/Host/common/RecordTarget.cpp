@@ -18,7 +18,10 @@ bool canRecordTo(const std::string& path) {
 std::optional<std::string> keepRecording(const Recorder& recorder, const std::string& path) {
     if (recorder.write(path))
         return path;
-    const std::string other = Platform::Files::join(Backend::MirelUtils::getMirelAppDataDir(), "Rescued recording.mid");
+    const std::string begin = Platform::Files::join(Backend::MirelUtils::getMirelAppDataDir(), "Rescued recording");
+    std::string other = begin + ".mid";
+    for (int number = 2; Platform::Files::size(other); ++number)
+        other = begin + " " + std::to_string(number) + ".mid";
     return recorder.write(other) ? std::optional(other) : std::nullopt;
 }
 

@@ -122,6 +122,23 @@ TEST_F(PortDeskTest, RecordsWhatGoesToAnotherOutput) {
     }
 }
 
+TEST_F(PortDeskTest, NotesOfAnOutputThatIsSwitchedOffEndInTheTake) {
+    system->plugOutputs({"Synth"});
+    const auto desk = make(true);
+    desk->start();
+    const int synth = findOutput(*desk, "Synth");
+    play(*desk, synth, MidiMessage::NoteOn, 60);
+    ASSERT_TRUE(eventually([&] { return desk->ports().recorder().size() == 1; }));
+    desk->mirel().getMessageManager().postEnableMidiOutput(synth, false);
+    EXPECT_TRUE(eventually([&] { return desk->ports().recorder().size() == 2; }));
+    desk->mirel().getMessageManager().postEnableMidiOutput(synth, true);
+    desk->waitUntilIdle();
+    play(*desk, synth, MidiMessage::NoteOn, 61);
+    EXPECT_TRUE(eventually([&] { return desk->ports().recorder().size() == 3; }));
+    EXPECT_TRUE(desk->stop());
+    EXPECT_NE(desk->ports().recorder().content().value_or("").find("\x80\x3c\x40"), std::string::npos);
+}
+
 TEST_F(PortDeskTest, RecordsAlsoWhenTheRecorderIsSwitchedOff) {
     system->plugOutputs({"Synth"});
     const auto desk = make(true);
@@ -160,10 +177,10 @@ TEST_F(PortDeskTest, HearsOfPortsThatComeWhileItStarts) {
     });
     desk->start();
     user.join();
+    // The desk plays to none that it has not heard of.
     EXPECT_TRUE(eventually([&] {
-        const auto& ports = desk->mirel().getMidiOutputPorts();
-        desk->waitUntilIdle();
-        return std::any_of(ports.begin(), ports.end(), [](const auto& port) { return port.name == "Late"; });
+        play(*desk, findOutput(*desk, "Late"), MidiMessage::NoteOn, 60);
+        return !system->sent("Late").empty();
     }));
     EXPECT_TRUE(desk->stop());
 }

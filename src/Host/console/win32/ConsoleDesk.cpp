@@ -96,6 +96,8 @@ void ConsoleDesk::closeRequested() {
 void ConsoleDesk::sessionEnds() {
     m_isClosing = true;
     m_hasSessionEnded = true;
+    if (m_isRemovingWindow)
+        return;  // It comes while the window waits for the desk; what follows there ends the desk.
     if (m_gui)
         m_gui->destroy();
     endDesk();
@@ -103,7 +105,17 @@ void ConsoleDesk::sessionEnds() {
 }
 
 void ConsoleDesk::openRequested(const OpenRequest& request) {
-    // The desk may be closed while a box waits for its answer.
+    // What comes while a request waits for its bank must not change the bank before that goes on.
+    m_requests.push_back(request);
+    while (!m_isAwaitingBank && !m_requests.empty()) {
+        const OpenRequest next = m_requests.front();
+        m_requests.pop_front();
+        open(next);
+    }
+}
+
+// The desk may be closed while a box waits for its answer.
+void ConsoleDesk::open(const OpenRequest& request) {
     if (!m_isClosing && !request.bank.empty())
         openBank(request.bank);
     for (const std::string& file : request.files)
@@ -191,11 +203,14 @@ void ConsoleDesk::openProgram(const std::string& wanted) {
 
 // The desk may wait for its log, and that for this thread's windows.
 void ConsoleDesk::waitForBank() {
+    m_isAwaitingBank = true;
     while (!m_isClosing && !m_desk.mirel().getMessageManagerMaster().isIdle())
         Platform::sleepAnsweringWindows(1);
+    m_isAwaitingBank = false;
 }
 
 void ConsoleDesk::removeWindow() {
+    m_isRemovingWindow = true;
     if (m_gui)
         m_gui->destroy();
     if (m_frame)

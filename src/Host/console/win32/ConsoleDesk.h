@@ -5,6 +5,7 @@
 #include "Host/console/OpenRequest.h"
 #include "Host/console/win32/FrameWindow.h"
 
+#include <deque>
 #include <memory>
 #include <optional>
 #include <string>
@@ -48,6 +49,7 @@ private:
     FrameWindow::Options frameOptions();
     void chooseOutputs();
     void loadFirstPrograms();
+    void open(const OpenRequest& request);
     void openFile(const std::string& path);
     void openBank(const std::string& path);
     void openProgram(const std::string& wanted);
@@ -63,6 +65,9 @@ private:
     std::optional<std::string> m_recording;  // Where it lies, once the desk has ended.
     bool m_isClosing = false;
     bool m_hasSessionEnded = false;
+    bool m_isRemovingWindow = false;
+    bool m_isAwaitingBank = false;
+    std::deque<OpenRequest> m_requests;  // Not opened yet.
     bool m_hasToldFailure = false;
 };
 
