@@ -198,11 +198,10 @@ LRESULT DisplayPanel::editProc(HWND window, UINT message, WPARAM wParam, LPARAM 
                 break;
             handlePress(window, lParam);
             return 0;
-        case WM_DESTROY: {
+        case WM_DESTROY:
             m_edit = nullptr;
             RemovePropA(window, OBJECT);
             return passOnForTheLastTime(window, PROCEDURE, message, wParam, lParam);
-        }
         default: break;
     }
     return callOriginal(window, PROCEDURE, message, wParam, lParam);

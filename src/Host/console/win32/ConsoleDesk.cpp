@@ -12,7 +12,6 @@
 #include "Host/common/RecordTarget.h"
 #include "Host/common/StartChoices.h"
 #include "Host/console/DeskFileName.h"
-#include "Host/console/FrameTitle.h"
 #include "Host/console/win32/SingleInstance.h"
 #include "Platform/Files.h"
 #include "Platform/Sleep.h"

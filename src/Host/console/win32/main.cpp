@@ -5,7 +5,6 @@
 #include "Host/common/RecordTarget.h"
 #include "Host/console/CommandLine.h"
 #include "Host/console/DeskFileName.h"
-#include "Host/console/FrameTitle.h"
 #include "Host/console/win32/ConsoleDesk.h"
 #include "Host/console/win32/SingleInstance.h"
 #include "Platform/Files.h"

@@ -405,62 +405,48 @@ TEST_F(FrameWindowTest, FilesThatAreDroppedAreOpened) {
     EXPECT_EQ(listener.requests[0].files, (std::vector<std::string>{"C:\\a.bnk", "C:\\Zo\xc3\xab.prg"}));
 }
 
-TEST_F(FrameWindowTest, TakesTheRequestsOfAnotherStart) {
-    open();
-    SingleInstance first("frame window test");
-    ASSERT_EQ(first.enter({}), SingleInstance::Result::first);
-    first.announce(window());
-    const OpenRequest request{"C:\\b.bnk", "Lead", {"C:\\x.prg"}};
-    auto result = SingleInstance::Result::failed;
+// What another start with these data comes to, while the window, which belongs to a first one, answers.
+SingleInstance::Result startAgain(HWND window, const std::string& data, const OpenRequest& request,
+                                  const std::string& sameData,
+                                  std::chrono::milliseconds limit = SingleInstance::WAIT_LIMIT) {
+    SingleInstance first(data);
+    EXPECT_EQ(first.enter({}), SingleInstance::Result::first);
+    first.announce(window);
     std::atomic<bool> done = false;
+    auto result = SingleInstance::Result::first;
     {
         // Locks know threads, so another one can stand for another process.
         const TestSupport::OtherThread other([&] {
-            SingleInstance second("FRAME window TEST\\");
-            result = second.enter(request);
+            result = SingleInstance(sameData).enter(request, limit);
             done = true;
         });
         EXPECT_TRUE(pumpUntil([&done] { return done.load(); }));
     }
-    EXPECT_EQ(result, SingleInstance::Result::handedOver);
+    return result;
+}
+
+TEST_F(FrameWindowTest, TakesTheRequestsOfAnotherStart) {
+    open();
+    const OpenRequest request{"C:\\b.bnk", "Lead", {"C:\\x.prg"}};
+    EXPECT_EQ(startAgain(window(), "frame window test", request, "FRAME window TEST\\"),
+              SingleInstance::Result::handedOver);
     EXPECT_EQ(listener.requests, std::vector<OpenRequest>{request});
 }
 
 TEST_F(FrameWindowTest, AClosingDeskTakesNoRequests) {
     open();
-    SingleInstance first("closing frame");
-    ASSERT_EQ(first.enter({}), SingleInstance::Result::first);
-    first.announce(window());
     listener.opens = false;
-    auto result = SingleInstance::Result::handedOver;
-    std::atomic<bool> done = false;
-    {
-        const TestSupport::OtherThread other([&] {
-            SingleInstance second("closing frame");
-            result = second.enter({"C:\\b.bnk", "", {}}, std::chrono::milliseconds(100));
-            done = true;
-        });
-        EXPECT_TRUE(pumpUntil([&done] { return done.load(); }));
-    }
-    EXPECT_EQ(result, SingleInstance::Result::failed) << "it would have started when this one is gone";
+    EXPECT_EQ(
+        startAgain(window(), "closing frame", {"C:\\b.bnk", "", {}}, "closing frame", std::chrono::milliseconds(100)),
+        SingleInstance::Result::failed)
+        << "it would have started when this one is gone";
     EXPECT_TRUE(listener.requests.empty());
 }
 
 TEST_F(FrameWindowTest, AFailureStaysInsideTheWindow) {
     open();
-    SingleInstance first("failing frame");
-    ASSERT_EQ(first.enter({}), SingleInstance::Result::first);
-    first.announce(window());
     listener.isFailing = true;
-    std::atomic<bool> done = false;
-    {
-        const TestSupport::OtherThread other([&done] {
-            SingleInstance second("failing frame");
-            second.enter({"C:\\b.bnk", "", {}});
-            done = true;
-        });
-        EXPECT_TRUE(pumpUntil([&done] { return done.load(); }));
-    }
+    startAgain(window(), "failing frame", {"C:\\b.bnk", "", {}}, "failing frame");
     EXPECT_EQ(listener.requests.size(), 1u);
     listener.isFailing = false;
     tell(WM_CLOSE);
