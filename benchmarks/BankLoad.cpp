@@ -1,6 +1,6 @@
 // How long does it take to load a bank of 128 full programs?
-#include "Backend/core/Bank.h"
 #include "Backend/core/MirelMessageManager.h"
+#include "Backend/core/files/Bank.h"
 #include "Platform/Files.h"
 #include "Platform/MonotonicClock.h"
 #include "Platform/TemporaryFolder.h"

@@ -1,6 +1,6 @@
 #include "benchmarks/BenchDesk.h"
 
-#include "Backend/core/MirelUtils.h"
+#include "Backend/core/installation/MirelUtils.h"
 #include "Platform/MonotonicClock.h"
 
 namespace Benchmarks {

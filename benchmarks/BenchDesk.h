@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Host/common/MidiPorts.h"
-#include "Host/common/ObservedMirel.h"
-#include "Host/common/PortPlayer.h"
+#include "Host/common/desk/ObservedMirel.h"
+#include "Host/common/desk/PortPlayer.h"
+#include "Host/common/ports/MidiPorts.h"
 
 #include <atomic>
 #include <cstdint>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Backend/midi/LayerList.h"
-#include "Backend/midi/MidiEngine.h"
-#include "Host/common/ObservedMirel.h"
+#include "Backend/midi/engine/MidiEngine.h"
+#include "Backend/midi/layers/LayerList.h"
+#include "Host/common/desk/ObservedMirel.h"
 
 #include <memory>
 #include <string>

@@ -1,7 +1,7 @@
 #include "benchmarks/FullBank.h"
 
-#include "Backend/core/BankFile.h"
-#include "Backend/input/DefaultXml.h"
+#include "Backend/core/files/BankFile.h"
+#include "Backend/core/files/DefaultXml.h"
 
 #include <array>
 

@@ -10,8 +10,8 @@
 #include "Platform/TemporaryFolder.h"
 #include "benchmarks/Report.h"
 #include "benchmarks/RunningProgram.h"
-#include "tests/Host/common/posix/JackTestClient.h"
-#include "tests/Host/common/posix/JackTestServer.h"
+#include "tests/Host/common/ports/posix/JackTestClient.h"
+#include "tests/Host/common/ports/posix/JackTestServer.h"
 
 #include <algorithm>
 #include <cmath>

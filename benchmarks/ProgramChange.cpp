@@ -1,8 +1,8 @@
 // How long does it take, from the reset until all is rebuilt, to change the program while the player runs?
-#include "Backend/core/Bank.h"
 #include "Backend/core/MirelMessageManager.h"
-#include "Backend/core/Program.h"
-#include "Backend/functions/SelectType.h"
+#include "Backend/core/files/Bank.h"
+#include "Backend/core/files/Program.h"
+#include "Backend/functions/values/SelectType.h"
 #include "Platform/Files.h"
 #include "Platform/MonotonicClock.h"
 #include "Platform/TemporaryFolder.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/Host/common/posix/ChildProcess.h"
+#include "tests/Host/common/ports/posix/ChildProcess.h"
 
 #include <string>
 #include <vector>

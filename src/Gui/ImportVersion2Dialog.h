@@ -3,7 +3,7 @@
 
 #include "Backend/core/MirelMessageManager.h"
 #include "Backend/core/WindowMessages.h"
-#include "Gui/Utils/ModalDialog.h"
+#include "Gui/Utils/widgets/ModalDialog.h"
 
 #include <string>
 #include <utility>

@@ -2,13 +2,13 @@
 // (which screens show), MirelGuiChanges.cpp (what the desk tells) and MirelGuiDialogs.cpp.
 #include "Gui/MirelGui.h"
 
-#include "Backend/core/DisplayMessageManager.h"
 #include "Backend/core/MirelIF.h"
-#include "Backend/core/MirelUtils.h"
-#include "Backend/core/Trace.h"
+#include "Backend/core/installation/MirelUtils.h"
+#include "Backend/core/log/DisplayMessageManager.h"
+#include "Backend/core/trace/Trace.h"
 #include "Gui/ResourceIds.h"
-#include "Gui/Utils/WindowPlace.h"
-#include "Gui/Utils/WindowProperties.h"
+#include "Gui/Utils/windows/WindowPlace.h"
+#include "Gui/Utils/windows/WindowProperties.h"
 #include "Platform/Shell.h"
 
 #include <objbase.h>

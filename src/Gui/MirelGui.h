@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Backend/core/GuiMessageManagerMaster.h"
-#include "Backend/core/ScreenState.h"
+#include "Backend/core/messages/GuiMessageManagerMaster.h"
+#include "Backend/core/settings/ScreenState.h"
 #include "Gui/ComputerInput/ComputerInputPanel.h"
 #include "Gui/Controls/ControlPanel.h"
 #include "Gui/Display/DisplayPanel.h"
@@ -9,17 +9,17 @@
 #include "Gui/MirelGuiIF.h"
 #include "Gui/MirelGuiMessageManager.h"
 #include "Gui/Output/OutputPanel.h"
-#include "Gui/Rules/HeldKeys.h"
-#include "Gui/Rules/InitialWindowPosition.h"
+#include "Gui/Rules/keys/HeldKeys.h"
+#include "Gui/Rules/places/InitialWindowPosition.h"
 #include "Gui/System/SetupDialog.h"
 #include "Gui/System/SystemPanel.h"
-#include "Gui/Utils/Button.h"
-#include "Gui/Utils/GdiManager.h"
-#include "Gui/Utils/KeyboardHookProxy.h"
-#include "Gui/Utils/KeyboardLossWatch.h"
-#include "Gui/Utils/PopupMenu.h"
 #include "Gui/Utils/SkinPanel.h"
-#include "Gui/Utils/Skinner.h"
+#include "Gui/Utils/skin/GdiManager.h"
+#include "Gui/Utils/skin/PopupMenu.h"
+#include "Gui/Utils/skin/Skinner.h"
+#include "Gui/Utils/widgets/Button.h"
+#include "Gui/Utils/windows/KeyboardHookProxy.h"
+#include "Gui/Utils/windows/KeyboardLossWatch.h"
 
 #include <memory>
 #include <string>

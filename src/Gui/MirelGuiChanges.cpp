@@ -1,14 +1,14 @@
 // What the desk tells its window: each change goes into the window's own copy and then to the screens that show it.
 #include "Gui/MirelGui.h"
 
-#include "Backend/core/DisplayMessageManager.h"
-#include "Backend/core/MessageManagerMaster.h"
 #include "Backend/core/MirelIF.h"
 #include "Backend/core/MirelMessageManager.h"
-#include "Backend/core/MirelUtils.h"
+#include "Backend/core/installation/MirelUtils.h"
+#include "Backend/core/log/DisplayMessageManager.h"
+#include "Backend/core/messages/MessageManagerMaster.h"
 #include "Backend/midi/MirelMidiMessage.h"
-#include "Backend/midi/SequencePresetManager.h"
-#include "Gui/Utils/UserMessages.h"
+#include "Backend/midi/sequences/SequencePresetManager.h"
+#include "Gui/Utils/windows/UserMessages.h"
 #include "Platform/Files.h"
 #include "Platform/Sleep.h"
 

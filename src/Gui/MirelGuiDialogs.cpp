@@ -3,8 +3,8 @@
 
 #include "Backend/core/MirelMessageManager.h"
 #include "Gui/ImportVersion2Dialog.h"
-#include "Gui/Utils/FileDialog.h"
-#include "Gui/Utils/TextPrompt.h"
+#include "Gui/Utils/widgets/FileDialog.h"
+#include "Gui/Utils/widgets/TextPrompt.h"
 
 namespace Gui {
 

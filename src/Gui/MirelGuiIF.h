@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Backend/core/Bank.h"
-#include "Backend/core/Program.h"
-#include "Backend/core/Rect.h"
-#include "Backend/core/RegistrySettings.h"
+#include "Backend/core/files/Bank.h"
+#include "Backend/core/files/Program.h"
+#include "Backend/core/settings/Rect.h"
+#include "Backend/core/settings/RegistrySettings.h"
 #include "Backend/midi/MidiPort.h"
-#include "Backend/midi/SequencePresetManager.h"
+#include "Backend/midi/sequences/SequencePresetManager.h"
 
 #include <windows.h>
 

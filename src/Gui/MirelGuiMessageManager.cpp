@@ -1,9 +1,9 @@
 #include "Gui/MirelGuiMessageManager.h"
 
-#include "Backend/core/MessagePayload.h"
-#include "Backend/core/MessageRanges.h"
 #include "Backend/core/WindowMessages.h"
-#include "Backend/functions/RelativeFixedValue.h"
+#include "Backend/core/messages/MessagePayload.h"
+#include "Backend/core/messages/MessageRanges.h"
+#include "Backend/functions/values/RelativeFixedValue.h"
 #include "Backend/midi/MirelMidiMessage.h"
 #include "Gui/MirelGui.h"
 

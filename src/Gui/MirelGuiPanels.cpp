@@ -1,9 +1,9 @@
 // Which screens show.
 #include "Gui/MirelGui.h"
 
-#include "Backend/functions/RelativeFixedValue.h"
-#include "Gui/Rules/WindowMove.h"
-#include "Gui/Utils/UserMessages.h"
+#include "Backend/functions/values/RelativeFixedValue.h"
+#include "Gui/Rules/places/WindowMove.h"
+#include "Gui/Utils/windows/UserMessages.h"
 
 namespace Gui {
 

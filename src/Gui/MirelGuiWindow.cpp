@@ -1,17 +1,17 @@
 // The messages of the window and the keys of the computer's keyboard.
 #include "Gui/MirelGui.h"
 
-#include "Backend/core/MessageRanges.h"
 #include "Backend/core/MirelIF.h"
 #include "Backend/core/MirelMessageManager.h"
 #include "Backend/core/WindowMessages.h"
-#include "Backend/functions/OnOffToggle.h"
-#include "Backend/functions/RelativeFixedValue.h"
+#include "Backend/core/messages/MessageRanges.h"
+#include "Backend/functions/values/OnOffToggle.h"
+#include "Backend/functions/values/RelativeFixedValue.h"
 #include "Gui/ResourceIds.h"
-#include "Gui/Rules/KeyTranslation.h"
-#include "Gui/Utils/UserMessages.h"
-#include "Gui/Utils/WindowClass.h"
-#include "Gui/Utils/WindowProcedure.h"
+#include "Gui/Rules/keys/KeyTranslation.h"
+#include "Gui/Utils/windows/UserMessages.h"
+#include "Gui/Utils/windows/WindowClass.h"
+#include "Gui/Utils/windows/WindowProcedure.h"
 #include "Platform/Shell.h"
 
 #include <windowsx.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Backend/core/MirelUtils.h"
-#include "Host/cli/ScriptDesk.h"
+#include "Backend/core/installation/MirelUtils.h"
+#include "Host/cli/script/ScriptDesk.h"
 #include "Platform/Files.h"
 #include "Platform/TemporaryFolder.h"
 

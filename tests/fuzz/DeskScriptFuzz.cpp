@@ -1,8 +1,8 @@
 // Any bytes as a desk script, on a desk of its own, in a folder that nothing leaves.
-#include "Backend/core/MirelUtils.h"
-#include "Host/cli/ScriptArguments.h"
-#include "Host/cli/ScriptCommands.h"
-#include "Host/cli/ScriptError.h"
+#include "Backend/core/installation/MirelUtils.h"
+#include "Host/cli/script/ScriptArguments.h"
+#include "Host/cli/script/ScriptCommands.h"
+#include "Host/cli/script/ScriptError.h"
 #include "Platform/TemporaryFolder.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 // Any bytes as a file to check. Each complaint is one line of printable text about a line that the file has, and the
 // same file is always told the same.
-#include "Host/cli/FileCheck.h"
+#include "Host/cli/check/FileCheck.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,7 +1,7 @@
 // Any bytes as the keys of a program, and as the name of a key. Functions equal their copies and what is read back of
 // them. What was written is read back to the same text for good from the second time on: at first a key may become one
 // without a name, and then there is but one of these.
-#include "Backend/core/XmlDocument.h"
+#include "Backend/core/xml/XmlDocument.h"
 #include "Backend/input/KeyConfigurationMap.h"
 #include "tests/support/FakeHost.h"
 

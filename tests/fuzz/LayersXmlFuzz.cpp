@@ -1,9 +1,9 @@
 // Any bytes as a list of layers and of zones. What was written once is read back to the same text for good; only the
 // first time may it settle, as a limit that is no note is written empty and so read as none.
-#include "Backend/core/XmlDocument.h"
-#include "Backend/midi/LayerList.h"
-#include "Backend/midi/SequencePresetManager.h"
-#include "Backend/midi/ZoneMap.h"
+#include "Backend/core/xml/XmlDocument.h"
+#include "Backend/midi/layers/LayerList.h"
+#include "Backend/midi/layers/ZoneMap.h"
+#include "Backend/midi/sequences/SequencePresetManager.h"
 
 #include <cstdlib>
 #include <sstream>

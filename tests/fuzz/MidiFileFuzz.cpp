@@ -1,8 +1,8 @@
 // Any bytes as a MIDI file. Those that can be read are written in both layouts and read back: the events have to be the
 // same.
-#include "Host/common/MidiFileClock.h"
-#include "Host/common/MidiFileReader.h"
-#include "Host/common/MidiFileWriter.h"
+#include "Host/common/midifile/MidiFileClock.h"
+#include "Host/common/midifile/MidiFileReader.h"
+#include "Host/common/midifile/MidiFileWriter.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,7 +1,7 @@
 // Texts of notes, fractions, cells and selectors: any text gives some value, whose own text reads back to itself.
-#include "Backend/functions/RelativeFixedValue.h"
-#include "Backend/functions/SelectControlType.h"
-#include "Backend/functions/SelectType.h"
+#include "Backend/functions/values/RelativeFixedValue.h"
+#include "Backend/functions/values/SelectControlType.h"
+#include "Backend/functions/values/SelectType.h"
 #include "Backend/midi/Fraction.h"
 #include "Backend/midi/Note.h"
 

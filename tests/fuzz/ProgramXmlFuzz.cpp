@@ -1,8 +1,8 @@
 // Any bytes as a program. What was written twice reads back to the same text, and a bank that takes it in keeps its
 // other programs.
-#include "Backend/core/BankFile.h"
-#include "Backend/core/XmlDocument.h"
-#include "Backend/core/XmlElement.h"
+#include "Backend/core/files/BankFile.h"
+#include "Backend/core/xml/XmlDocument.h"
+#include "Backend/core/xml/XmlElement.h"
 #include "tests/fuzz/DeskFiles.h"
 
 #include <cstdlib>

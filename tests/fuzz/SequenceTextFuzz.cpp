@@ -1,5 +1,5 @@
 // The text of a sequence: any text gives some sequence, whose own text reads back to itself.
-#include "Backend/midi/Sequence.h"
+#include "Backend/midi/sequences/Sequence.h"
 
 #include <cstdlib>
 

@@ -1,5 +1,5 @@
 // Any bytes as the file of settings. What was read is there again after it was written.
-#include "Backend/core/RegistrySettings.h"
+#include "Backend/core/settings/RegistrySettings.h"
 #include "Platform/Files.h"
 #include "Platform/TemporaryFolder.h"
 

@@ -1,7 +1,7 @@
 // Any bytes as a version 2 bank, program and preset of each kind. What comes of it can be read.
-#include "Backend/core/Version2Import.h"
-#include "Backend/core/XmlDocument.h"
-#include "Backend/core/XmlElement.h"
+#include "Backend/core/version2/Version2Import.h"
+#include "Backend/core/xml/XmlDocument.h"
+#include "Backend/core/xml/XmlElement.h"
 #include "tests/fuzz/DeskFiles.h"
 
 #include <cstdlib>

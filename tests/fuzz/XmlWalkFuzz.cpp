@@ -1,5 +1,5 @@
 // Any bytes as a document, walked whole through the cursor.
-#include "Backend/core/XmlDocument.h"
+#include "Backend/core/xml/XmlDocument.h"
 
 namespace {
 

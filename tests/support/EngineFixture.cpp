@@ -1,8 +1,8 @@
 #include "tests/support/EngineFixture.h"
 
-#include "Backend/core/XmlDocument.h"
-#include "Backend/core/XmlElement.h"
-#include "Backend/midi/SequencePresetManager.h"
+#include "Backend/core/xml/XmlDocument.h"
+#include "Backend/core/xml/XmlElement.h"
+#include "Backend/midi/sequences/SequencePresetManager.h"
 
 namespace TestSupport {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Backend/midi/LayerList.h"
-#include "Backend/midi/MidiEngine.h"
+#include "Backend/midi/engine/MidiEngine.h"
+#include "Backend/midi/layers/LayerList.h"
 #include "tests/support/FakeHost.h"
 
 #include <memory>

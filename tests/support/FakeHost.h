@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Backend/midi/MidiPlayer.h"
-#include "Host/common/ObservedMirel.h"
+#include "Host/common/desk/ObservedMirel.h"
 #include "Platform/MessageThread.h"
 
 #include <atomic>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Host/common/MidiSystem.h"
+#include "Host/common/ports/MidiSystem.h"
 
 #include <atomic>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "tests/support/FunctionRows.h"
 
-#include "Backend/core/XmlDocument.h"
+#include "Backend/core/xml/XmlDocument.h"
 #include "Backend/functions/FunctionFactory.h"
 #include "Backend/functions/NoFunction.h"
 #include "tests/support/DataTable.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Backend/core/DisplayListener.h"
-#include "Backend/core/DisplayMessageManager.h"
+#include "Backend/core/log/DisplayListener.h"
+#include "Backend/core/log/DisplayMessageManager.h"
 
 #include <string>
 

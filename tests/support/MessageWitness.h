@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Backend/core/MessageManager.h"
+#include "Backend/core/messages/MessageManager.h"
 #include "Platform/AutoResetEvent.h"
 
 #include <utility>

@@ -1,10 +1,10 @@
 #include "tests/support/RunningDesk.h"
 
-#include "Backend/core/DisplayListener.h"
-#include "Backend/core/MessagePayload.h"
-#include "Backend/core/MirelUtils.h"
-#include "Host/cli/EventText.h"
-#include "Host/cli/WindowText.h"
+#include "Backend/core/installation/MirelUtils.h"
+#include "Backend/core/log/DisplayListener.h"
+#include "Backend/core/messages/MessagePayload.h"
+#include "Host/cli/script/EventText.h"
+#include "Host/cli/script/WindowText.h"
 #include "Platform/SettingsStore.h"
 
 #include <thread>

@@ -1,7 +1,7 @@
 #include "tests/support/ScriptedDesk.h"
 
-#include "Backend/core/MirelUtils.h"
-#include "Host/cli/ScriptCommands.h"
+#include "Backend/core/installation/MirelUtils.h"
+#include "Host/cli/script/ScriptCommands.h"
 #include "Platform/Files.h"
 
 #include <sstream>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Backend/functions/Function.h"
-#include "Host/cli/ScriptDesk.h"
+#include "Host/cli/script/ScriptDesk.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <string>

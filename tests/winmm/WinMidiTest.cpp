@@ -1,6 +1,6 @@
 // The desk's ports at the real multimedia calls, with the devices of the tests' own driver behind them.
-#include "Host/common/MidiPorts.h"
-#include "Host/common/PortPlayer.h"
+#include "Host/common/desk/PortPlayer.h"
+#include "Host/common/ports/MidiPorts.h"
 #include "tests/support/Eventually.h"
 
 #include <gtest/gtest.h>

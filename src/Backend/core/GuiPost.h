@@ -1,8 +1,8 @@
 // Notifications to the desk's window.
 #pragma once
 
-#include "Backend/core/MessagePayload.h"
 #include "Backend/core/MirelIF.h"
+#include "Backend/core/messages/MessagePayload.h"
 #include "Platform/WindowSink.h"
 
 #include <memory>

@@ -3,13 +3,13 @@
 #include "Backend/core/Mirel.h"
 
 #include "Backend/core/GuiPost.h"
-#include "Backend/core/MirelUtils.h"
 #include "Backend/core/WindowMessages.h"
-#include "Backend/functions/NoteToggle.h"
-#include "Backend/functions/OnOffToggle.h"
-#include "Backend/functions/RelativeFixedValue.h"
-#include "Backend/functions/SelectType.h"
-#include "Backend/midi/LayerMessages.h"
+#include "Backend/core/installation/MirelUtils.h"
+#include "Backend/functions/values/NoteToggle.h"
+#include "Backend/functions/values/OnOffToggle.h"
+#include "Backend/functions/values/RelativeFixedValue.h"
+#include "Backend/functions/values/SelectType.h"
+#include "Backend/midi/managers/LayerMessages.h"
 #include "Gui/MirelGuiFactory.h"
 #include "Platform/Files.h"
 #include "Platform/SettingsStore.h"
@@ -31,6 +31,7 @@ Mirel::Mirel(const std::string& name, MidiEngine::MidiPlayer& player)
       m_controls(*this, m_messageManagerMaster),
       m_layers(*this, m_messageManagerMaster, m_sequencePresets),
       m_zones(*this, m_messageManagerMaster) {
+    m_midiEngine.setPassingEvents(m_controls.getMessageManager());
     m_messageManagerMaster.addMessageManager(&m_messageManager);
     m_messageManagerMaster.addMessageManager(&m_computerInput.getMessageManager());
     m_messageManagerMaster.addMessageManager(&m_controls.getMessageManager());

@@ -1,19 +1,19 @@
 #pragma once
 
-#include "Backend/core/Bank.h"
-#include "Backend/core/DisplayMessageManager.h"
-#include "Backend/core/MessageManagerMaster.h"
 #include "Backend/core/MirelIF.h"
 #include "Backend/core/MirelMessageManager.h"
-#include "Backend/core/Program.h"
-#include "Backend/core/RegistrySettings.h"
-#include "Backend/core/ScreenState.h"
+#include "Backend/core/files/Bank.h"
+#include "Backend/core/files/Program.h"
+#include "Backend/core/log/DisplayMessageManager.h"
+#include "Backend/core/messages/MessageManagerMaster.h"
+#include "Backend/core/settings/RegistrySettings.h"
+#include "Backend/core/settings/ScreenState.h"
 #include "Backend/input/ComputerInputManager.h"
-#include "Backend/input/ControlManager.h"
-#include "Backend/midi/LayerManager.h"
-#include "Backend/midi/MidiEngine.h"
-#include "Backend/midi/SequencePresetManager.h"
-#include "Backend/midi/ZoneManager.h"
+#include "Backend/input/controls/ControlManager.h"
+#include "Backend/midi/engine/MidiEngine.h"
+#include "Backend/midi/managers/LayerManager.h"
+#include "Backend/midi/managers/ZoneManager.h"
+#include "Backend/midi/sequences/SequencePresetManager.h"
 
 #include <atomic>
 #include <memory>

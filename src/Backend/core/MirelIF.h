@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Backend/core/Rect.h"
+#include "Backend/core/settings/Rect.h"
 #include "Backend/midi/MidiPort.h"
 #include "Backend/midi/Zone.h"
 #include "Platform/WindowTypes.h"

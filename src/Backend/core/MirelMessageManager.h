@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Backend/core/MessageManager.h"
-#include "Backend/core/Rect.h"
+#include "Backend/core/messages/MessageManager.h"
+#include "Backend/core/settings/Rect.h"
 #include "Backend/midi/MidiPort.h"
 
 #include <string>

@@ -1,15 +1,15 @@
 // Programs and banks of the desk.
-#include "Backend/core/BankFile.h"
-#include "Backend/core/FileTrace.h"
 #include "Backend/core/GuiPost.h"
 #include "Backend/core/Mirel.h"
-#include "Backend/core/Text.h"
-#include "Backend/core/Version2Import.h"
 #include "Backend/core/WindowMessages.h"
-#include "Backend/core/XmlDocument.h"
-#include "Backend/core/XmlElement.h"
-#include "Backend/core/XmlWriting.h"
-#include "Backend/functions/SelectType.h"
+#include "Backend/core/files/BankFile.h"
+#include "Backend/core/trace/FileTrace.h"
+#include "Backend/core/version2/Version2Import.h"
+#include "Backend/core/xml/Text.h"
+#include "Backend/core/xml/XmlDocument.h"
+#include "Backend/core/xml/XmlElement.h"
+#include "Backend/core/xml/XmlWriting.h"
+#include "Backend/functions/values/SelectType.h"
 #include "Platform/Files.h"
 
 #include <sstream>

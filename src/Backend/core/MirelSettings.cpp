@@ -1,11 +1,11 @@
 // Settings and ports of the desk.
 #include "Backend/core/GuiPost.h"
 #include "Backend/core/Mirel.h"
-#include "Backend/core/MirelUtils.h"
 #include "Backend/core/WindowMessages.h"
-#include "Backend/functions/OnOffToggle.h"
-#include "Backend/functions/RelativeFixedValue.h"
-#include "Backend/functions/SelectType.h"
+#include "Backend/core/installation/MirelUtils.h"
+#include "Backend/functions/values/OnOffToggle.h"
+#include "Backend/functions/values/RelativeFixedValue.h"
+#include "Backend/functions/values/SelectType.h"
 
 #include <algorithm>
 #include <array>

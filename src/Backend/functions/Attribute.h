@@ -1,9 +1,9 @@
 // How the parameters of a function are stored as attributes of its element.
 #pragma once
 
-#include "Backend/core/XmlElement.h"
-#include "Backend/core/XmlItem.h"
-#include "Backend/core/XmlWriting.h"
+#include "Backend/core/xml/XmlElement.h"
+#include "Backend/core/xml/XmlItem.h"
+#include "Backend/core/xml/XmlWriting.h"
 
 #include <ostream>
 #include <string>

@@ -1,6 +1,6 @@
 #include "Backend/functions/ControlFunctions.h"
 
-#include "Backend/input/ControlMessages.h"
+#include "Backend/input/controls/ControlMessages.h"
 #include "Platform/WindowSink.h"
 
 namespace Backend::FunctionManagement::Functions {

@@ -1,6 +1,6 @@
 #include "Backend/functions/FunctionFactory.h"
 
-#include "Backend/core/XmlElement.h"
+#include "Backend/core/xml/XmlElement.h"
 #include "Backend/functions/Functions.h"
 
 namespace Backend::FunctionManagement {

@@ -2,7 +2,7 @@
 
 #include "Backend/functions/FunctionClasses.h"
 #include "Backend/functions/FunctionVisitor.h"
-#include "Backend/functions/TypeList.h"
+#include "Backend/functions/values/TypeList.h"
 
 #include <cstddef>
 #include <tuple>

@@ -4,13 +4,13 @@
 
 #include "Backend/functions/FunctionClasses.h"
 #include "Backend/functions/FunctionSettingsType.h"
-#include "Backend/functions/NoteToggle.h"
-#include "Backend/functions/OnOffToggle.h"
-#include "Backend/functions/RelativeFixedValue.h"
-#include "Backend/functions/SelectControlType.h"
-#include "Backend/functions/SelectType.h"
-#include "Backend/functions/TypeList.h"
-#include "Backend/functions/VisitorOperations.h"
+#include "Backend/functions/values/NoteToggle.h"
+#include "Backend/functions/values/OnOffToggle.h"
+#include "Backend/functions/values/RelativeFixedValue.h"
+#include "Backend/functions/values/SelectControlType.h"
+#include "Backend/functions/values/SelectType.h"
+#include "Backend/functions/values/TypeList.h"
+#include "Backend/functions/values/VisitorOperations.h"
 #include "Backend/midi/MidiMessage.h"
 
 #include <string>

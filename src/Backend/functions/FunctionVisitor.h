@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Backend/functions/FunctionClasses.h"
-#include "Backend/functions/TypeList.h"
-#include "Backend/functions/VisitorOperations.h"
+#include "Backend/functions/values/TypeList.h"
+#include "Backend/functions/values/VisitorOperations.h"
 
 namespace Backend::FunctionManagement {
 

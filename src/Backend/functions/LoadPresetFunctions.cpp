@@ -1,7 +1,7 @@
 #include "Backend/functions/LoadPresetFunctions.h"
 
-#include "Backend/input/ControlManager.h"
-#include "Backend/midi/LayerManager.h"
+#include "Backend/input/controls/ControlManager.h"
+#include "Backend/midi/managers/LayerManager.h"
 
 namespace Backend::FunctionManagement::Functions {
 

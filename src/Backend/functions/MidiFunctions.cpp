@@ -1,6 +1,6 @@
 #include "Backend/functions/MidiFunctions.h"
 
-#include "Backend/midi/MidiEngineMessageManager.h"
+#include "Backend/midi/engine/MidiEngineMessageManager.h"
 
 namespace Backend::FunctionManagement::Functions {
 

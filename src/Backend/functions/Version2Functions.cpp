@@ -1,6 +1,6 @@
 #include "Backend/functions/Version2Functions.h"
 
-#include "Backend/core/Text.h"
+#include "Backend/core/xml/Text.h"
 #include "Backend/functions/ComputerInputPresetNames.h"
 #include "Backend/functions/Functions.h"
 

@@ -1,7 +1,7 @@
 #include "Backend/input/ButtonConfiguration.h"
 
-#include "Backend/core/XmlElement.h"
-#include "Backend/core/XmlWriting.h"
+#include "Backend/core/xml/XmlElement.h"
+#include "Backend/core/xml/XmlWriting.h"
 #include "Backend/functions/FunctionFactory.h"
 #include "Backend/functions/FunctionList.h"
 

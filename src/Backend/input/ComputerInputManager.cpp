@@ -2,12 +2,12 @@
 
 #include "Backend/core/GuiPost.h"
 #include "Backend/core/MirelIF.h"
-#include "Backend/core/Text.h"
-#include "Backend/core/XmlDocument.h"
-#include "Backend/core/XmlElement.h"
-#include "Backend/core/XmlWriting.h"
+#include "Backend/core/files/DefaultXml.h"
+#include "Backend/core/xml/Text.h"
+#include "Backend/core/xml/XmlDocument.h"
+#include "Backend/core/xml/XmlElement.h"
+#include "Backend/core/xml/XmlWriting.h"
 #include "Backend/input/ComputerInputMessages.h"
-#include "Backend/input/DefaultXml.h"
 
 namespace Backend::ComputerInput {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Backend/core/PresetFolder.h"
+#include "Backend/core/files/PresetFolder.h"
 #include "Backend/input/ComputerInputMessageManager.h"
 #include "Backend/input/KeyConfigurationMap.h"
 

@@ -1,8 +1,8 @@
 #include "Backend/input/ComputerInputMessageManager.h"
 
-#include "Backend/core/MessageManagerMaster.h"
-#include "Backend/core/MessagePayload.h"
-#include "Backend/core/MessageRanges.h"
+#include "Backend/core/messages/MessageManagerMaster.h"
+#include "Backend/core/messages/MessagePayload.h"
+#include "Backend/core/messages/MessageRanges.h"
 #include "Backend/input/ComputerInputManager.h"
 #include "Backend/input/ComputerInputMessages.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Backend/core/MessageManager.h"
+#include "Backend/core/messages/MessageManager.h"
 #include "Backend/input/Key.h"
 
 #include <string>

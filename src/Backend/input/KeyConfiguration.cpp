@@ -1,7 +1,7 @@
 #include "Backend/input/KeyConfiguration.h"
 
-#include "Backend/core/XmlElement.h"
-#include "Backend/core/XmlWriting.h"
+#include "Backend/core/xml/XmlElement.h"
+#include "Backend/core/xml/XmlWriting.h"
 
 namespace Backend::ComputerInput {
 

@@ -1,7 +1,7 @@
 #include "Backend/input/KeyConfigurationMap.h"
 
-#include "Backend/core/HashMapIterator.h"
-#include "Backend/core/XmlElement.h"
+#include "Backend/core/collections/HashMapIterator.h"
+#include "Backend/core/xml/XmlElement.h"
 
 #include <algorithm>
 

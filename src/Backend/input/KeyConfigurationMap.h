@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Backend/core/ElementCollection.h"
+#include "Backend/core/collections/ElementCollection.h"
 #include "Backend/input/KeyConfiguration.h"
 
 #include <istream>

@@ -1,6 +1,6 @@
 #include "Backend/midi/Cell.h"
 
-#include "Backend/core/Text.h"
+#include "Backend/core/xml/Text.h"
 
 using Backend::Text::readInteger;
 using Backend::Text::trim;

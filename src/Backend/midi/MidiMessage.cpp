@@ -1,6 +1,6 @@
 #include "Backend/midi/MidiMessage.h"
 
-#include "Backend/core/Text.h"
+#include "Backend/core/xml/Text.h"
 #include "Backend/midi/MidiNames.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "Backend/midi/Note.h"
 
-#include "Backend/core/Text.h"
+#include "Backend/core/xml/Text.h"
 
 #include <array>
 #include <cctype>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Backend/core/XmlItem.h"
+#include "Backend/core/xml/XmlItem.h"
 
 #include <cstdint>
 #include <string_view>

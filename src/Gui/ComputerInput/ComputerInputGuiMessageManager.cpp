@@ -1,7 +1,7 @@
 #include "Gui/ComputerInput/ComputerInputGuiMessageManager.h"
 
-#include "Backend/core/MessagePayload.h"
-#include "Backend/core/MessageRanges.h"
+#include "Backend/core/messages/MessagePayload.h"
+#include "Backend/core/messages/MessageRanges.h"
 #include "Backend/input/ComputerInputMessages.h"
 #include "Gui/ComputerInput/ComputerInputPanel.h"
 

@@ -4,7 +4,7 @@
 #include "Backend/functions/Functions.h"
 #include "Backend/input/ComputerInputManager.h"
 #include "Gui/MirelGuiIF.h"
-#include "Gui/Utils/KeyboardHookProxy.h"
+#include "Gui/Utils/windows/KeyboardHookProxy.h"
 
 namespace Gui::ComputerInput {
 

@@ -1,8 +1,8 @@
 #include "Gui/Controls/ControlGuiMessageManager.h"
 
-#include "Backend/core/MessagePayload.h"
-#include "Backend/core/MessageRanges.h"
-#include "Backend/input/ControlMessages.h"
+#include "Backend/core/messages/MessagePayload.h"
+#include "Backend/core/messages/MessageRanges.h"
+#include "Backend/input/controls/ControlMessages.h"
 #include "Gui/Controls/ControlPanel.h"
 
 namespace Gui::Controls {

@@ -1,7 +1,7 @@
 #include "Gui/Controls/ControlPanel.h"
 
 #include "Backend/core/MirelIF.h"
-#include "Backend/input/ControlManager.h"
+#include "Backend/input/controls/ControlManager.h"
 #include "Gui/MirelGuiIF.h"
 
 namespace Gui::Controls {

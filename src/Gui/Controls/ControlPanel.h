@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Backend/input/ControlMap.h"
+#include "Backend/input/controls/ControlMap.h"
 #include "Gui/Controls/ControlGuiMessageManager.h"
 #include "Gui/Controls/MainPanel.h"
 #include "Gui/Controls/SettingsPanel.h"

@@ -1,15 +1,15 @@
 #include "Gui/Display/DisplayPanel.h"
 
-#include "Backend/core/DisplayMessageManager.h"
 #include "Backend/core/MirelMessageManager.h"
+#include "Backend/core/log/DisplayMessageManager.h"
 #include "Gui/MirelGuiIF.h"
 #include "Gui/ResourceIds.h"
-#include "Gui/Rules/DisplayText.h"
-#include "Gui/Utils/DeviceContexts.h"
-#include "Gui/Utils/GdiManager.h"
-#include "Gui/Utils/SkinProperties.h"
-#include "Gui/Utils/UserMessages.h"
-#include "Gui/Utils/WindowProcedure.h"
+#include "Gui/Rules/texts/DisplayText.h"
+#include "Gui/Utils/skin/GdiManager.h"
+#include "Gui/Utils/skin/SkinProperties.h"
+#include "Gui/Utils/windows/DeviceContexts.h"
+#include "Gui/Utils/windows/UserMessages.h"
+#include "Gui/Utils/windows/WindowProcedure.h"
 
 #include <windowsx.h>
 

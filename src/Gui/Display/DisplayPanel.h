@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Backend/core/DisplayListener.h"
-#include "Gui/Utils/PopupMenu.h"
+#include "Backend/core/log/DisplayListener.h"
 #include "Gui/Utils/SkinPanel.h"
+#include "Gui/Utils/skin/PopupMenu.h"
 
 #include <windows.h>
 

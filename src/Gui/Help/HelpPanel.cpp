@@ -1,13 +1,13 @@
 #include "Gui/Help/HelpPanel.h"
 
-#include "Backend/core/MirelUtils.h"
+#include "Backend/core/installation/MirelUtils.h"
 #include "Gui/Help/ModuleTime.h"
 #include "Gui/MirelGuiIF.h"
 #include "Gui/ResourceIds.h"
-#include "Gui/Rules/AboutText.h"
-#include "Gui/Utils/GdiManager.h"
-#include "Gui/Utils/SkinProperties.h"
-#include "Gui/Utils/WindowProperties.h"
+#include "Gui/Rules/texts/AboutText.h"
+#include "Gui/Utils/skin/GdiManager.h"
+#include "Gui/Utils/skin/SkinProperties.h"
+#include "Gui/Utils/windows/WindowProperties.h"
 #include "Platform/Shell.h"
 
 namespace Gui::Help {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Gui/Rules/HelpHover.h"
-#include "Gui/Utils/Button.h"
+#include "Gui/Rules/places/HelpHover.h"
 #include "Gui/Utils/SkinPanel.h"
+#include "Gui/Utils/widgets/Button.h"
 
 #include <windows.h>
 

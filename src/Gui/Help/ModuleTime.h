@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Gui/Rules/AboutText.h"
+#include "Gui/Rules/texts/AboutText.h"
 
 #include <windows.h>
 

@@ -1,10 +1,10 @@
 #include "Gui/Layers/LayerGuiMessageManager.h"
 
-#include "Backend/core/MessagePayload.h"
-#include "Backend/core/MessageRanges.h"
-#include "Backend/functions/RelativeFixedValue.h"
-#include "Backend/functions/SelectType.h"
-#include "Backend/midi/LayerMessages.h"
+#include "Backend/core/messages/MessagePayload.h"
+#include "Backend/core/messages/MessageRanges.h"
+#include "Backend/functions/values/RelativeFixedValue.h"
+#include "Backend/functions/values/SelectType.h"
+#include "Backend/midi/managers/LayerMessages.h"
 #include "Gui/Layers/LayerPanel.h"
 
 namespace Gui::Layers {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Backend/core/GuiMessageManager.h"
+#include "Backend/core/messages/GuiMessageManager.h"
 
 namespace Gui::Layers {
 

@@ -1,7 +1,7 @@
 #include "Gui/Layers/LayerPanel.h"
 
 #include "Backend/core/MirelIF.h"
-#include "Backend/midi/LayerManager.h"
+#include "Backend/midi/managers/LayerManager.h"
 #include "Gui/MirelGuiIF.h"
 
 namespace Gui::Layers {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Backend/midi/LayerList.h"
+#include "Backend/midi/layers/LayerList.h"
 #include "Gui/Layers/LayerGuiMessageManager.h"
 #include "Gui/Layers/MainPanel.h"
 #include "Gui/Layers/SettingsPanel.h"

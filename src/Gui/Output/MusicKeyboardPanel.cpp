@@ -2,8 +2,8 @@
 
 #include "Gui/MirelGuiIF.h"
 #include "Gui/ResourceIds.h"
-#include "Gui/Utils/SkinProperties.h"
-#include "Gui/Utils/WindowProperties.h"
+#include "Gui/Utils/skin/SkinProperties.h"
+#include "Gui/Utils/windows/WindowProperties.h"
 
 namespace Gui::Output {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Gui/Utils/Button.h"
-#include "Gui/Utils/MusicKeyboardCtl.h"
 #include "Gui/Utils/SkinPanel.h"
+#include "Gui/Utils/widgets/Button.h"
+#include "Gui/Utils/widgets/MusicKeyboardCtl.h"
 
 namespace Gui::Output {
 

@@ -1,7 +1,7 @@
 #include "Gui/Output/OutputPanel.h"
 
-#include "Backend/core/GuiMessageManagerMaster.h"
-#include "Backend/core/Trace.h"
+#include "Backend/core/messages/GuiMessageManagerMaster.h"
+#include "Backend/core/trace/Trace.h"
 #include "Gui/MirelGuiIF.h"
 
 namespace Gui::Output {

@@ -1,7 +1,7 @@
 #include "Gui/System/DisplayPage.h"
 
 #include "Backend/core/MirelMessageManager.h"
-#include "Backend/core/RegistrySettings.h"
+#include "Backend/core/settings/RegistrySettings.h"
 #include "Gui/MirelGuiIF.h"
 #include "Gui/ResourceIds.h"
 

@@ -1,12 +1,12 @@
 #include "Gui/System/GeneralPage.h"
 
 #include "Backend/core/MirelMessageManager.h"
-#include "Backend/core/RegistrySettings.h"
+#include "Backend/core/settings/RegistrySettings.h"
 #include "Gui/MirelGuiIF.h"
 #include "Gui/ResourceIds.h"
-#include "Gui/Rules/SetupValues.h"
-#include "Gui/Utils/Skinner.h"
-#include "Gui/Utils/WindowText.h"
+#include "Gui/Rules/values/SetupValues.h"
+#include "Gui/Utils/skin/Skinner.h"
+#include "Gui/Utils/windows/WindowText.h"
 
 namespace Gui::System {
 

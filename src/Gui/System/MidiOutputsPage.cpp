@@ -3,8 +3,8 @@
 #include "Backend/core/MirelMessageManager.h"
 #include "Gui/MirelGuiIF.h"
 #include "Gui/ResourceIds.h"
-#include "Gui/Utils/GdiManager.h"
-#include "Gui/Utils/WindowProperties.h"
+#include "Gui/Utils/skin/GdiManager.h"
+#include "Gui/Utils/windows/WindowProperties.h"
 
 #include <commctrl.h>
 

@@ -1,7 +1,7 @@
 #include "Gui/System/ProgramNameComboBox.h"
 
 #include "Gui/MirelGuiIF.h"
-#include "Gui/Utils/GdiManager.h"
+#include "Gui/Utils/skin/GdiManager.h"
 
 namespace Gui::System {
 

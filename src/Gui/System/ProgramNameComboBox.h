@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Gui/System/ProgramNameEditBox.h"
-#include "Gui/Utils/ComboBox.h"
+#include "Gui/Utils/widgets/ComboBox.h"
 
 #include <memory>
 

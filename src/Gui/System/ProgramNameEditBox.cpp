@@ -2,10 +2,10 @@
 
 #include "Backend/core/MirelMessageManager.h"
 #include "Gui/MirelGuiIF.h"
-#include "Gui/Rules/TextCut.h"
-#include "Gui/Utils/GdiManager.h"
-#include "Gui/Utils/WindowProperties.h"
-#include "Gui/Utils/WindowText.h"
+#include "Gui/Rules/texts/TextCut.h"
+#include "Gui/Utils/skin/GdiManager.h"
+#include "Gui/Utils/windows/WindowProperties.h"
+#include "Gui/Utils/windows/WindowText.h"
 
 namespace Gui::System {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Gui/Utils/EditBox.h"
+#include "Gui/Utils/widgets/EditBox.h"
 
 #include <string>
 

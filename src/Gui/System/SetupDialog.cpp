@@ -1,7 +1,7 @@
 #include "Gui/System/SetupDialog.h"
 
 #include "Gui/MirelGuiIF.h"
-#include "Gui/Rules/SheetPlacement.h"
+#include "Gui/Rules/places/SheetPlacement.h"
 #include "Platform/Shell.h"
 
 #include <prsht.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Gui/Rules/LoopbackGuard.h"
+#include "Gui/Rules/keys/LoopbackGuard.h"
 #include "Gui/System/DisplayPage.h"
 #include "Gui/System/GeneralPage.h"
 #include "Gui/System/MidiOutputsPage.h"

@@ -1,11 +1,11 @@
 #include "Gui/System/SetupPage.h"
 
-#include "Backend/core/MirelUtils.h"
+#include "Backend/core/installation/MirelUtils.h"
 #include "Gui/MirelGuiIF.h"
-#include "Gui/Utils/GdiManager.h"
-#include "Gui/Utils/SkinProperties.h"
-#include "Gui/Utils/Skinner.h"
-#include "Gui/Utils/WindowProcedure.h"
+#include "Gui/Utils/skin/GdiManager.h"
+#include "Gui/Utils/skin/SkinProperties.h"
+#include "Gui/Utils/skin/Skinner.h"
+#include "Gui/Utils/windows/WindowProcedure.h"
 #include "Platform/Shell.h"
 
 namespace Gui::System {

@@ -1,15 +1,15 @@
 #include "Gui/System/SystemPanel.h"
 
 #include "Backend/core/MirelMessageManager.h"
-#include "Backend/functions/OnOffToggle.h"
-#include "Backend/functions/SelectType.h"
+#include "Backend/functions/values/OnOffToggle.h"
+#include "Backend/functions/values/SelectType.h"
 #include "Gui/MirelGuiIF.h"
 #include "Gui/ResourceIds.h"
-#include "Gui/Rules/ProgramListText.h"
-#include "Gui/Utils/FileDialog.h"
-#include "Gui/Utils/GdiManager.h"
-#include "Gui/Utils/SkinProperties.h"
-#include "Gui/Utils/WindowProperties.h"
+#include "Gui/Rules/texts/ProgramListText.h"
+#include "Gui/Utils/skin/GdiManager.h"
+#include "Gui/Utils/skin/SkinProperties.h"
+#include "Gui/Utils/widgets/FileDialog.h"
+#include "Gui/Utils/windows/WindowProperties.h"
 
 #include <windowsx.h>
 

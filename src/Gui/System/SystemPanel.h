@@ -1,10 +1,10 @@
 #pragma once
 
 #include "Gui/System/ProgramNameComboBox.h"
-#include "Gui/Utils/Button.h"
-#include "Gui/Utils/ComboBox.h"
-#include "Gui/Utils/PopupMenu.h"
 #include "Gui/Utils/SkinPanel.h"
+#include "Gui/Utils/skin/PopupMenu.h"
+#include "Gui/Utils/widgets/Button.h"
+#include "Gui/Utils/widgets/ComboBox.h"
 
 #include <windows.h>
 

@@ -1,8 +1,8 @@
 #include "Gui/Utils/Panel.h"
 
-#include "Backend/core/Trace.h"
-#include "Gui/Utils/WindowClass.h"
-#include "Gui/Utils/WindowProcedure.h"
+#include "Backend/core/trace/Trace.h"
+#include "Gui/Utils/windows/WindowClass.h"
+#include "Gui/Utils/windows/WindowProcedure.h"
 
 #include <algorithm>
 #include <string>

@@ -1,6 +1,6 @@
 #include "Gui/Utils/SkinPanel.h"
 
-#include "Gui/Utils/UserMessages.h"
+#include "Gui/Utils/windows/UserMessages.h"
 
 #include <optional>
 

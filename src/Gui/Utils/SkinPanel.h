@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Gui/Utils/Panel.h"
-#include "Gui/Utils/Skinner.h"
+#include "Gui/Utils/skin/Skinner.h"
 
 namespace Gui {
 

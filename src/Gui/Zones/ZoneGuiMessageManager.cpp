@@ -1,8 +1,8 @@
 #include "Gui/Zones/ZoneGuiMessageManager.h"
 
-#include "Backend/core/MessagePayload.h"
-#include "Backend/core/MessageRanges.h"
-#include "Backend/midi/ZoneMessages.h"
+#include "Backend/core/messages/MessagePayload.h"
+#include "Backend/core/messages/MessageRanges.h"
+#include "Backend/midi/managers/ZoneMessages.h"
 #include "Gui/Zones/ZonePanel.h"
 
 namespace Gui::Zones {

@@ -1,7 +1,7 @@
 #include "Gui/Zones/ZonePanel.h"
 
 #include "Backend/core/MirelIF.h"
-#include "Backend/midi/ZoneManager.h"
+#include "Backend/midi/managers/ZoneManager.h"
 #include "Gui/MirelGuiIF.h"
 
 namespace Gui::Zones {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Backend/midi/ZoneMap.h"
+#include "Backend/midi/layers/ZoneMap.h"
 #include "Gui/Utils/SkinPanel.h"
 #include "Gui/Zones/MainPanel.h"
 #include "Gui/Zones/ZoneGuiMessageManager.h"

@@ -1,10 +1,10 @@
 #include "Host/cli/PortsCommand.h"
 
-#include "Backend/core/MirelUtils.h"
+#include "Backend/core/installation/MirelUtils.h"
 #include "Host/cli/ExitStatus.h"
-#include "Host/common/MidiSystem.h"
-#include "Host/common/PortFiles.h"
-#include "Host/common/Recorder.h"
+#include "Host/common/ports/MidiSystem.h"
+#include "Host/common/ports/PortFiles.h"
+#include "Host/common/ports/Recorder.h"
 
 #include <cstdio>
 

@@ -1,11 +1,11 @@
 // The desk without a window.
-#include "Host/cli/CheckCommand.h"
 #include "Host/cli/ExitStatus.h"
-#include "Host/cli/ImportCommand.h"
 #include "Host/cli/PortsCommand.h"
-#include "Host/cli/RenderCommand.h"
-#include "Host/cli/RunCommand.h"
-#include "Host/cli/ScriptCommand.h"
+#include "Host/cli/check/CheckCommand.h"
+#include "Host/cli/import/ImportCommand.h"
+#include "Host/cli/render/RenderCommand.h"
+#include "Host/cli/run/RunCommand.h"
+#include "Host/cli/script/ScriptCommand.h"
 #include "Platform/StandardStreams.h"
 
 #include <array>

@@ -1,6 +1,6 @@
 #include "Host/console/FramePlacement.h"
 
-#include "Gui/Rules/WindowMove.h"
+#include "Gui/Rules/places/WindowMove.h"
 #include "Host/console/FrameLayout.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // Where the desk's window is on the screen. Rectangles are those of whole windows, in pixels.
 #pragma once
 
-#include "Backend/core/Rect.h"
+#include "Backend/core/settings/Rect.h"
 
 #include <cstdint>
 

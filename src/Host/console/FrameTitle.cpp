@@ -1,6 +1,6 @@
 #include "Host/console/FrameTitle.h"
 
-#include "Backend/core/Product.h"
+#include "Backend/core/installation/Product.h"
 
 namespace Host::Console {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Backend/core/Rect.h"
+#include "Backend/core/settings/Rect.h"
 #include "Host/console/FrameLayout.h"
 
 #include <cstddef>

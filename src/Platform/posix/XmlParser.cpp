@@ -1,6 +1,6 @@
-#include "Platform/XmlParser.h"
+#include "Platform/xml/XmlParser.h"
 
-#include "Platform/XmlTreeBuilder.h"
+#include "Platform/xml/XmlTreeBuilder.h"
 
 #include <libxml/SAX2.h>
 #include <libxml/parser.h>

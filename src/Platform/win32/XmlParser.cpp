@@ -1,7 +1,7 @@
-#include "Platform/XmlParser.h"
+#include "Platform/xml/XmlParser.h"
 
-#include "Platform/XmlTreeBuilder.h"
 #include "Platform/win32/ComPointer.h"
+#include "Platform/xml/XmlTreeBuilder.h"
 
 #include <windows.h>
 

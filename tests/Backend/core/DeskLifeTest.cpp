@@ -1,9 +1,9 @@
 // The start and the end of a desk, and its threads.
-#include "Backend/core/DisplayListener.h"
 #include "Backend/core/MirelFactory.h"
-#include "Backend/core/XmlDocument.h"
-#include "Backend/core/XmlElement.h"
-#include "Backend/functions/RelativeFixedValue.h"
+#include "Backend/core/log/DisplayListener.h"
+#include "Backend/core/xml/XmlDocument.h"
+#include "Backend/core/xml/XmlElement.h"
+#include "Backend/functions/values/RelativeFixedValue.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/RunningDesk.h"
 

@@ -1,8 +1,8 @@
 // Ports, tempo and the other musical settings of the desk.
-#include "Backend/core/DisplayMessageManager.h"
-#include "Backend/functions/OnOffToggle.h"
-#include "Backend/functions/RelativeFixedValue.h"
-#include "Backend/functions/SelectType.h"
+#include "Backend/core/log/DisplayMessageManager.h"
+#include "Backend/functions/values/OnOffToggle.h"
+#include "Backend/functions/values/RelativeFixedValue.h"
+#include "Backend/functions/values/SelectType.h"
 #include "tests/support/RunningDesk.h"
 
 #include <gtest/gtest.h>

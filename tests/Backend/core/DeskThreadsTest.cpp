@@ -1,7 +1,7 @@
 // Many threads at the desk at once. What matters here is what the thread sanitizer says.
-#include "Backend/functions/OnOffToggle.h"
-#include "Backend/functions/RelativeFixedValue.h"
-#include "Backend/functions/SelectType.h"
+#include "Backend/functions/values/OnOffToggle.h"
+#include "Backend/functions/values/RelativeFixedValue.h"
+#include "Backend/functions/values/SelectType.h"
 #include "tests/support/Eventually.h"
 #include "tests/support/RunningDesk.h"
 

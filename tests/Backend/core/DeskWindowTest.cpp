@@ -1,7 +1,7 @@
 // What the desk tells its window, and that it tells nobody else.
-#include "Backend/functions/OnOffToggle.h"
-#include "Backend/functions/RelativeFixedValue.h"
-#include "Backend/functions/SelectType.h"
+#include "Backend/functions/values/OnOffToggle.h"
+#include "Backend/functions/values/RelativeFixedValue.h"
+#include "Backend/functions/values/SelectType.h"
 #include "tests/support/DataTable.h"
 #include "tests/support/RunningDesk.h"
 

@@ -1,4 +1,4 @@
-#include "Backend/core/XmlDocument.h"
+#include "Backend/core/xml/XmlDocument.h"
 #include "Backend/functions/FunctionFactory.h"
 #include "Backend/functions/NoFunction.h"
 #include "Backend/input/KeyConfiguration.h"

@@ -1,5 +1,5 @@
 // Key events and presets of a whole desk.
-#include "Backend/core/XmlDocument.h"
+#include "Backend/core/xml/XmlDocument.h"
 #include "Platform/Files.h"
 #include "tests/support/AllocationCounter.h"
 #include "tests/support/ScriptedDesk.h"

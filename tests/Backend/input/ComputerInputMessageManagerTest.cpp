@@ -1,5 +1,5 @@
-#include "Backend/core/MessageManagerMaster.h"
-#include "Backend/core/MessagePayload.h"
+#include "Backend/core/messages/MessageManagerMaster.h"
+#include "Backend/core/messages/MessagePayload.h"
 #include "Backend/input/ComputerInputManager.h"
 #include "Backend/input/ComputerInputMessages.h"
 #include "tests/support/FakeHost.h"

@@ -1,6 +1,6 @@
 // The keys that a desk starts with, one by one.
-#include "Backend/core/XmlDocument.h"
-#include "Backend/input/DefaultXml.h"
+#include "Backend/core/files/DefaultXml.h"
+#include "Backend/core/xml/XmlDocument.h"
 #include "Backend/input/KeyConfigurationMap.h"
 #include "tests/support/DataTable.h"
 #include "tests/support/FakeHost.h"

@@ -1,4 +1,4 @@
-#include "Backend/core/XmlDocument.h"
+#include "Backend/core/xml/XmlDocument.h"
 #include "Backend/input/KeyConfigurationMap.h"
 #include "tests/support/FakeHost.h"
 

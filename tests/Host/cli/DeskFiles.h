@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Backend/functions/FunctionList.h"
-#include "Host/cli/ScriptCommand.h"
+#include "Host/cli/script/ScriptCommand.h"
 #include "Platform/Files.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "Gui/Rules/WindowMove.h"
+#include "Gui/Rules/places/WindowMove.h"
 #include "Host/console/FrameLayout.h"
 #include "Host/console/FramePlacement.h"
 #include "Host/console/FrameTitle.h"

@@ -1,7 +1,7 @@
 #include "tests/support/win32/DeskGui.h"
 
 #include "Backend/core/MirelMessages.h"
-#include "Backend/functions/SelectType.h"
+#include "Backend/functions/values/SelectType.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Backend/core/MessageManager.h"
-#include "Backend/core/MessageManagerMaster.h"
 #include "Backend/core/MirelMessageManager.h"
+#include "Backend/core/messages/MessageManager.h"
+#include "Backend/core/messages/MessageManagerMaster.h"
 #include "tests/support/RunningDesk.h"
 #include "tests/support/win32/FakeMirelGui.h"
 

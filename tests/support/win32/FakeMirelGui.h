@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Backend/core/GuiMessageManagerMaster.h"
+#include "Backend/core/messages/GuiMessageManagerMaster.h"
 #include "Gui/MirelGuiIF.h"
-#include "Gui/Utils/GdiManager.h"
-#include "Gui/Utils/Skinner.h"
+#include "Gui/Utils/skin/GdiManager.h"
+#include "Gui/Utils/skin/Skinner.h"
 #include "Platform/SettingsStore.h"
 
 #include <memory>

@@ -1,6 +1,6 @@
 #include "tests/support/win32/WindowDesk.h"
 
-#include "Backend/core/MirelUtils.h"
+#include "Backend/core/installation/MirelUtils.h"
 #include "Backend/input/Key.h"
 #include "Platform/Sleep.h"
 #include "tests/support/RunningDesk.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Host/common/PortDesk.h"
+#include "Host/common/desk/PortDesk.h"
 #include "Host/console/CommandLine.h"
 #include "Host/console/OpenRequest.h"
 #include "Host/console/win32/FrameWindow.h"

@@ -1,6 +1,6 @@
 #include "Host/console/win32/FrameBorder.h"
 
-#include "Gui/Utils/DrawnText.h"
+#include "Gui/Utils/skin/DrawnText.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // The desk with a window.
-#include "Backend/core/MirelUtils.h"
-#include "Backend/core/Product.h"
-#include "Host/common/MidiSystem.h"
-#include "Host/common/RecordTarget.h"
+#include "Backend/core/installation/MirelUtils.h"
+#include "Backend/core/installation/Product.h"
+#include "Host/common/desk/RecordTarget.h"
+#include "Host/common/ports/MidiSystem.h"
 #include "Host/console/CommandLine.h"
 #include "Host/console/DeskFileName.h"
 #include "Host/console/win32/ConsoleDesk.h"

@@ -1,5 +1,5 @@
-#include "Gui/Rules/WindowMove.h"
-#include "Gui/Utils/UserMessages.h"
+#include "Gui/Rules/places/WindowMove.h"
+#include "Gui/Utils/windows/UserMessages.h"
 #include "Host/console/win32/FrameWindow.h"
 #include "Host/console/win32/SingleInstance.h"
 #include "tests/support/win32/TestWindows.h"

@@ -1,5 +1,5 @@
 // The program as a user starts it.
-#include "Gui/Utils/UserMessages.h"
+#include "Gui/Utils/windows/UserMessages.h"
 #include "Host/console/win32/SingleInstance.h"
 #include "Platform/Files.h"
 #include "tests/support/CurrentFolder.h"

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Backend/core/xml/XmlItem.h"
+
+#include <cstdint>
+#include <string_view>
+
+// How a layer turns key presses into long notes.
+class NoteToggle : public Backend::XmlItem {
+public:
+    enum State : std::int32_t {
+        off = 0,
+        type1 = 1,  // The second press of a key ends its note.
+        type2 = 2,  // The second press of a key ends its note and starts it again.
+    };
+
+    NoteToggle() = default;
+    explicit NoteToggle(State state) : m_state(state) {}
+
+    // "type1" and "type2", exactly; anything else is off.
+    explicit NoteToggle(std::string_view text) : m_state(text == "type1" ? type1 : text == "type2" ? type2 : off) {}
+
+    State getState() const { return m_state; }
+
+    std::string toXmlString() const override { return m_state == type1 ? "type1" : m_state == type2 ? "type2" : "off"; }
+
+    bool operator==(const NoteToggle& other) const { return m_state == other.m_state; }
+
+private:
+    State m_state = off;
+};

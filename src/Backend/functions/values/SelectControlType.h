@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Backend/core/xml/XmlItem.h"
+#include "Backend/midi/Cell.h"
+
+#include <cstdint>
+#include <string_view>
+
+// Which control of the grid.
+class SelectControlType : public Backend::XmlItem {
+public:
+    enum Mode : std::int32_t {
+        up = 0,  // The next control above the selected one; the same for the three other directions.
+        down = 1,
+        left = 2,
+        right = 3,
+        selected = 4,
+        specific = 5,  // The control in the cell of getCell.
+        all = 6,
+    };
+
+    SelectControlType() = default;
+
+    // cell counts for specific only.
+    explicit SelectControlType(Mode mode, const Cell& cell = Cell(0, 0)) : m_mode(mode), m_cell(cell) {}
+
+    // The name of a mode, exactly; anything else is a cell "row,col".
+    explicit SelectControlType(std::string_view text);
+
+    Mode getMode() const { return m_mode; }
+    const Cell& getCell() const { return m_cell; }
+
+    std::string toXmlString() const override;
+
+    bool operator==(const SelectControlType& other) const { return m_mode == other.m_mode && m_cell == other.m_cell; }
+
+private:
+    Mode m_mode = up;
+    Cell m_cell = Cell(0, 0);
+};

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Backend/core/xml/XmlItem.h"
+
+#include <cstdint>
+#include <string_view>
+
+// Which item of a list.
+class SelectType : public Backend::XmlItem {
+public:
+    enum Mode : std::int32_t {
+        up = 0,        // The next item.
+        down = 1,      // The previous item.
+        selected = 2,  // The items selected on the screen.
+        specific = 3,  // The item with the index of getValue.
+        all = 4,
+    };
+
+    SelectType() = default;
+
+    // value is the index from 0 and counts for specific only.
+    explicit SelectType(Mode mode, std::int32_t value = 0) : m_mode(mode), m_value(value) {}
+
+    // The name of a mode, exactly; anything else is an index, and 0 if it holds no number.
+    explicit SelectType(std::string_view text);
+
+    Mode getMode() const { return m_mode; }
+    std::int32_t getValue() const { return m_value; }
+
+    std::string toXmlString() const override;
+
+    bool operator==(const SelectType& other) const { return m_mode == other.m_mode && m_value == other.m_value; }
+
+private:
+    Mode m_mode = up;
+    std::int32_t m_value = 0;
+};

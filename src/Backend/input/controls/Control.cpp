@@ -1,0 +1,87 @@
+#include "Backend/input/controls/Control.h"
+
+#include "Backend/core/xml/Text.h"
+#include "Backend/core/xml/XmlElement.h"
+#include "Backend/core/xml/XmlWriting.h"
+#include "Backend/midi/engine/MidiEngineMessageManager.h"
+
+#include <algorithm>
+
+namespace Backend::Controls {
+
+using MidiEngine::MidiMessage;
+using MidiEngine::MirelMidiMessage;
+
+namespace {
+
+void sendEvent(const ControlEvent& event, MidiEngine::MidiEngineMessageManager& engine, std::int32_t value,
+               const Cell& cell) {
+    constexpr int DATA_BITS = 7;
+    constexpr std::int32_t DATA_MASK = 127;
+    MidiMessage message = event.midiMessage;
+    switch (message.getStatus()) {
+        case MidiMessage::PitchBend:
+            message.setD1(Text::lowByte(value & DATA_MASK));
+            message.setD2(Text::lowByte((value >> DATA_BITS) & DATA_MASK));
+            break;
+        case MidiMessage::ControllerChange: message.setD2(Text::lowByte(value)); break;
+        default: message.setD1(Text::lowByte(value)); break;
+    }
+    engine.postPlayMidi(MirelMidiMessage(message, event.output, event.channel, event.zone, cell));
+}
+
+}
+
+Control::Control(const XmlElement& element)
+    : cell(element.getAttribute("cell")),
+      name(element.getAttribute("name")),
+      type(element.getAttribute("type")),
+      value(element.getIntAttribute("value", 0)),
+      min(element.getIntAttribute("min", 0)),
+      max(element.getIntAttribute("max", 127)),
+      release(element.getIntAttribute("release", STAYS)),
+      autoSend(element.getBoolAttribute("autoSend", false)),
+      size(element.getIntAttribute("size", 1)) {
+    for (auto child = element.begin(); child != element.end(); child.next())
+        if (child.getName() == ControlEvent::TAG)
+            events.emplace_back(child);
+}
+
+void Control::writeXml(std::ostream& stream, int indent) const {
+    stream << getIndentation(indent) << getStartTagBegin(TAG) << getAttributeText("cell", cell)
+           << getAttributeText("type", type) << getAttributeText("name", name) << getAttributeText("value", value)
+           << getAttributeText("min", min) << getAttributeText("max", max) << getAttributeText("release", release)
+           << getAttributeText("autoSend", autoSend) << getAttributeText("size", size) << getStartTagEnd() << '\n';
+    for (const ControlEvent& event : events)
+        event.writeXml(stream, indent + 1);
+    stream << getIndentation(indent) << getEndTag(TAG) << '\n';
+}
+
+void Control::setValue(MidiEngine::MidiEngineMessageManager& engine, std::int32_t newValue, bool send) {
+    value = std::clamp(newValue, std::min(min, max), std::max(min, max));
+    if (send)
+        sendEvents(engine);
+}
+
+void Control::sendEvents(MidiEngine::MidiEngineMessageManager& engine) const {
+    if (!type.hasValue())
+        return;
+    for (const ControlEvent& event : events)
+        sendEvent(event, engine, value, cell);
+}
+
+bool Control::isEventValid(int index) const {
+    return index >= 0 && static_cast<std::size_t>(index) < events.size() &&
+           events[static_cast<std::size_t>(index)].midiMessage.isValid();
+}
+
+void Control::setEvent(int index, const MidiMessage& message) {
+    if (index < 0 || static_cast<std::size_t>(index) > events.size())
+        return;
+    if (static_cast<std::size_t>(index) == events.size())
+        events.emplace_back(message);
+    else
+        events[static_cast<std::size_t>(index)].midiMessage = message;
+}
+
+}

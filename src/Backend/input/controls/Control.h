@@ -1,0 +1,69 @@
+#pragma once
+
+#include "Backend/input/controls/ControlEvent.h"
+#include "Backend/input/controls/ControlType.h"
+#include "Backend/midi/Cell.h"
+
+#include <cstdint>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace Backend {
+class XmlElement;
+}
+
+namespace Backend::MidiEngine {
+class MidiEngineMessageManager;
+}
+
+namespace Backend::Controls {
+
+// A fader, knob, edit box or label in a cell of the grid. It sends its value as MIDI events.
+class Control {
+public:
+    static constexpr const char* TAG = "Control";
+    static constexpr std::int32_t STAYS = -1;
+
+    Control() = default;
+    virtual ~Control() = default;
+    Control(const Control&) = default;
+    Control& operator=(const Control&) = default;
+    Control(Control&&) = default;
+    Control& operator=(Control&&) = default;
+
+    // From its element.
+    explicit Control(const XmlElement& element);
+
+    // The element on lines of its own, indent tabs deep.
+    void writeXml(std::ostream& stream, int indent) const;
+
+    // Stores a value, kept between min and max whichever is lower, and sends it if asked.
+    void setValue(MidiEngine::MidiEngineMessageManager& engine, std::int32_t newValue, bool send);
+
+    // Sends the value as it is with every event, if the control has one.
+    void sendEvents(MidiEngine::MidiEngineMessageManager& engine) const;
+
+    // Whether there is an event of this index, from 0, and it is a MIDI event.
+    bool isEventValid(int index) const;
+
+    // Replaces what an event of the list sends, not where; the index after the last adds one. Others are ignored.
+    void setEvent(int index, const MidiEngine::MidiMessage& message);
+
+    // The event that the control follows; null if it has none.
+    const ControlEvent* getFirstEvent() const { return events.empty() ? nullptr : &events.front(); }
+
+    Cell cell;
+    std::string name;
+    ControlType type;
+    std::int32_t value = 0;
+    std::int32_t min = 0;  // May be above max.
+    std::int32_t max = 127;
+    std::int32_t release = STAYS;  // Where it goes when it is let go.
+    bool autoSend = false;         // Sends when it is loaded.
+    std::int32_t size = 1;         // In cells.
+    std::vector<ControlEvent> events;
+    bool selected = false;  // Not saved.
+};
+
+}

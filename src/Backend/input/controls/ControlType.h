@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Backend/core/xml/XmlItem.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace Backend::Controls {
+
+// What a control looks like.
+class ControlType : public XmlItem {
+public:
+    enum Kind : std::int32_t { none = 0, edit = 1, verticalFader = 2, horizontalFader = 3, knob = 4, label = 5 };
+
+    ControlType() = default;
+    explicit ControlType(Kind kind) : m_kind(kind) {}
+
+    // From its text, with case; anything else is none.
+    explicit ControlType(std::string_view text);
+
+    Kind getKind() const { return m_kind; }
+
+    // Whether it has a value to send.
+    bool hasValue() const { return m_kind != none && m_kind != label; }
+
+    std::string toXmlString() const override;
+
+    bool operator==(const ControlType& other) const { return m_kind == other.m_kind; }
+
+private:
+    Kind m_kind = none;
+};
+
+}

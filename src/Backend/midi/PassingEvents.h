@@ -1,0 +1,17 @@
+// Who is told of the events that pass through the engine.
+#pragma once
+
+namespace Backend::MidiEngine {
+
+class MirelMidiMessage;
+
+class PassingEvents {
+public:
+    virtual ~PassingEvents() = default;
+
+    // [player, under the engine's lock] An event that is not a note passed, with the output and channel that it came
+    // with. It never waits; false, and nothing is kept, while the receiver takes no more.
+    virtual bool postUpdateControl(const MirelMidiMessage& message) = 0;
+};
+
+}

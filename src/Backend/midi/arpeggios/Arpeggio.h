@@ -1,0 +1,108 @@
+#pragma once
+
+#include "Backend/midi/TimeInterval.h"
+#include "Backend/midi/arpeggios/ArpeggioNote.h"
+#include "Backend/midi/sequences/SequenceSetting.h"
+
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace Backend::MidiEngine {
+class ArpeggioTarget;
+}
+
+namespace Backend::ArpeggioManagement {
+
+// Holds the notes of a layer and plays them on its own schedule. The engine drives it one ppq at a time, under its
+// lock; until it is given an engine nothing plays and nothing is held.
+class Arpeggio {
+public:
+    // The element of a layer that holds the arpeggio's own.
+    static constexpr const char* TAG = "Arpeggio";
+
+    static constexpr std::int32_t DEFAULT_PPQ = 480;
+
+    // A note beyond this many is not taken, so that keys that never go up can't fill the memory.
+    static constexpr std::size_t MAX_NOTES = 8192;
+
+    virtual ~Arpeggio() = default;
+
+    // A deep copy with the same settings and held notes.
+    virtual std::unique_ptr<Arpeggio> clone() const = 0;
+
+    // The time between two steps. 0 or less never comes.
+    TimeInterval getBeat() const { return TimeInterval(m_beat); }
+    void setBeat(std::int32_t ppq) { m_beat = ppq; }
+
+    // How long a note sounds, at most one beat.
+    TimeInterval getLength() const { return TimeInterval(m_length); }
+    void setLength(std::int32_t ppq) { m_length = ppq; }
+
+    // The name of the element that stores it.
+    virtual const char* getTypeName() const = 0;
+
+    // "Up", for display.
+    virtual const char* getDisplayName() const = 0;
+
+    // Its element on one line, indent tabs deep.
+    void writeXml(std::ostream& stream, int indent) const;
+
+    // [player] A note of the layer.
+    virtual void noteEvent(const MidiEngine::MirelMidiMessage& message,
+                           SequenceManagement::SequenceSetting& sequence) = 0;
+
+    // [player] This ppq has come.
+    virtual void timeEvent(std::int32_t ppq, SequenceManagement::SequenceSetting& sequence) = 0;
+
+    // [player] Ends what sounds and forgets all notes.
+    virtual void reset(SequenceManagement::SequenceSetting& sequence) = 0;
+
+    // When it began to play; -1 if it doesn't.
+    std::int32_t getRunningSince() const { return m_runningSince; }
+
+    // [engine] Also makes room for as many notes as hands hold, so that taking them allocates nothing.
+    void setMidiEngine(MidiEngine::ArpeggioTarget* engine);
+
+    // Whether it holds no notes, so that time passes without effect.
+    bool isIdle() const { return m_notes.empty(); }
+
+    // "Up Arp 1/8 Len:1/16"
+    std::string toString() const;
+
+protected:
+    Arpeggio() = default;
+    Arpeggio(const Arpeggio&) = default;
+    Arpeggio& operator=(const Arpeggio&) = default;
+
+    // Where one ppq lies: on the step, and on the end of the note that sounds.
+    struct Clocks {
+        bool noteEnd;
+        bool onBeat;
+    };
+
+    Clocks readClocks(std::int32_t ppq) const;
+
+    // Sends a note as it is, or through the present node of the sequence if there is one.
+    void sendNote(const ArpeggioNote& note, SequenceManagement::SequenceSetting& sequence);
+
+    void sendNoteOn(ArpeggioNote& note, std::int32_t ppq, SequenceManagement::SequenceSetting& sequence);
+    void sendNoteOff(ArpeggioNote& note, SequenceManagement::SequenceSetting& sequence);
+
+    // Marks it as running since ppq, and as the origin of the common grid if there is none.
+    void startRunning(std::int32_t ppq);
+
+    std::int32_t m_beat = DEFAULT_PPQ;
+    std::int32_t m_length = DEFAULT_PPQ;
+    std::int32_t m_runningSince = -1;
+    std::int32_t m_lastNoteOn = -1;
+    MidiEngine::ArpeggioTarget* m_midiEngine = nullptr;
+    std::vector<ArpeggioNote> m_notes;
+
+private:
+    bool isOnBeat(std::int32_t ppq) const;
+    bool isNoteEnd(std::int32_t ppq) const;
+};
+
+}

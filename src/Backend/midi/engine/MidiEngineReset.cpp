@@ -1,0 +1,73 @@
+// The resets of the engine.
+#include "Backend/midi/engine/MidiEngine.h"
+
+namespace Backend::MidiEngine {
+
+namespace {
+
+constexpr char RELEASE_VELOCITY = 100;
+constexpr char INTERNAL_CLOCK = -1;
+
+}
+
+void MidiEngine::reset() {
+    m_noteCounts.takeAll([this](char output, char channel, char note) {
+        playMidiInternal(MirelMidiMessage(MidiMessage::NoteOff, note, RELEASE_VELOCITY, channel, output,
+                                          MirelMidiMessage::DEFAULT_ZONE, MirelMidiMessage::DEFAULT_INPUT, -1),
+                         false);
+    });
+    m_noteVelocities.clear();
+    for (PlayingLayer& layer : m_layers)
+        layer.reset();
+    m_startTime = -1;
+}
+
+void MidiEngine::hardReset() {
+    reset();
+    for (char channel = 0; channel < static_cast<char>(NoteCounters::CHANNELS); ++channel) {
+        playMidiInternal(MirelMidiMessage::createAllSoundOffCC(m_defaultMidiOutput, channel), false);
+        playMidiInternal(MirelMidiMessage::createAllControllersOffCC(m_defaultMidiOutput, channel), false);
+    }
+    playMidiInternal(MirelMidiMessage::createSystemReset(m_defaultMidiOutput), false);
+}
+
+void MidiEngine::sendReset() {
+    ++m_resetCallers;
+    sendResetOfKind(ResetKind::Soft);
+    --m_resetCallers;
+}
+
+void MidiEngine::sendHardReset() {
+    ++m_resetCallers;
+    sendResetOfKind(ResetKind::Hard);
+    --m_resetCallers;
+}
+
+void MidiEngine::sendResetOfKind(ResetKind kind) {
+    const std::lock_guard<std::mutex> oneSender(m_resetSenders);
+    if (!m_midiPlayerRunning) {
+        CriticalSectionLock lock(m_criticalSection);
+        if (!m_midiPlayerRunning) {
+            kind == ResetKind::Hard ? hardReset() : reset();
+            return;
+        }
+    }
+    // A silent external clock would stop the slices, and with them this.
+    const char tempoSource = getTempoSource();
+    setTempoSource(INTERNAL_CLOCK);
+    if (kind == ResetKind::Hard) {
+        m_isSliceAwaited = true;
+        m_hardResetRequested = true;
+        m_hardResetEvent.wait();
+    } else {
+        {
+            CriticalSectionLock lock(m_criticalSection);
+            postPlayMidi(MirelMidiMessage::createMirelReset());
+            m_isSliceAwaited = true;
+        }
+        m_resetEvent.wait();
+    }
+    setTempoSource(tempoSource);
+}
+
+}

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "Backend/functions/values/NoteToggle.h"
+#include "Backend/functions/values/RelativeFixedValue.h"
+#include "Backend/midi/Fraction.h"
+#include "Backend/midi/Note.h"
+#include "Backend/midi/arpeggios/Arpeggio.h"
+#include "Backend/midi/sequences/SequenceSetting.h"
+
+#include <memory>
+#include <ostream>
+#include <string>
+
+namespace Backend {
+class XmlElement;
+}
+
+namespace Backend::SequenceManagement {
+class SequencePresetManager;
+}
+
+namespace Backend::Layers {
+
+// One rule that turns an incoming event into an outgoing one. Copies are deep.
+struct Layer {
+    static constexpr const char* TAG = "Layer";
+
+    Layer() = default;
+    ~Layer() = default;
+    Layer(const Layer& other);
+    Layer& operator=(const Layer& other);
+    Layer(Layer&&) = default;
+    Layer& operator=(Layer&&) = default;
+
+    // From its element. An attribute that is missing or can't be read takes the default below.
+    Layer(const XmlElement& element, const SequenceManagement::SequencePresetManager& presets);
+
+    // The element on lines of its own, indent tabs deep.
+    void writeXml(std::ostream& stream, int indent) const;
+
+    // One line of text for lists, in which outputName stands for the layer's output.
+    std::string describe(const std::string& outputName) const;
+
+    // Whether the layer lets events of a zone pass; -1 is none, for either.
+    bool acceptsZone(char eventZone) const { return zone < 0 || eventZone < 0 || zone == eventZone; }
+
+    // Whether it takes a note of this zone.
+    bool acceptsNote(char note, char noteVelocity, char eventZone) const {
+        return note >= minNote.getNumber() && note <= maxNote.getNumber() && noteVelocity >= minVelocity &&
+               noteVelocity <= maxVelocity && acceptsZone(eventZone);
+    }
+
+    bool hasVelocityRange() const { return minVelocity != 0 || maxVelocity != 127; }
+
+    std::int32_t id = -1;
+    bool selected = false;  // On the screen; not saved.
+    bool mute = false;
+    bool mono = false;
+    bool solo = false;  // Not saved.
+    bool useNoteStack = true;
+    Note minNote = Note(std::uint8_t{0});
+    Note maxNote = Note(std::uint8_t{127});
+    char minVelocity = 0;
+    char maxVelocity = 127;
+    char zone = -1;    // -1: any.
+    char output = -1;  // -1: the default output.
+    char channel = 0;  // Negative: the default channel.
+    RelativeFixedValue transpose;
+    Note key;  // Of diatonic transposition; no note: chromatic.
+    RelativeFixedValue velocity;
+    Fraction compress;
+    NoteToggle toggle;
+    std::unique_ptr<ArpeggioManagement::Arpeggio> arpeggio;
+    SequenceManagement::SequenceSetting sequenceSetting;
+};
+
+}

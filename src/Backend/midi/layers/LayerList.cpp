@@ -1,0 +1,58 @@
+#include "Backend/midi/layers/LayerList.h"
+
+#include "Backend/core/collections/VectorIterator.h"
+#include "Backend/core/xml/XmlElement.h"
+#include "Backend/core/xml/XmlWriting.h"
+
+#include <algorithm>
+
+namespace Backend::Layers {
+
+namespace {
+
+// More come from a file only by mistake; each takes room in the engine.
+constexpr std::size_t MAX_LAYERS = 1 << 16;
+
+}
+
+const char* const LayerList::DEFAULT_XML =
+    "\t<Layers merge=\"false\">"
+    "\t\t<Layer mute=\"false\" mono=\"false\" toggle=\"off\" useNoteStack=\"true\" minNote=\"C-1\" maxNote=\"G9\" "
+    "minVelocity=\"0\" maxVelocity=\"127\" zone=\"-1\" output=\"-1\" channel=\"0\" transpose=\"\" key=\"\" "
+    "velocity=\"\" compress=\"1_1\">"
+    "\t\t</Layer>"
+    "\t</Layers>";
+
+Layer* LayerList::find(const LayerId& id) {
+    if (id.value < 0 || static_cast<std::size_t>(id.value) >= m_layers.size())
+        return nullptr;
+    return &m_layers[static_cast<std::size_t>(id.value)];
+}
+
+std::unique_ptr<Component::IteratorIF<Layer>> LayerList::createIterator() {
+    return std::make_unique<Component::VectorIterator<Layer>>(m_layers);
+}
+
+void LayerList::add(Layer layer) {
+    layer.id = static_cast<std::int32_t>(m_layers.size());
+    m_layers.push_back(std::move(layer));
+}
+
+void LayerList::readXml(const XmlElement& element, const SequenceManagement::SequencePresetManager& presets) {
+    if (!element.getBoolAttribute("merge", false))
+        clear();
+    for (auto child = element.begin(); child != element.end(); child.next())
+        if (child.getName() == Layer::TAG && m_layers.size() < MAX_LAYERS)
+            add(Layer(child, presets));
+}
+
+void LayerList::writeXml(std::ostream& stream, int indent, const std::vector<LayerId>& selected) const {
+    stream << getIndentation(indent) << getStartTagBegin(TAG) << getAttributeText("merge", !selected.empty())
+           << getStartTagEnd() << '\n';
+    for (const Layer& layer : m_layers)
+        if (selected.empty() || std::find(selected.begin(), selected.end(), LayerId{layer.id}) != selected.end())
+            layer.writeXml(stream, indent + 1);
+    stream << getIndentation(indent) << getEndTag(TAG) << '\n';
+}
+
+}

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "Backend/midi/layers/ZoneMap.h"
+#include "Backend/midi/managers/ZoneMessageManager.h"
+
+#include <ostream>
+#include <vector>
+
+class RelativeFixedValue;
+class SelectType;
+
+namespace Backend {
+class MessageManagerMaster;
+class MirelIF;
+class XmlElement;
+}
+
+namespace Backend::Zones {
+
+// The zones of the current program. Changes reach the engine and the window. [backend]
+class ZoneManager {
+public:
+    ZoneManager(MirelIF& mirel, MessageManagerMaster& master);
+
+    ZoneManager(const ZoneManager&) = delete;
+    ZoneManager& operator=(const ZoneManager&) = delete;
+
+    ZoneMessageManager& getMessageManager() { return m_messageManager; }
+    const ZoneMap& getZoneMap() const { return m_zones; }
+
+    // From and to a Zones element.
+    void readXml(const XmlElement& element);
+    void writeXml(std::ostream& stream, int indent) const;
+
+    // Removes all zones.
+    void clear();
+
+    // Sets the transposition of one zone, in half-steps. A zone that isn't there is ignored.
+    void setTranspose(ZoneId id, char transpose);
+
+    // Selects one zone alone: the next or previous one that exists, or one by its number; a number without a zone
+    // selects none.
+    void selectZone(const SelectType& type);
+
+    // Selects just these zones.
+    void selectZones(const std::vector<ZoneId>& ids);
+
+    // Changes all zones, the one of a number, or else the selected one.
+    void changeZoneTranspose(const SelectType& type, const RelativeFixedValue& value);
+
+    // Makes the zones those that keys play in, with the ranges of these keys. Zones that stay keep their transposition.
+    void updateZonesFromKeys();
+
+private:
+    Zone* findSelected();
+    void changeTranspose(Zone& zone, const RelativeFixedValue& value);
+    void select(Zone& zone, bool selected);
+    void sendAll();
+
+    MirelIF& m_mirel;
+    ZoneMap m_zones;
+    ZoneMessageManager m_messageManager;
+};
+
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Backend/core/messages/MessageManager.h"
+#include "Backend/midi/ZoneId.h"
+
+#include <vector>
+
+class SelectType;
+
+namespace Backend::Zones {
+
+class ZoneManager;
+
+// The way of other threads to the zones. Each post is carried out on the backend thread by the operation of ZoneManager
+// of like name.
+class ZoneMessageManager : public MessageManager {
+public:
+    ZoneMessageManager(MessageManagerMaster& master, ZoneManager& zones);
+
+    // [any]
+    void postSetTranspose(ZoneId id, int transpose);
+    void postSelectZone(const SelectType& type);
+    void postSelectZones(const std::vector<ZoneId>& ids);
+
+    bool wantMessage(unsigned int message) override;
+    void handleMessage(const MSG& message) override;
+    void disposeMessage(const MSG& message) override;
+
+private:
+    ZoneManager& m_zones;
+};
+
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Backend/core/settings/Rect.h"
+
+#include <cstdint>
+
+namespace Gui {
+
+// The top left corner of a window on the screen, in pixels.
+struct WindowPosition {
+    std::int32_t x = -1;
+    std::int32_t y = -1;
+
+    // Whether the host's window may be moved there.
+    bool isKnown() const { return x >= 0 && y >= 0; }
+
+    bool operator==(const WindowPosition&) const = default;
+};
+
+// [any] Where the host's window is to begin, from where it was at the end of the last run. A window that is docked to
+// its bottom edge keeps that edge, now that it may be of another height; host is the rectangle that it has now. Unknown
+// if that would be above the screen or beyond all numbers.
+WindowPosition chooseInitialWindowPosition(const Rect& last, bool dockToBottomEdge, const Rect& host);
+
+}

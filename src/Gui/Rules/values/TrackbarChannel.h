@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Backend/core/settings/Rect.h"
+
+namespace Gui {
+
+// [any] Where the channel of a vertical track bar is drawn. Most systems tell it crosswise, its left and right along
+// the bar; it is then centred on the thumb. One that stands upright already is left as it is.
+constexpr Rect getVerticalChannel(const Rect& thumb, const Rect& channel) {
+    if (channel.bottom - channel.top > channel.right - channel.left)
+        return channel;
+    const int width = channel.bottom - channel.top;
+    const int left = thumb.left + (thumb.right - thumb.left) / 2 - width / 2;
+    const int top = channel.top + (thumb.bottom - thumb.top) / 2;
+    const int height = channel.right - channel.left - channel.top;
+    return {left, top, left + width, top + height};
+}
+
+}

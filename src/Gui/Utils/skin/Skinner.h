@@ -1,0 +1,109 @@
+#pragma once
+
+#include "Gui/Rules/values/ValueField.h"
+#include "Gui/Utils/windows/WindowsLib.h"
+
+#include <windows.h>
+
+#include <string>
+
+namespace Gui {
+
+class GdiManager;
+class MirelGuiIF;
+class TimeIntervalCtl;
+
+// Gives the system's own controls the desk's look, and the manners that all screens share: help about what is under the
+// pointer, values that the wheel turns, lists of values on the right button. It puts procedures of its own in front of
+// the windows' and reads what it needs from their properties (SkinProperties.h) whenever it needs it. [gui]
+class Skinner {
+public:
+    // The gui is used from the first skinWindow on, and must outlive every window that is skinned.
+    explicit Skinner(MirelGuiIF& gui) : m_gui(gui) {}
+
+    // Skins all controls below a window, and the window itself, which draws for them. Controls that come to it later
+    // are skinned as they come. What is skinned already stays as it is. Null is no window.
+    void skinWindow(HWND window);
+
+    // For a Skinner that ends before a window: neither the window nor what is below it comes to this Skinner any more.
+    void leaveWindow(HWND window) const;
+
+    // Frames the menus of this thread until as many calls of endHook. The first thread to start is the one.
+    static void startHook();
+    static void endHook();
+
+    // Options of a control, by its id in a window or by its own window.
+    static void setNoWheel(HWND dialog, int id);
+    static void setNoWheel(HWND control);
+    static void setMinMax(HWND dialog, int id, int min, int max);
+    static void setMin(HWND dialog, int id, int min);
+    static void setMin(HWND control, int min);
+    static void setMax(HWND dialog, int id, int max);
+    static void setMax(HWND control, int max);
+    static void showZeroAsBlank(HWND dialog, int id, bool blank = true);
+    static void setGrayText(HWND dialog, int id, bool gray, bool invalidateNow);
+    static void setText(HWND dialog, int id, bool text = true);
+    static void setSelected(HWND dialog, int id, bool selected);  // Draws it anew.
+
+    // Shows a control as one without a value, "?", or as one with a value again, whose text is then left to the caller.
+    static void indicateInvalidValue(HWND dialog, int id, bool invalid);
+
+    // An edit with its label.
+    static void enableControl(HWND dialog, int editId, int labelId, bool enable);
+    static void enableControl(HWND dialog, TimeIntervalCtl& control, int labelId, bool enable);
+
+private:
+    static void enableLabel(HWND dialog, int id, bool enable);
+
+    using Procedure = LRESULT (Skinner::*)(HWND, UINT, WPARAM, LPARAM);
+
+    // A window's procedure: hands over to its Skinner.
+    template <Procedure PROCEDURE>
+    static LRESULT CALLBACK enter(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    static BOOL CALLBACK skinEachChild(HWND window, LPARAM skinner);
+    static BOOL CALLBACK leaveEachChild(HWND window, LPARAM skinner);
+    void skinChild(HWND window);
+    void skinButton(HWND window);
+    void skinEdit(HWND window);
+    static void install(HWND window, const char* property, WNDPROC procedure);
+
+    // Windows.
+    LRESULT wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT handleControlColour(HWND control, HDC dc, bool isEdit);
+    bool handleNCPaint(HWND window);
+    bool handleDrawItem(const DRAWITEMSTRUCT& item);
+    bool handleDrawButtonItem(const DRAWITEMSTRUCT& item);
+    const WindowsLib::Brush& getItemBrush(const DRAWITEMSTRUCT& item, HWND window) const;
+    COLORREF getItemTextColour(HWND window) const;
+
+    // Menus.
+    bool handleDrawMenuItem(const DRAWITEMSTRUCT& item);
+    void handleMeasureMenuItem(HWND window, MEASUREITEMSTRUCT& item);
+    static LRESULT CALLBACK hookProc(int code, WPARAM wParam, LPARAM lParam);
+    static LRESULT CALLBACK menuProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    // Controls.
+    LRESULT buttonProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT checkBoxProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT radioButtonProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT trackbarProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT handleButtonMessage(const char* property, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    static LRESULT passWheelUp(HWND window, WPARAM wParam, LPARAM lParam);
+    void handlePaintTrackbar(HWND window);
+    static void checkRadioButton(HWND window);
+    static bool inWindow(HWND window, LPARAM lParam);
+
+    // Edits.
+    LRESULT editProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void drawEditFrame(HWND window);
+    bool handleEditBoxMouseWheel(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    bool handleContextMenu(HWND window, WPARAM wParam, LPARAM lParam);
+    static ValueField readField(HWND window);
+
+    const GdiManager& gdi() const;
+
+    MirelGuiIF& m_gui;
+};
+
+}

@@ -1,0 +1,92 @@
+#include "Host/cli/check/CheckCommand.h"
+
+#include "Host/cli/ExitStatus.h"
+#include "Host/cli/InputFile.h"
+#include "Host/cli/check/FileCheck.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <optional>
+
+namespace Host::Cli {
+
+namespace {
+
+constexpr const char* USAGE =
+    "usage: mirel check [--data DIR] FILE...\n"
+    "\n"
+    "says of programs, banks, presets and sequences what the desk would ignore in them or replace by a default, one\n"
+    "line each: FILE:LINE: what. Nothing is said of a file that is all right. Presets that a file refers to are "
+    "looked\n"
+    "for in DIR, or else beside the file, in the folder above it and in the user's own data; in each of them also in\n"
+    "its folder Default.\n"
+    "\n"
+    "exit status: 0 all is right, 1 something was said, 2 a file can't be read or is none of these\n";
+
+struct CheckOptions {
+    std::string dataFolder;
+    std::vector<std::string> files;
+};
+
+// Nothing, with one line in error, for words that make no sense.
+std::optional<CheckOptions> parseOptions(const std::vector<std::string>& arguments, std::string& error) {
+    CheckOptions options;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string& argument = arguments[i];
+        if (argument == "--data" && i + 1 < arguments.size() && !arguments[i + 1].empty())
+            options.dataFolder = arguments[++i];
+        else if (argument == "--data")
+            error = "--data takes a folder";
+        else if (argument.starts_with("--"))
+            error = "there is no option " + argument;
+        else
+            options.files.push_back(argument);
+    }
+    if (options.files.empty() && error.empty())
+        error = "check takes files";
+    if (!error.empty())
+        return std::nullopt;
+    return options;
+}
+
+ExitStatus fail(const std::string& file, const std::string& error) {
+    std::fflush(stdout);
+    std::fprintf(stderr, "%s: %s\n", file.c_str(), error.c_str());
+    return FAILED;
+}
+
+ExitStatus checkFile(const std::string& file, const std::string& dataFolder) {
+    std::string content;
+    std::string error;
+    if (!readInputFile(file, content, error))
+        return fail(file, error);
+    PresetFiles presets(file, dataFolder);
+    FileCheck check(content, presets);
+    error = check.run();
+    if (!error.empty())
+        return fail(file, error);
+    for (const Complaint& complaint : check.getComplaints())
+        std::printf("%s:%d: %s\n", file.c_str(), complaint.line, complaint.text.c_str());
+    return check.getComplaints().empty() ? DONE : COMPLAINED;
+}
+
+}
+
+int runCheck(const std::vector<std::string>& arguments) {
+    if (arguments.size() == 1 && arguments.front() == "--help") {
+        std::fputs(USAGE, stdout);
+        return DONE;
+    }
+    std::string error;
+    const auto options = parseOptions(arguments, error);
+    if (!options) {
+        std::fprintf(stderr, "mirel: %s\n%s", error.c_str(), USAGE);
+        return FAILED;
+    }
+    ExitStatus status = DONE;
+    for (const std::string& file : options->files)
+        status = std::max(status, checkFile(file, options->dataFolder));
+    return status;
+}
+
+}

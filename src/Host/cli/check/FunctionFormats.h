@@ -1,0 +1,12 @@
+#pragma once
+
+#include "Host/cli/check/ElementFormat.h"
+
+#include <string_view>
+
+namespace Host::Cli {
+
+// [any] The element of a function by its tag, made from the backend's list of functions; null for any other tag.
+const ElementFormat* findFunctionFormat(std::string_view tag);
+
+}

@@ -1,0 +1,93 @@
+#include "Host/cli/import/ImportCommand.h"
+
+#include "Host/cli/ExitStatus.h"
+#include "Host/cli/InputFile.h"
+#include "Host/cli/import/Version2Conversion.h"
+#include "Platform/Files.h"
+
+#include <cstdio>
+#include <optional>
+
+namespace Host::Cli {
+
+namespace {
+
+constexpr const char* USAGE =
+    "usage: mirel import bank|program|preset FROM TO [--data DIR]\n"
+    "\n"
+    "converts a version 2 file into the file TO. The name of a version 2 preset begins with the word key, control or\n"
+    "layer, which tells its kind. The keys of a version 2 file stand on top of the preset \"000 - Default\" of DIR, or "
+    "of\n"
+    "the keys that are built in where DIR is not given or has no such preset. Nothing but TO is written.\n";
+
+struct ImportOptions {
+    Version2Kind kind = Version2Kind::BANK;
+    std::string from;
+    std::string to;
+    std::string dataFolder;
+};
+
+// Nothing, with one line in error, for words that make no sense.
+std::optional<ImportOptions> parseOptions(const std::vector<std::string>& arguments, std::string& error) {
+    ImportOptions options;
+    std::vector<std::string> words;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string& argument = arguments[i];
+        if (argument == "--data" && i + 1 < arguments.size() && !arguments[i + 1].empty())
+            options.dataFolder = arguments[++i];
+        else if (argument == "--data")
+            error = "--data takes a folder";
+        else if (argument.starts_with("--"))
+            error = "there is no option " + argument;
+        else
+            words.push_back(argument);
+    }
+    if (!error.empty())
+        return std::nullopt;
+    const auto kind = words.empty() ? std::nullopt : findVersion2Kind(words.front());
+    if (words.size() != 3 || !kind) {
+        error = "import takes bank, program or preset, and two files";
+        return std::nullopt;
+    }
+    options.kind = *kind;
+    options.from = words[1];
+    options.to = words[2];
+    return options;
+}
+
+// Empty when it is done; else one line that begins with the file that is to blame.
+std::string import(const ImportOptions& options) {
+    std::string content;
+    std::string error;
+    if (!readInputFile(options.from, content, error))
+        return options.from + ": " + error;
+    std::string result;
+    error = convertVersion2(options.kind, options.from, content, options.dataFolder, result);
+    if (!error.empty())
+        return options.from + ": " + error;
+    return Platform::Files::replace(options.to, result) ? std::string() : options.to + ": can't be written";
+}
+
+}
+
+int runImport(const std::vector<std::string>& arguments) {
+    if (arguments.size() == 1 && arguments.front() == "--help") {
+        std::fputs(USAGE, stdout);
+        return DONE;
+    }
+    std::string error;
+    const auto options = parseOptions(arguments, error);
+    if (!options) {
+        std::fprintf(stderr, "mirel: %s\n%s", error.c_str(), USAGE);
+        return FAILED;
+    }
+    error = import(*options);
+    if (!error.empty()) {
+        std::fprintf(stderr, "%s\n", error.c_str());
+        return FAILED;
+    }
+    std::printf("wrote %s\n", options->to.c_str());
+    return DONE;
+}
+
+}

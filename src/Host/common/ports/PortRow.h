@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Host/common/ports/MidiSystem.h"
+
+#include <cstdint>
+#include <optional>
+
+namespace Host {
+
+// What a user sets for one port. An output has only the first of these.
+struct PortSettings {
+    static constexpr std::uint16_t ALL_CHANNELS = 0xffff;
+
+    bool enabled = true;
+    bool keepsChannels = false;             // Its events go past the layers, with the channels they came with.
+    std::uint16_t channels = ALL_CHANNELS;  // Bit n: listens to channel n, from 0.
+
+    bool operator==(const PortSettings&) const = default;
+};
+
+// One port that the desk knows of, there or not. Its index is its place in the list.
+struct PortRow {
+    MidiPortId id;
+    PortSettings settings;
+    bool available = false;
+    std::optional<bool> keptEnabled;  // What is kept in place of settings.enabled, where that is for now.
+
+    bool operator==(const PortRow&) const = default;
+};
+
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Host/common/ports/MidiSystem.h"
+#include "Host/common/ports/posix/JackServer.h"
+
+#include <memory>
+#include <mutex>
+#include <string>
+
+namespace Host {
+
+// JACK if a server runs, else the sequencer of ALSA if the kernel has one, else nothing. Each look at the list decides
+// anew: a server may come and go while the desk runs.
+class PosixMidiSystem : public MidiSystem {
+public:
+    explicit PosixMidiSystem(std::string clientName);
+
+    std::string name() override;
+    MidiPortIds list() override;
+    std::unique_ptr<OpenMidiPort> openInput(const MidiPortId& id, MidiReceiver receiver) override;
+    std::unique_ptr<OpenMidiPort> openOutput(const MidiPortId& id) override;
+    bool hasVirtualPorts() override;
+    std::unique_ptr<OpenMidiPort> openVirtualInput(const std::string& name, MidiReceiver receiver) override;
+    std::unique_ptr<OpenMidiPort> openVirtualOutput(const std::string& name) override;
+    void beginClose() override;
+
+private:
+    // Where ports are at the moment: at the server, else with ALSA if that is there.
+    struct Place {
+        std::shared_ptr<JackServer> jack;
+        bool isAlsa = false;
+    };
+
+    Place look();
+    Place place();
+
+    const std::string m_clientName;
+    std::mutex m_mutex;  // Of the place.
+    Place m_place;
+};
+
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "Platform/xml/XmlReader.h"
+
+#include <string>
+
+namespace Platform {
+
+// [any] The system's parser on a document that decodeXml and xmlKeepsLimits let through. Null if it is not well-formed.
+std::unique_ptr<XmlNode> parseXml(const std::string& text);
+
+}
