@@ -7,6 +7,7 @@ namespace {
 
 thread_local bool t_isCounting = false;
 thread_local std::size_t t_count = 0;
+thread_local std::size_t t_returned = 0;
 
 }
 
@@ -27,17 +28,20 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
 }
 
 void operator delete(void* memory) noexcept {
+    if (t_isCounting && memory)
+        ++t_returned;
     std::free(memory);
 }
 
 void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
+    operator delete(memory);
 }
 
 namespace TestSupport {
 
 AllocationCounter::AllocationCounter() {
     t_count = 0;
+    t_returned = 0;
     t_isCounting = true;
 }
 
@@ -47,6 +51,10 @@ AllocationCounter::~AllocationCounter() {
 
 std::size_t AllocationCounter::count() const {
     return t_count;
+}
+
+std::ptrdiff_t AllocationCounter::unreturned() const {
+    return static_cast<std::ptrdiff_t>(t_count) - static_cast<std::ptrdiff_t>(t_returned);
 }
 
 }

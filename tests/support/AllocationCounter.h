@@ -13,6 +13,9 @@ public:
     AllocationCounter& operator=(const AllocationCounter&) = delete;
 
     std::size_t count() const;
+
+    // How much of it was not given back. Negative if the thread gave back more.
+    std::ptrdiff_t unreturned() const;
 };
 
 }
