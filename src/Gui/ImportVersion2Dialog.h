@@ -12,7 +12,7 @@ namespace Gui {
 
 // Posts one conversion when it opens, and closes when the desk has done it. [gui]
 template <void (Backend::MirelMessageManager::*POST)(const std::string& from, const std::string& to, HWND notify),
-          Backend::WindowMessages::Done DONE>
+          UINT DONE>
 class ImportVersion2Dialog : public ModalDialog {
 public:
     ImportVersion2Dialog(Backend::MirelMessageManager& desk, std::string text, std::string from, std::string to)
@@ -27,10 +27,10 @@ private:
 };
 
 using ImportVersion2BankDialog = ImportVersion2Dialog<&Backend::MirelMessageManager::postImportVersion2Bank,
-                                                      Backend::WindowMessages::IMPORT_VERSION_2_BANK_DONE>;
+                                                      Backend::WindowMessages::IMPORT_VERSION_2_BANK_DONE.NUMBER>;
 using ImportVersion2ProgramDialog = ImportVersion2Dialog<&Backend::MirelMessageManager::postImportVersion2Program,
-                                                         Backend::WindowMessages::IMPORT_VERSION_2_PROGRAM_DONE>;
+                                                         Backend::WindowMessages::IMPORT_VERSION_2_PROGRAM_DONE.NUMBER>;
 using ImportVersion2PresetDialog = ImportVersion2Dialog<&Backend::MirelMessageManager::postImportVersion2Preset,
-                                                        Backend::WindowMessages::IMPORT_VERSION_2_PRESET_DONE>;
+                                                        Backend::WindowMessages::IMPORT_VERSION_2_PRESET_DONE.NUMBER>;
 
 }

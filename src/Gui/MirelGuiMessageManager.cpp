@@ -1,82 +1,65 @@
 #include "Gui/MirelGuiMessageManager.h"
 
 #include "Backend/core/WindowMessages.h"
-#include "Backend/core/messages/MessagePayload.h"
-#include "Backend/core/messages/MessageRanges.h"
+#include "Backend/core/messages/MessageTable.h"
 #include "Backend/functions/values/RelativeFixedValue.h"
 #include "Backend/midi/MirelMidiMessage.h"
 #include "Gui/MirelGui.h"
-
-#include <array>
 
 namespace Gui {
 
 using namespace Backend;
 using namespace Backend::WindowMessages;
-using MidiEngine::MidiInputPort;
-using MidiEngine::MidiOutputPort;
-using MidiEngine::MirelMidiMessage;
 
 namespace {
 
-struct FlagRow {
-    UINT message;
-    void (MirelGui::*handle)(bool value);
-};
-
-constexpr std::array FLAGS = {
-    FlagRow{DOCK_TO_BOTTOM_EDGE_CHANGED, &MirelGui::handleDockToBottomEdgeChanged},
-    FlagRow{DISPLAY_NUMBERS_CHANGED, &MirelGui::handleDisplayNumbersChanged},
-    FlagRow{LARGE_DISPLAY_FONT_CHANGED, &MirelGui::handleLargeDisplayFontChanged},
-    FlagRow{DISPLAY_MIDI_INPUT_EVENTS_CHANGED, &MirelGui::handleDisplayMidiInputEventsChanged},
-    FlagRow{DISPLAY_MIDI_OUTPUT_EVENTS_CHANGED, &MirelGui::handleDisplayMidiOutputEventsChanged},
-    FlagRow{SHOW_SYSTEM_PANEL, &MirelGui::showSystemPanel},
-    FlagRow{SHOW_HELP, &MirelGui::showHelp},
-    FlagRow{SHOW_DISPLAY, &MirelGui::showDisplay},
-    FlagRow{SHOW_COMPUTER_INPUT, &MirelGui::showComputerInput},
-    FlagRow{SHOW_CONTROL, &MirelGui::showControl},
-    FlagRow{SHOW_OUTPUT, &MirelGui::showOutput},
-    FlagRow{SHOW_CC, &MirelGui::showCc},
-    FlagRow{SHOW_LAYER, &MirelGui::showLayer},
-    FlagRow{SHOW_ZONE, &MirelGui::showZone},
-    FlagRow{ALWAYS_ON_TOP_CHANGED, &MirelGui::handleAlwaysOnTopChanged},
-    FlagRow{USE_SKIN_BORDER_CHANGED, &MirelGui::handleUseSkinBorderChanged},
-    FlagRow{RETRO_RECORD_ENABLED_CHANGED, &MirelGui::handleRetroRecordEnabledChanged},
-    FlagRow{MIDI_THRU_CHANGED, &MirelGui::handleMidiThruChanged},
-    FlagRow{GLOBAL_KEYBOARD_CHANGED, &MirelGui::handleGlobalKeyboardChanged},
-    FlagRow{CLICK_ZONE_CHANNEL_TRANSPOSE_CHANGED, &MirelGui::handleClickZoneChannelTransposeChanged},
-};
-
-struct NumberRow {
-    UINT message;
-    void (MirelGui::*handle)(int value);
-};
-
-constexpr std::array NUMBERS = {
-    NumberRow{DEFAULT_MIDI_OUTPUT_CHANGED, &MirelGui::handleDefaultMidiOutputChanged},
-    NumberRow{RETRO_RECORD_BUFFER_SIZE_CHANGED, &MirelGui::handleRetroRecordBufferSizeChanged},
-    NumberRow{MOUSE_SENSITIVITY_CHANGED, &MirelGui::handleMouseSensitivityChanged},
-};
-
-struct RequestRow {
-    UINT message;
-    void (MirelGui::*handle)();
-};
-
-constexpr std::array REQUESTS = {
-    RequestRow{TOGGLE_SYSTEM_PANEL, &MirelGui::toggleSystemPanel},
-    RequestRow{TOGGLE_HELP, &MirelGui::toggleHelp},
-    RequestRow{TOGGLE_DISPLAY, &MirelGui::toggleDisplay},
-    RequestRow{TOGGLE_COMPUTER_INPUT, &MirelGui::toggleComputerInput},
-    RequestRow{TOGGLE_CONTROL, &MirelGui::toggleControl},
-    RequestRow{TOGGLE_OUTPUT, &MirelGui::toggleOutput},
-    RequestRow{TOGGLE_CC, &MirelGui::toggleCc},
-    RequestRow{TOGGLE_LAYER, &MirelGui::toggleLayer},
-    RequestRow{TOGGLE_ZONE, &MirelGui::toggleZone},
-    RequestRow{RESET_MIREL, &MirelGui::handleResetMirel},
-    RequestRow{SHOW_PROGRAM_MENU, &MirelGui::showProgramMenu},
-    RequestRow{SHOW_DEFAULT_MIDI_OUTPUT_MENU, &MirelGui::showDefaultMidiOutputMenu},
-};
+// clang-format off
+constexpr MessageTable ROWS(
+    FAMILY,
+    on(DOCK_TO_BOTTOM_EDGE_CHANGED, &MirelGui::handleDockToBottomEdgeChanged),
+    on(DEFAULT_BANK_CHANGED, &MirelGui::handleDefaultBankChanged),
+    on(BANK_CHANGED, &MirelGui::handleBankChanged),
+    on(PROGRAM_CHANGED, &MirelGui::handleProgramChanged),
+    on(PROGRAM_NAME_CHANGED, &MirelGui::handleProgramNameChanged),
+    on(DISPLAY_NUMBERS_CHANGED, &MirelGui::handleDisplayNumbersChanged),
+    on(LARGE_DISPLAY_FONT_CHANGED, &MirelGui::handleLargeDisplayFontChanged),
+    on(DISPLAY_MIDI_INPUT_EVENTS_CHANGED, &MirelGui::handleDisplayMidiInputEventsChanged),
+    on(DISPLAY_MIDI_OUTPUT_EVENTS_CHANGED, &MirelGui::handleDisplayMidiOutputEventsChanged),
+    on(MOVE_WINDOW, &MirelGui::moveWindow),
+    on(SHOW_SYSTEM_PANEL, &MirelGui::showSystemPanel),
+    on(TOGGLE_SYSTEM_PANEL, &MirelGui::toggleSystemPanel),
+    on(SHOW_HELP, &MirelGui::showHelp),
+    on(TOGGLE_HELP, &MirelGui::toggleHelp),
+    on(SHOW_DISPLAY, &MirelGui::showDisplay),
+    on(TOGGLE_DISPLAY, &MirelGui::toggleDisplay),
+    on(SHOW_COMPUTER_INPUT, &MirelGui::showComputerInput),
+    on(TOGGLE_COMPUTER_INPUT, &MirelGui::toggleComputerInput),
+    on(SHOW_CONTROL, &MirelGui::showControl),
+    on(TOGGLE_CONTROL, &MirelGui::toggleControl),
+    on(SHOW_OUTPUT, &MirelGui::showOutput),
+    on(TOGGLE_OUTPUT, &MirelGui::toggleOutput),
+    on(SHOW_CC, &MirelGui::showCc),
+    on(TOGGLE_CC, &MirelGui::toggleCc),
+    on(SHOW_LAYER, &MirelGui::showLayer),
+    on(TOGGLE_LAYER, &MirelGui::toggleLayer),
+    on(SHOW_ZONE, &MirelGui::showZone),
+    on(TOGGLE_ZONE, &MirelGui::toggleZone),
+    on(DISPLAY_MIDI_OUTPUT_EVENT, &MirelGui::displayMidiOutputEvent),
+    on(MIDI_INPUT_PORTS_CHANGED, &MirelGui::handleMidiInputPortsChanged),
+    on(MIDI_OUTPUT_PORTS_CHANGED, &MirelGui::handleMidiOutputPortsChanged),
+    on(DEFAULT_MIDI_OUTPUT_CHANGED, &MirelGui::handleDefaultMidiOutputChanged),
+    on(RESET_MIREL, &MirelGui::handleResetMirel),
+    on(SHOW_PROGRAM_MENU, &MirelGui::showProgramMenu),
+    on(SHOW_DEFAULT_MIDI_OUTPUT_MENU, &MirelGui::showDefaultMidiOutputMenu),
+    on(ALWAYS_ON_TOP_CHANGED, &MirelGui::handleAlwaysOnTopChanged),
+    on(USE_SKIN_BORDER_CHANGED, &MirelGui::handleUseSkinBorderChanged),
+    on(RETRO_RECORD_BUFFER_SIZE_CHANGED, &MirelGui::handleRetroRecordBufferSizeChanged),
+    on(RETRO_RECORD_ENABLED_CHANGED, &MirelGui::handleRetroRecordEnabledChanged),
+    on(MIDI_THRU_CHANGED, &MirelGui::handleMidiThruChanged),
+    on(GLOBAL_KEYBOARD_CHANGED, &MirelGui::handleGlobalKeyboardChanged),
+    on(MOUSE_SENSITIVITY_CHANGED, &MirelGui::handleMouseSensitivityChanged),
+    on(CLICK_ZONE_CHANNEL_TRANSPOSE_CHANGED, &MirelGui::handleClickZoneChannelTransposeChanged));
+// clang-format on
 
 }
 
@@ -85,54 +68,7 @@ bool MirelGuiMessageManager::wantMessage(unsigned int message) {
 }
 
 void MirelGuiMessageManager::handleMessage(unsigned int message, WPARAM wParam, LPARAM lParam) {
-    for (const FlagRow& row : FLAGS)
-        if (row.message == message)
-            return (m_gui.*row.handle)(wParam != 0);
-    for (const NumberRow& row : NUMBERS)
-        if (row.message == message)
-            return (m_gui.*row.handle)(static_cast<int>(wParam));
-    for (const RequestRow& row : REQUESTS)
-        if (row.message == message)
-            return (m_gui.*row.handle)();
-    handlePayload(message, wParam, lParam);
-}
-
-void MirelGuiMessageManager::handlePayload(unsigned int message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-        case DEFAULT_BANK_CHANGED:
-            if (const auto path = takePayload<std::string>(lParam))
-                m_gui.handleDefaultBankChanged(*path);
-            break;
-        case BANK_CHANGED:
-            if (const auto bank = takePayload<Bank>(lParam))
-                m_gui.handleBankChanged(*bank);
-            break;
-        case PROGRAM_CHANGED:
-            if (const auto program = takePayload<Program>(lParam))
-                m_gui.handleProgramChanged(*program);
-            break;
-        case PROGRAM_NAME_CHANGED:
-            if (const auto program = takePayload<Program>(lParam))
-                m_gui.handleProgramNameChanged(*program);
-            break;
-        case MOVE_WINDOW: {
-            const auto x = takePayload<RelativeFixedValue>(wParam);
-            const auto y = takePayload<RelativeFixedValue>(lParam);
-            if (x && y)
-                m_gui.moveWindow(*x, *y);
-            break;
-        }
-        case DISPLAY_MIDI_OUTPUT_EVENT: m_gui.displayMidiOutputEvent(MirelMidiMessage(wParam, lParam)); break;
-        case MIDI_INPUT_PORTS_CHANGED:
-            if (const auto ports = takePayload<std::vector<MidiInputPort>>(lParam))
-                m_gui.handleMidiInputPortsChanged(*ports);
-            break;
-        case MIDI_OUTPUT_PORTS_CHANGED:
-            if (const auto ports = takePayload<std::vector<MidiOutputPort>>(lParam))
-                m_gui.handleMidiOutputPortsChanged(*ports);
-            break;
-        default: break;
-    }
+    ROWS.handle(m_gui, message, wParam, lParam);
 }
 
 }

@@ -15,9 +15,6 @@ public:
     void handleMessage(unsigned int message, WPARAM wParam, LPARAM lParam) override;
 
 private:
-    // Messages that bring more than a flag or a number.
-    void handlePayload(unsigned int message, WPARAM wParam, LPARAM lParam);
-
     MirelGui& m_gui;
 };
 

@@ -209,8 +209,8 @@ void MirelGui::takeLastMessages(HWND window) {
         if (message.message == WM_QUIT)  // It comes through any filter.
             exitCode = static_cast<int>(message.wParam);
         // A menu would wait for a choice.
-        if (message.hwnd != window || message.message == Backend::WindowMessages::SHOW_PROGRAM_MENU ||
-            message.message == Backend::WindowMessages::SHOW_DEFAULT_MIDI_OUTPUT_MENU)
+        if (message.hwnd != window || message.message == Backend::WindowMessages::SHOW_PROGRAM_MENU.NUMBER ||
+            message.message == Backend::WindowMessages::SHOW_DEFAULT_MIDI_OUTPUT_MENU.NUMBER)
             continue;
         withoutExceptions([&] {
             return m_guiMessageManagerMaster.handleMessage(window, message.message, message.wParam, message.lParam);

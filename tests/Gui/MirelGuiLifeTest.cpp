@@ -1,4 +1,3 @@
-#include "Backend/core/messages/MessagePayload.h"
 #include "Backend/core/settings/ScreenState.h"
 #include "Backend/core/trace/Trace.h"
 #include "Gui/ResourceIds.h"
@@ -6,6 +5,7 @@
 #include "Gui/Utils/windows/UserMessages.h"
 #include "Gui/Utils/windows/WindowProperties.h"
 #include "tests/support/CapturedDebugText.h"
+#include "tests/support/MessageWords.h"
 #include "tests/support/win32/OwnedHandles.h"
 #include "tests/support/win32/WindowDesk.h"
 
@@ -224,7 +224,7 @@ TEST_F(MirelGuiLifeTest, TakesWhatTheDeskHasSentBeforeItGoes) {
     for (const bool byHost : {false, true}) {
         MirelGui& gui = desk.open();
         const auto send = [&gui](UINT message, auto object) {
-            PostMessageA(gui.getWindowHandle(), message, 0, Backend::releaseCopy<LPARAM>(object));
+            PostMessageA(gui.getWindowHandle(), message, 0, TestSupport::releaseCopy<LPARAM>(object));
         };
         send(33220, std::string("late.bnk"));
         PostMessageA(gui.getWindowHandle(), 33259, 0, 0);  // Menus stay closed.

@@ -1,12 +1,12 @@
 #include "Backend/core/WindowMessages.h"
 #include "Backend/core/log/DisplayMessageManager.h"
 #include "Backend/core/messages/MessageManagerMaster.h"
-#include "Backend/core/messages/MessagePayload.h"
 #include "Backend/functions/Functions.h"
 #include "Backend/midi/MirelMidiMessage.h"
 #include "Gui/Rules/places/WindowMove.h"
 #include "Gui/Utils/windows/UserMessages.h"
 #include "tests/support/LogText.h"
+#include "tests/support/MessageWords.h"
 #include "tests/support/RunningDesk.h"
 #include "tests/support/win32/RecordedHook.h"
 #include "tests/support/win32/WindowDesk.h"
@@ -27,6 +27,7 @@ using MidiEngine::MidiOutputPort;
 using MidiEngine::MirelMidiMessage;
 using TestSupport::makePorts;
 using TestSupport::pumpUntil;
+using TestSupport::releaseCopy;
 using TestSupport::TestWindow;
 using TestSupport::textOf;
 using TestSupport::WindowDesk;

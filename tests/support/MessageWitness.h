@@ -43,6 +43,7 @@ public:
 
     bool wantMessage(unsigned int message) override { return message == NUMBER; }
     void handleMessage(const MSG&) override { m_open.wait(); }
+    void disposeMessage(const MSG&) override {}
     void open() { m_open.set(); }
 
 private:

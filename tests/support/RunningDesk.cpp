@@ -2,7 +2,6 @@
 
 #include "Backend/core/installation/MirelUtils.h"
 #include "Backend/core/log/DisplayListener.h"
-#include "Backend/core/messages/MessagePayload.h"
 #include "Host/cli/script/EventText.h"
 #include "Host/cli/script/WindowText.h"
 #include "Platform/SettingsStore.h"
@@ -39,13 +38,15 @@ public:
 
     using MessageManager::MessageManager;
 
-    void post(const Action& action) { m_master.postMessage(CALL, releaseCopy<WPARAM>(action), 0); }
-    bool wantMessage(unsigned int message) override { return message == CALL; }
-    void handleMessage(const MSG& message) override { (*takePayload<Action>(message.wParam))(); }
-    void disposeMessage(const MSG& message) override { takePayload<Action>(message.wParam); }
+    void post(const Action& action) { MessageManager::post(CALL, action); }
+    bool wantMessage(unsigned int message) override { return message == CALL.NUMBER; }
+    void handleMessage(const MSG& message) override {
+        CALL.open(message.wParam, message.lParam, [](const Action& action) { action(); });
+    }
+    void disposeMessage(const MSG& message) override { CALL.dispose(message.wParam, message.lParam); }
 
 private:
-    static constexpr UINT CALL = 40000;  // Outside of all families.
+    static constexpr Message<40000, Heap<Action>> CALL{};  // Outside of all families.
 };
 
 RunningDesk::RunningDesk() {

@@ -2,28 +2,24 @@
 #pragma once
 
 #include "Backend/core/MirelIF.h"
-#include "Backend/core/messages/MessagePayload.h"
 #include "Platform/WindowSink.h"
-
-#include <memory>
 
 namespace Backend {
 
-// [any] Posts to the window, if there is one.
-inline void postToGui(MirelIF& mirel, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
-    if (const HWND window = mirel.getGuiWindowHandle())
-        Platform::postToWindow(window, message, wParam, lParam);
+// [any] Posts a message to a window. Copies of what it carries are made only if there is one, and destroyed if it does
+// not take them. Whether it did.
+template <class Row, class... Values>
+bool postToWindow(HWND window, Row row, const Values&... values) {
+    const auto post = [window](UINT number, WPARAM wParam, LPARAM lParam) {
+        return Platform::postToWindow(window, number, wParam, lParam);
+    };
+    return window && row.post(post, values...);
 }
 
-// [any] The same with a copy of an object in lParam, which is made only if there is a window.
-template <class Payload>
-void postCopyToGui(MirelIF& mirel, UINT message, const Payload& object, WPARAM wParam = 0) {
-    const HWND window = mirel.getGuiWindowHandle();
-    if (!window)
-        return;
-    auto copy = std::make_unique<Payload>(object);
-    if (Platform::postToWindow(window, message, wParam, reinterpret_cast<LPARAM>(copy.get())))
-        static_cast<void>(copy.release());
+// [any] The same to the desk's window.
+template <class Row, class... Values>
+bool postToGui(MirelIF& mirel, Row row, const Values&... values) {
+    return postToWindow(mirel.getGuiWindowHandle(), row, values...);
 }
 
 }

@@ -111,7 +111,7 @@ void Mirel::changeLayerNoteToggle(const SelectType& type, const NoteToggle& valu
 }
 
 void Mirel::editSelectLayer(const SelectType& type) {
-    postCopyToGui(*this, Layers::WindowMessages::EDIT_SELECT, type);
+    postToGui(*this, Layers::WindowMessages::EDIT_SELECT, type);
 }
 
 const SequenceManagement::SequencePresetList& Mirel::getSequencePresetList() {
@@ -128,16 +128,7 @@ Gui::MirelGuiIF* Mirel::createMirelGui(bool isVstPlugin) {
 }
 
 void Mirel::moveWindow(const RelativeFixedValue& x, const RelativeFixedValue& y) {
-    const HWND window = getGuiWindowHandle();
-    if (!window)
-        return;
-    auto xCopy = std::make_unique<RelativeFixedValue>(x);
-    auto yCopy = std::make_unique<RelativeFixedValue>(y);
-    if (!Platform::postToWindow(window, MOVE_WINDOW, reinterpret_cast<WPARAM>(xCopy.get()),
-                                reinterpret_cast<LPARAM>(yCopy.get())))
-        return;
-    static_cast<void>(xCopy.release());
-    static_cast<void>(yCopy.release());
+    postToGui(*this, MOVE_WINDOW, x, y);
 }
 
 void Mirel::showSystemPanel(bool show) {

@@ -4,11 +4,9 @@
 #include "Backend/core/MirelMessages.h"
 #include "Backend/core/messages/MessageForm.h"
 #include "Backend/core/messages/MessageManagerMaster.h"
-#include "Backend/core/messages/MessagePayload.h"
-#include "Backend/core/messages/MessageRanges.h"
+#include "Backend/core/messages/MessageTable.h"
 #include "Backend/core/settings/ScreenState.h"
 #include "Backend/core/version2/Version2ImportRequest.h"
-#include "Backend/core/xml/Text.h"
 #include "Backend/functions/values/OnOffToggle.h"
 #include "Backend/functions/values/RelativeFixedValue.h"
 #include "Backend/functions/values/SelectType.h"
@@ -17,11 +15,6 @@
 namespace Backend {
 
 using namespace MirelMessages;
-using MidiEngine::MidiInputPort;
-using MidiEngine::MidiOutputPort;
-using MidiEngine::MirelMidiMessage;
-using InputPorts = std::vector<MidiInputPort>;
-using OutputPorts = std::vector<MidiOutputPort>;
 
 namespace {
 
@@ -30,67 +23,81 @@ bool fitsParamForm(const MirelMidiMessage& message) {
     return chooseMessageForm(cell.getRow(), cell.getColumn(), message.getPpq()) == MessageForm::PARAM;
 }
 
-WPARAM firstWord(const MirelMidiMessage& message) {
-    return static_cast<WPARAM>(message.getWparam());
+template <void (MirelIF::*IMPORT)(const std::string&, const std::string&, HWND)>
+void importVersion2(MirelIF& mirel, const Version2ImportRequest& request) {
+    (mirel.*IMPORT)(request.from, request.to, request.notify);
 }
 
-LPARAM secondWord(const MirelMidiMessage& message) {
-    return static_cast<LPARAM>(message.getLparam());
-}
+// clang-format off
+constexpr MessageTable ROWS(
+    FAMILY,
+    // The start and the end.
+    on(INITIALIZE, &MirelIF::initialize),
+    on(END, &MirelIF::end),
+    on(SEND_SET_MIDI_INPUT_PORTS, &MirelIF::setMidiInputPorts),
+    on(SEND_SET_MIDI_OUTPUT_PORTS, &MirelIF::setMidiOutputPorts),
+    on(END_INITIALIZE, &MirelIF::endInitialize),
+    on(SEND_CREATE_MIREL_GUI, &MirelIF::createMirelGui),
 
-MirelMidiMessage unpack(const MSG& message) {
-    return MirelMidiMessage(std::uint64_t{message.wParam}, std::int64_t{message.lParam});
-}
+    // Ports.
+    on(SET_MIDI_INPUT_PORTS, &MirelIF::setMidiInputPorts),
+    on(SET_MIDI_OUTPUT_PORTS, &MirelIF::setMidiOutputPorts),
+    on(ENABLE_MIDI_INPUT, &MirelIF::enableMidiInput),
+    on(ENABLE_MIDI_OUTPUT, &MirelIF::enableMidiOutput),
 
-WPARAM word(int number) {
-    return static_cast<WPARAM>(number);
-}
+    // Files.
+    on(LOAD_PROGRAM, &MirelIF::loadProgram),
+    on(LOAD_BANK, &MirelIF::loadBank),
+    on(SAVE_TO_CURRENT_BANK, &MirelIF::saveToCurrentBank),
+    on(SAVE_TO_BANK, &MirelIF::saveToBank),
+    on(SAVE_TO_PROGRAM, &MirelIF::saveToProgram),
+    on(CHANGE_BANK_SIZE, &MirelIF::changeBankSize),
+    on(CHANGE_PROGRAM_NAME, &MirelIF::changeProgramName),
+    on(CHANGE_PROGRAM, &MirelIF::changeProgram),
+    on(ADD_SEQUENCE_PRESET, &MirelIF::addSequencePreset),
+    on(IMPORT_VERSION_2_BANK, &importVersion2<&MirelIF::importVersion2Bank>),
+    on(IMPORT_VERSION_2_PROGRAM, &importVersion2<&MirelIF::importVersion2Program>),
+    on(IMPORT_VERSION_2_PRESET, &importVersion2<&MirelIF::importVersion2Preset>),
 
-LPARAM windowWord(HWND window) {
-    return reinterpret_cast<LPARAM>(window);
-}
+    // Events.
+    on(PLAY_MIDI_VIA_ALLOC, &MirelIF::playMidi),
+    on(PLAY_MIDI_VIA_PARAM, &MirelIF::playMidi),
+    on(PROCESS_MIDI_INPUT_EVENT_VIA_PARAM, &MirelIF::processMidiInputEvent),
+    on(PROCESS_MIDI_INPUT_EVENT_VIA_ALLOC, &MirelIF::processMidiInputEvent),
+    on(RESET_MIREL, &MirelIF::resetMirel),
 
-int number(const MSG& message) {
-    return static_cast<int>(message.wParam);
-}
+    // Musical settings.
+    on(CHANGE_TEMPO, &MirelIF::changeTempo),
+    on(SET_TEMPO_SOURCE, &MirelIF::setTempoSource),
+    on(CHANGE_DEFAULT_MIDI_OUTPUT, &MirelIF::changeDefaultMidiOutput),
+    on(CHANGE_MIDI_THRU, &MirelIF::changeMidiThru),
+    on(CHANGE_GLOBAL_KEYBOARD, &MirelIF::changeGlobalKeyboard),
+    on(SET_LITE_VELOCITY, &MirelIF::setLiteVelocity),
+    on(SET_LITE_CHANNEL, &MirelIF::setLiteChannel),
+    on(SET_LITE_STACK_NOTES, &MirelIF::setLiteStackNotes),
+    on(SET_CLICK_ZONE_CHANNEL_TRANSPOSE, &MirelIF::setClickZoneChannelTranspose),
 
-bool flag(const MSG& message) {
-    return message.wParam != 0;
-}
-
-bool secondFlag(const MSG& message) {
-    return message.lParam != 0;
-}
-
-HWND window(const MSG& message) {
-    return reinterpret_cast<HWND>(message.lParam);
-}
-
-OnOffToggle toggle(const MSG& message) {
-    return OnOffToggle(static_cast<OnOffToggle::State>(message.wParam));
-}
-
-std::string text(WPARAM word) {
-    return *takePayload<std::string>(word);
-}
-
-std::string text(LPARAM word) {
-    return *takePayload<std::string>(word);
-}
+    // The window and the log.
+    on(SET_LAST_WINDOW_POSITION, &MirelIF::setLastWindowPosition),
+    on(REMOVE_GUI_WINDOW_HANDLE, &MirelIF::removeGuiWindowHandle),
+    on(SET_DOCK_TO_BOTTOM_EDGE, &MirelIF::setDockToBottomEdge),
+    on(SET_DEFAULT_BANK, &MirelIF::setDefaultBank),
+    on(SET_MOUSE_SENSITIVITY, &MirelIF::setMouseSensitivity),
+    on(SET_DISPLAY_HEIGHT, &MirelIF::setDisplayHeight),
+    on(SET_DISPLAY_NUMBERS, &MirelIF::setDisplayNumbers),
+    on(SET_LARGE_DISPLAY_FONT, &MirelIF::setLargeDisplayFont),
+    on(SET_DISPLAY_MIDI_INPUT_EVENTS, &MirelIF::setDisplayMidiInputEvents),
+    on(SET_DISPLAY_MIDI_OUTPUT_EVENTS, &MirelIF::setDisplayMidiOutputEvents),
+    on(SET_ALWAYS_ON_TOP, &MirelIF::setAlwaysOnTop),
+    on(SET_USE_SKIN_BORDER, &MirelIF::setUseSkinBorder),
+    on(SET_SCREEN_STATE, &MirelIF::setScreenState),
+    on(TOGGLE_SYSTEM_PANEL, &MirelIF::toggleSystemPanel));
+// clang-format on
 
 }
 
 MirelMessageManager::MirelMessageManager(MessageManagerMaster& master, MirelIF& mirel)
     : MessageManager(master), m_mirel(mirel) {}
-
-void MirelMessageManager::post(UINT message, WPARAM wParam, LPARAM lParam) {
-    m_master.postMessage(message, wParam, lParam);
-}
-
-void MirelMessageManager::send(UINT message, WPARAM wParam) {
-    post(message, wParam);
-    m_master.getWaitEvent().wait();
-}
 
 void MirelMessageManager::sendInitialize() {
     send(INITIALIZE);
@@ -101,11 +108,11 @@ void MirelMessageManager::sendEnd() {
 }
 
 void MirelMessageManager::sendSetMidiInputPorts(const InputPorts& ports) {
-    send(SEND_SET_MIDI_INPUT_PORTS, releaseCopy<WPARAM>(ports));
+    send(SEND_SET_MIDI_INPUT_PORTS, ports);
 }
 
 void MirelMessageManager::sendSetMidiOutputPorts(const OutputPorts& ports) {
-    send(SEND_SET_MIDI_OUTPUT_PORTS, releaseCopy<WPARAM>(ports));
+    send(SEND_SET_MIDI_OUTPUT_PORTS, ports);
 }
 
 void MirelMessageManager::sendEndInitialize() {
@@ -119,71 +126,67 @@ Gui::MirelGuiIF* MirelMessageManager::sendCreateMirelGui(bool isVstPlugin) {
 }
 
 void MirelMessageManager::postSetMidiInputPorts(const InputPorts& ports) {
-    post(SET_MIDI_INPUT_PORTS, releaseCopy<WPARAM>(ports));
+    post(SET_MIDI_INPUT_PORTS, ports);
 }
 
 void MirelMessageManager::postSetMidiOutputPorts(const OutputPorts& ports) {
-    post(SET_MIDI_OUTPUT_PORTS, releaseCopy<WPARAM>(ports));
+    post(SET_MIDI_OUTPUT_PORTS, ports);
 }
 
 void MirelMessageManager::postEnableMidiInput(int index, bool enabled) {
-    post(ENABLE_MIDI_INPUT, word(index), enabled);
+    post(ENABLE_MIDI_INPUT, index, enabled);
 }
 
 void MirelMessageManager::postEnableMidiOutput(int index, bool enabled) {
-    post(ENABLE_MIDI_OUTPUT, word(index), enabled);
+    post(ENABLE_MIDI_OUTPUT, index, enabled);
 }
 
 void MirelMessageManager::postLoadProgram(const std::string& path) {
-    post(LOAD_PROGRAM, releaseCopy<WPARAM>(path));
+    post(LOAD_PROGRAM, path);
 }
 
 void MirelMessageManager::postLoadBank(const std::string& path) {
-    post(LOAD_BANK, releaseCopy<WPARAM>(path));
+    post(LOAD_BANK, path);
 }
 
 void MirelMessageManager::postSaveToCurrentBank(int index, HWND notify) {
-    post(SAVE_TO_CURRENT_BANK, word(index), windowWord(notify));
+    post(SAVE_TO_CURRENT_BANK, index, notify);
 }
 
 void MirelMessageManager::postSaveToBank(const std::string& path, HWND notify) {
-    post(SAVE_TO_BANK, releaseCopy<WPARAM>(path), windowWord(notify));
+    post(SAVE_TO_BANK, path, notify);
 }
 
 void MirelMessageManager::postSaveToProgram(const std::string& path, HWND notify) {
-    post(SAVE_TO_PROGRAM, releaseCopy<WPARAM>(path), windowWord(notify));
+    post(SAVE_TO_PROGRAM, path, notify);
 }
 
 void MirelMessageManager::postChangeBankSize(int size, HWND notify) {
-    post(CHANGE_BANK_SIZE, word(size), windowWord(notify));
+    post(CHANGE_BANK_SIZE, size, notify);
 }
 
 void MirelMessageManager::postChangeProgramName(const std::string& name) {
-    post(CHANGE_PROGRAM_NAME, 0, releaseCopy<LPARAM>(name));
+    post(CHANGE_PROGRAM_NAME, name);
 }
 
 void MirelMessageManager::postChangeProgram(const SelectType& type) {
-    post(CHANGE_PROGRAM, releaseCopy<WPARAM>(type));
+    post(CHANGE_PROGRAM, type);
 }
 
 void MirelMessageManager::postAddSequencePreset(const std::string& name, const std::string& sequence) {
-    post(ADD_SEQUENCE_PRESET, releaseCopy<WPARAM>(name), releaseCopy<LPARAM>(sequence));
-}
-
-void MirelMessageManager::postImport(UINT message, const std::string& from, const std::string& to, HWND notify) {
-    post(message, 0, releaseCopy<LPARAM>(Version2ImportRequest{from, to, notify}));
+    post(ADD_SEQUENCE_PRESET, name, sequence);
 }
 
 void MirelMessageManager::postImportVersion2Bank(const std::string& from, const std::string& to, HWND notify) {
-    postImport(IMPORT_VERSION_2_BANK, from, to, notify);
+    post(IMPORT_VERSION_2_BANK, Version2ImportRequest{from, to, notify});
 }
 
 void MirelMessageManager::postImportVersion2Program(const std::string& from, const std::string& to, HWND notify) {
-    postImport(IMPORT_VERSION_2_PROGRAM, from, to, notify);
+    post(IMPORT_VERSION_2_PROGRAM, Version2ImportRequest{from, to, notify});
 }
 
 void MirelMessageManager::postImportVersion2Preset(const std::string& from, const std::string& to, HWND notify) {
-    postImport(IMPORT_VERSION_2_PRESET, from, to, notify);
+    post(IMPORT_VERSION_2_PRESET, Version2ImportRequest{from, to, notify});
 }
 
 void MirelMessageManager::postKeyDown(const Key& key, bool isRepeat) {
@@ -196,48 +199,48 @@ void MirelMessageManager::postKeyUp(const Key& key) {
 
 void MirelMessageManager::postPlayMidi(const MirelMidiMessage& message) {
     if (fitsParamForm(message))
-        post(PLAY_MIDI_VIA_PARAM, firstWord(message), secondWord(message));
+        post(PLAY_MIDI_VIA_PARAM, message);
     else
-        post(PLAY_MIDI_VIA_ALLOC, releaseCopy<WPARAM>(message));
+        post(PLAY_MIDI_VIA_ALLOC, message);
 }
 
 void MirelMessageManager::postProcessMidiInputEvent(const MirelMidiMessage& message) {
     if (fitsParamForm(message))
-        post(PROCESS_MIDI_INPUT_EVENT_VIA_PARAM, firstWord(message), secondWord(message));
+        post(PROCESS_MIDI_INPUT_EVENT_VIA_PARAM, message);
     else
-        post(PROCESS_MIDI_INPUT_EVENT_VIA_ALLOC, releaseCopy<WPARAM>(message));
+        post(PROCESS_MIDI_INPUT_EVENT_VIA_ALLOC, message);
 }
 
 void MirelMessageManager::postResetMirel() {
-    post(MirelMessages::RESET_MIREL);
+    post(RESET_MIREL);
 }
 
 void MirelMessageManager::postChangeTempo(const RelativeFixedValue& value, bool notifyGui) {
-    post(CHANGE_TEMPO, releaseCopy<WPARAM>(value), notifyGui);
+    post(CHANGE_TEMPO, value, notifyGui);
 }
 
 void MirelMessageManager::postSetTempoSource(char source, bool notifyGui) {
-    post(SET_TEMPO_SOURCE, word(source), notifyGui);
+    post(SET_TEMPO_SOURCE, source, notifyGui);
 }
 
 void MirelMessageManager::postChangeDefaultMidiOutput(const SelectType& type) {
-    post(CHANGE_DEFAULT_MIDI_OUTPUT, releaseCopy<WPARAM>(type));
+    post(CHANGE_DEFAULT_MIDI_OUTPUT, type);
 }
 
 void MirelMessageManager::postChangeMidiThru(const OnOffToggle& state, bool notifyGui) {
-    post(CHANGE_MIDI_THRU, static_cast<WPARAM>(state.getState()), notifyGui);
+    post(CHANGE_MIDI_THRU, state, notifyGui);
 }
 
 void MirelMessageManager::postChangeGlobalKeyboard(const OnOffToggle& state, bool notifyGui) {
-    post(CHANGE_GLOBAL_KEYBOARD, static_cast<WPARAM>(state.getState()), notifyGui);
+    post(CHANGE_GLOBAL_KEYBOARD, state, notifyGui);
 }
 
 void MirelMessageManager::postSetLiteVelocity(int velocity) {
-    post(SET_LITE_VELOCITY, word(velocity));
+    post(SET_LITE_VELOCITY, velocity);
 }
 
 void MirelMessageManager::postSetLiteChannel(int channel) {
-    post(SET_LITE_CHANNEL, word(channel));
+    post(SET_LITE_CHANNEL, channel);
 }
 
 void MirelMessageManager::postSetLiteStackNotes(bool stackNotes) {
@@ -249,7 +252,7 @@ void MirelMessageManager::postSetClickZoneChannelTranspose(bool value) {
 }
 
 void MirelMessageManager::postSetLastWindowPosition(const Rect& position) {
-    post(SET_LAST_WINDOW_POSITION, 0, releaseCopy<LPARAM>(position));
+    post(SET_LAST_WINDOW_POSITION, position);
 }
 
 void MirelMessageManager::postRemoveGuiWindowHandle() {
@@ -261,15 +264,15 @@ void MirelMessageManager::postSetDockToBottomEdge(bool dock) {
 }
 
 void MirelMessageManager::postSetDefaultBank(const std::string& path) {
-    post(SET_DEFAULT_BANK, 0, releaseCopy<LPARAM>(path));
+    post(SET_DEFAULT_BANK, path);
 }
 
 void MirelMessageManager::postSetMouseSensitivity(int sensitivity) {
-    post(SET_MOUSE_SENSITIVITY, word(sensitivity));
+    post(SET_MOUSE_SENSITIVITY, sensitivity);
 }
 
 void MirelMessageManager::postSetDisplayHeight(int height) {
-    post(SET_DISPLAY_HEIGHT, word(height));
+    post(SET_DISPLAY_HEIGHT, height);
 }
 
 void MirelMessageManager::postSetDisplayNumbers(bool numbers) {
@@ -297,11 +300,11 @@ void MirelMessageManager::postSetUseSkinBorder(bool useSkinBorder) {
 }
 
 void MirelMessageManager::postSetScreenState(const ScreenState& state) {
-    post(SET_SCREEN_STATE, releaseCopy<WPARAM>(state));
+    post(SET_SCREEN_STATE, state);
 }
 
 void MirelMessageManager::postToggleSystemPanel() {
-    post(MirelMessages::TOGGLE_SYSTEM_PANEL);
+    post(TOGGLE_SYSTEM_PANEL);
 }
 
 bool MirelMessageManager::wantMessage(unsigned int message) {
@@ -309,148 +312,13 @@ bool MirelMessageManager::wantMessage(unsigned int message) {
 }
 
 void MirelMessageManager::handleMessage(const MSG& message) {
-    if (handleSent(message))
+    ROWS.handle(m_mirel, message.message, message.wParam, message.lParam, m_createdGui);
+    if (FAMILY.isSent(message.message))
         m_master.getWaitEvent().set();
-    else
-        static_cast<void>(handleEvents(message) || handleFiles(message) || handleMusicalSettings(message) ||
-                          handleWindowSettings(message));
-}
-
-bool MirelMessageManager::handleSent(const MSG& message) {
-    switch (message.message) {
-        case INITIALIZE: m_mirel.initialize(); return true;
-        case END: m_mirel.end(); return true;
-        case SEND_SET_MIDI_INPUT_PORTS:
-            m_mirel.setMidiInputPorts(*takePayload<InputPorts>(message.wParam));
-            return true;
-        case SEND_SET_MIDI_OUTPUT_PORTS:
-            m_mirel.setMidiOutputPorts(*takePayload<OutputPorts>(message.wParam));
-            return true;
-        case END_INITIALIZE: m_mirel.endInitialize(); return true;
-        case SEND_CREATE_MIREL_GUI: m_createdGui = m_mirel.createMirelGui(flag(message)); return true;
-        default: return false;
-    }
-}
-
-bool MirelMessageManager::handleEvents(const MSG& message) {
-    switch (message.message) {
-        case PLAY_MIDI_VIA_ALLOC: m_mirel.playMidi(*takePayload<MirelMidiMessage>(message.wParam)); return true;
-        case PLAY_MIDI_VIA_PARAM: m_mirel.playMidi(unpack(message)); return true;
-        case PROCESS_MIDI_INPUT_EVENT_VIA_PARAM: m_mirel.processMidiInputEvent(unpack(message)); return true;
-        case PROCESS_MIDI_INPUT_EVENT_VIA_ALLOC:
-            m_mirel.processMidiInputEvent(*takePayload<MirelMidiMessage>(message.wParam));
-            return true;
-        case MirelMessages::RESET_MIREL: m_mirel.resetMirel(); return true;
-        default: return false;
-    }
-}
-
-bool MirelMessageManager::handleFiles(const MSG& message) {
-    const auto takeImport = [&message] { return *takePayload<Version2ImportRequest>(message.lParam); };
-    switch (message.message) {
-        case LOAD_PROGRAM: m_mirel.loadProgram(text(message.wParam)); return true;
-        case LOAD_BANK: m_mirel.loadBank(text(message.wParam)); return true;
-        case IMPORT_VERSION_2_BANK: {
-            const auto request = takeImport();
-            m_mirel.importVersion2Bank(request.from, request.to, request.notify);
-            return true;
-        }
-        case IMPORT_VERSION_2_PROGRAM: {
-            const auto request = takeImport();
-            m_mirel.importVersion2Program(request.from, request.to, request.notify);
-            return true;
-        }
-        case IMPORT_VERSION_2_PRESET: {
-            const auto request = takeImport();
-            m_mirel.importVersion2Preset(request.from, request.to, request.notify);
-            return true;
-        }
-        case SAVE_TO_CURRENT_BANK: m_mirel.saveToCurrentBank(number(message), window(message)); return true;
-        case SAVE_TO_BANK: m_mirel.saveToBank(text(message.wParam), window(message)); return true;
-        case SAVE_TO_PROGRAM: m_mirel.saveToProgram(text(message.wParam), window(message)); return true;
-        case CHANGE_BANK_SIZE: m_mirel.changeBankSize(number(message), window(message)); return true;
-        case CHANGE_PROGRAM_NAME: m_mirel.changeProgramName(text(message.lParam)); return true;
-        case CHANGE_PROGRAM: m_mirel.changeProgram(*takePayload<SelectType>(message.wParam)); return true;
-        case ADD_SEQUENCE_PRESET: {
-            const std::string name = text(message.wParam);
-            m_mirel.addSequencePreset(name, text(message.lParam));
-            return true;
-        }
-        case SET_DEFAULT_BANK: m_mirel.setDefaultBank(text(message.lParam)); return true;
-        default: return false;
-    }
-}
-
-bool MirelMessageManager::handleMusicalSettings(const MSG& message) {
-    switch (message.message) {
-        case SET_MIDI_INPUT_PORTS: m_mirel.setMidiInputPorts(*takePayload<InputPorts>(message.wParam)); return true;
-        case SET_MIDI_OUTPUT_PORTS: m_mirel.setMidiOutputPorts(*takePayload<OutputPorts>(message.wParam)); return true;
-        case ENABLE_MIDI_INPUT: m_mirel.enableMidiInput(number(message), secondFlag(message)); return true;
-        case ENABLE_MIDI_OUTPUT: m_mirel.enableMidiOutput(number(message), secondFlag(message)); return true;
-        case CHANGE_DEFAULT_MIDI_OUTPUT:
-            m_mirel.changeDefaultMidiOutput(*takePayload<SelectType>(message.wParam));
-            return true;
-        case CHANGE_TEMPO:
-            m_mirel.changeTempo(*takePayload<RelativeFixedValue>(message.wParam), secondFlag(message));
-            return true;
-        case CHANGE_MIDI_THRU: m_mirel.changeMidiThru(toggle(message), secondFlag(message)); return true;
-        case CHANGE_GLOBAL_KEYBOARD: m_mirel.changeGlobalKeyboard(toggle(message), secondFlag(message)); return true;
-        case SET_TEMPO_SOURCE: m_mirel.setTempoSource(Text::lowByte(number(message)), secondFlag(message)); return true;
-        case SET_LITE_VELOCITY: m_mirel.setLiteVelocity(number(message)); return true;
-        case SET_LITE_CHANNEL: m_mirel.setLiteChannel(number(message)); return true;
-        case SET_LITE_STACK_NOTES: m_mirel.setLiteStackNotes(flag(message)); return true;
-        case SET_CLICK_ZONE_CHANNEL_TRANSPOSE: m_mirel.setClickZoneChannelTranspose(flag(message)); return true;
-        default: return false;
-    }
-}
-
-bool MirelMessageManager::handleWindowSettings(const MSG& message) {
-    switch (message.message) {
-        case SET_LAST_WINDOW_POSITION: m_mirel.setLastWindowPosition(*takePayload<Rect>(message.lParam)); return true;
-        case REMOVE_GUI_WINDOW_HANDLE: m_mirel.removeGuiWindowHandle(); return true;
-        case SET_DOCK_TO_BOTTOM_EDGE: m_mirel.setDockToBottomEdge(flag(message)); return true;
-        case SET_DISPLAY_HEIGHT: m_mirel.setDisplayHeight(number(message)); return true;
-        case SET_DISPLAY_NUMBERS: m_mirel.setDisplayNumbers(flag(message)); return true;
-        case SET_LARGE_DISPLAY_FONT: m_mirel.setLargeDisplayFont(flag(message)); return true;
-        case SET_DISPLAY_MIDI_INPUT_EVENTS: m_mirel.setDisplayMidiInputEvents(flag(message)); return true;
-        case SET_DISPLAY_MIDI_OUTPUT_EVENTS: m_mirel.setDisplayMidiOutputEvents(flag(message)); return true;
-        case SET_ALWAYS_ON_TOP: m_mirel.setAlwaysOnTop(flag(message)); return true;
-        case SET_SCREEN_STATE: m_mirel.setScreenState(*takePayload<ScreenState>(message.wParam)); return true;
-        case SET_USE_SKIN_BORDER: m_mirel.setUseSkinBorder(flag(message)); return true;
-        case MirelMessages::TOGGLE_SYSTEM_PANEL: m_mirel.toggleSystemPanel(); return true;
-        case SET_MOUSE_SENSITIVITY: m_mirel.setMouseSensitivity(number(message)); return true;
-        default: return false;
-    }
 }
 
 void MirelMessageManager::disposeMessage(const MSG& message) {
-    switch (message.message) {
-        case SEND_SET_MIDI_INPUT_PORTS:
-        case SET_MIDI_INPUT_PORTS: takePayload<InputPorts>(message.wParam); break;
-        case SEND_SET_MIDI_OUTPUT_PORTS:
-        case SET_MIDI_OUTPUT_PORTS: takePayload<OutputPorts>(message.wParam); break;
-        case SET_LAST_WINDOW_POSITION: takePayload<Rect>(message.lParam); break;
-        case SET_DEFAULT_BANK:
-        case CHANGE_PROGRAM_NAME: takePayload<std::string>(message.lParam); break;
-        case LOAD_PROGRAM:
-        case LOAD_BANK:
-        case SAVE_TO_BANK:
-        case SAVE_TO_PROGRAM: takePayload<std::string>(message.wParam); break;
-        case IMPORT_VERSION_2_BANK:
-        case IMPORT_VERSION_2_PROGRAM:
-        case IMPORT_VERSION_2_PRESET: takePayload<Version2ImportRequest>(message.lParam); break;
-        case PLAY_MIDI_VIA_ALLOC:
-        case PROCESS_MIDI_INPUT_EVENT_VIA_ALLOC: takePayload<MirelMidiMessage>(message.wParam); break;
-        case ADD_SEQUENCE_PRESET:
-            takePayload<std::string>(message.wParam);
-            takePayload<std::string>(message.lParam);
-            break;
-        case CHANGE_PROGRAM:
-        case CHANGE_DEFAULT_MIDI_OUTPUT: takePayload<SelectType>(message.wParam); break;
-        case SET_SCREEN_STATE: takePayload<ScreenState>(message.wParam); break;
-        case CHANGE_TEMPO: takePayload<RelativeFixedValue>(message.wParam); break;
-        default: break;
-    }
+    FAMILY.dispose(message);
 }
 
 }

@@ -99,16 +99,6 @@ public:
     void disposeMessage(const MSG& message) override;
 
 private:
-    void post(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
-    void send(UINT message, WPARAM wParam = 0);
-    void postImport(UINT message, const std::string& from, const std::string& to, HWND notify);
-
-    bool handleSent(const MSG& message);
-    bool handleFiles(const MSG& message);
-    bool handleEvents(const MSG& message);
-    bool handleMusicalSettings(const MSG& message);
-    bool handleWindowSettings(const MSG& message);
-
     MirelIF& m_mirel;
     Gui::MirelGuiIF* m_createdGui = nullptr;
 };

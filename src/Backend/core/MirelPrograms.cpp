@@ -23,11 +23,6 @@ namespace {
 
 constexpr std::string_view PROGRAM_FILE_END = ".prg";
 
-void notifyDone(HWND window, UINT message) {
-    if (window)
-        Platform::postToWindow(window, message, 0, 0);
-}
-
 // The program of an ordinal among the children of a file's root, or an element that isn't there.
 XmlElement findProgram(const XmlElement& root, int ordinal) {
     for (auto child = root.begin(); child != root.end(); child.next())
@@ -78,7 +73,7 @@ void Mirel::endLoad() {
     auto& engine = m_midiEngine.getMessageManager();
     engine.postSetTempo(m_currentProgram.getTempo());
     engine.postSetTempoSource(Text::lowByte(m_currentProgram.getTempoSource()));
-    postCopyToGui(*this, PROGRAM_CHANGED, m_currentProgram);
+    postToGui(*this, PROGRAM_CHANGED, m_currentProgram);
 }
 
 Program Mirel::importProgramFromXml(const XmlElement& element, int index) {
@@ -135,13 +130,13 @@ void Mirel::loadBank(const std::string& path) {
     if (path.empty())
         return;
     m_currentBank = Bank(path, BankFile::readProgramNames(path));
-    postCopyToGui(*this, BANK_CHANGED, m_currentBank);
+    postToGui(*this, BANK_CHANGED, m_currentBank);
     changeProgramFromBank(m_currentProgram.getIndex());
 }
 
 void Mirel::setDefaultBank(const std::string& path) {
     m_registrySettings.setDefaultBank(path);
-    postCopyToGui(*this, DEFAULT_BANK_CHANGED, path);
+    postToGui(*this, DEFAULT_BANK_CHANGED, path);
     loadBank(path);
 }
 
@@ -157,7 +152,7 @@ void Mirel::changeProgram(const SelectType& type) {
 
 void Mirel::changeProgramName(const std::string& name) {
     m_currentProgram.setName(name);
-    postCopyToGui(*this, PROGRAM_NAME_CHANGED, m_currentProgram);
+    postToGui(*this, PROGRAM_NAME_CHANGED, m_currentProgram);
 }
 
 void Mirel::saveToProgram(const std::string& path, HWND notify) {
@@ -166,7 +161,7 @@ void Mirel::saveToProgram(const std::string& path, HWND notify) {
     if (target.empty())
         return;
     if (Files::replace(target, Files::withSystemLineEnds(text)))
-        notifyDone(notify, SAVE_TO_PROGRAM_DONE);
+        postToWindow(notify, SAVE_TO_PROGRAM_DONE);
     else
         traceFile(target, "can't be written");
 }
@@ -195,7 +190,7 @@ void Mirel::saveToBankFile(const std::string& target, int index, HWND notify) {
     else if (!Files::replace(target, bank))
         traceFile(target, "can't be written");
     loadBank(target);
-    notifyDone(notify, SAVE_TO_BANK_DONE);
+    postToWindow(notify, SAVE_TO_BANK_DONE);
 }
 
 void Mirel::changeBankSize(int size, HWND notify) {
@@ -214,27 +209,27 @@ void Mirel::changeBankSize(int size, HWND notify) {
     else if (!Files::replace(path, *resized))
         traceFile(path, "can't be written");
     loadBank(path);
-    notifyDone(notify, CHANGE_BANK_SIZE_DONE);
+    postToWindow(notify, CHANGE_BANK_SIZE_DONE);
 }
 
 void Mirel::importVersion2Bank(const std::string& from, const std::string& to, HWND notify) {
     if (!from.empty() && !to.empty())
         Version2Import(*this, m_sequencePresets).importBank(from, to);
     loadBank(to);
-    notifyDone(notify, IMPORT_VERSION_2_BANK_DONE);
+    postToWindow(notify, IMPORT_VERSION_2_BANK_DONE);
 }
 
 void Mirel::importVersion2Program(const std::string& from, const std::string& to, HWND notify) {
     if (!from.empty() && !to.empty())
         Version2Import(*this, m_sequencePresets).importProgram(from, to);
     loadProgram(to);
-    notifyDone(notify, IMPORT_VERSION_2_PROGRAM_DONE);
+    postToWindow(notify, IMPORT_VERSION_2_PROGRAM_DONE);
 }
 
 void Mirel::importVersion2Preset(const std::string& from, const std::string& to, HWND notify) {
     if (!from.empty() && !to.empty())
         Version2Import(*this, m_sequencePresets).importPreset(from, to);
-    notifyDone(notify, IMPORT_VERSION_2_PRESET_DONE);
+    postToWindow(notify, IMPORT_VERSION_2_PRESET_DONE);
 }
 
 }

@@ -53,7 +53,7 @@ void Mirel::setDockToBottomEdge(bool dock) {
 
 void Mirel::setMouseSensitivity(int sensitivity) {
     m_registrySettings.setMouseSensitivity(sensitivity);
-    postToGui(*this, MOUSE_SENSITIVITY_CHANGED, static_cast<WPARAM>(sensitivity));
+    postToGui(*this, MOUSE_SENSITIVITY_CHANGED, sensitivity);
 }
 
 void Mirel::setAlwaysOnTop(bool alwaysOnTop) {
@@ -135,7 +135,7 @@ void Mirel::changeTempo(const RelativeFixedValue& value, bool notifyGui) {
     m_currentProgram.setTempo(tempo);
     m_midiEngine.getMessageManager().postSetTempo(tempo);
     if (notifyGui)
-        postCopyToGui(*this, PROGRAM_CHANGED, m_currentProgram);
+        postToGui(*this, PROGRAM_CHANGED, m_currentProgram);
 }
 
 void Mirel::setTempoSource(char source, bool notifyGui) {
@@ -144,14 +144,14 @@ void Mirel::setTempoSource(char source, bool notifyGui) {
     m_currentProgram.setTempoSource(source);
     m_midiEngine.getMessageManager().postSetTempoSource(source);
     if (notifyGui)
-        postCopyToGui(*this, PROGRAM_CHANGED, m_currentProgram);
+        postToGui(*this, PROGRAM_CHANGED, m_currentProgram);
 }
 
 void Mirel::setMidiInputPorts(const std::vector<MidiInputPort>& ports) {
     m_midiInputPorts = ports;
     m_midiEngine.getMessageManager().postSetMidiInputPorts(ports);
     m_display.postSetInputPorts(ports);
-    postCopyToGui(*this, MIDI_INPUT_PORTS_CHANGED, ports);
+    postToGui(*this, MIDI_INPUT_PORTS_CHANGED, ports);
 }
 
 void Mirel::setMidiOutputPorts(const std::vector<MidiOutputPort>& ports) {
@@ -159,7 +159,7 @@ void Mirel::setMidiOutputPorts(const std::vector<MidiOutputPort>& ports) {
     chooseDefaultMidiOutput();
     m_midiEngine.getMessageManager().postSetMidiOutputPorts(ports);
     m_display.postSetOutputPorts(ports);
-    postCopyToGui(*this, MIDI_OUTPUT_PORTS_CHANGED, ports);
+    postToGui(*this, MIDI_OUTPUT_PORTS_CHANGED, ports);
 }
 
 void Mirel::chooseDefaultMidiOutput() {
@@ -182,7 +182,7 @@ void Mirel::chooseDefaultMidiOutput() {
 void Mirel::setDefaultMidiOutput(int index) {
     m_registrySettings.setDefaultMidiOutput(index);
     m_midiEngine.getMessageManager().postSetDefaultMidiOutput(index);
-    postToGui(*this, DEFAULT_MIDI_OUTPUT_CHANGED, static_cast<WPARAM>(index));
+    postToGui(*this, DEFAULT_MIDI_OUTPUT_CHANGED, index);
 }
 
 void Mirel::changeDefaultMidiOutput(const SelectType& type) {
@@ -215,7 +215,7 @@ void Mirel::enableMidiInput(int index, bool enabled) {
     m_midiInputPorts[static_cast<std::size_t>(index)].enabled = enabled;
     m_registrySettings.setMidiInputEnabled(index, enabled);
     m_midiEngine.getMessageManager().postEnableMidiInput(index, enabled);
-    postCopyToGui(*this, MIDI_INPUT_PORTS_CHANGED, m_midiInputPorts);
+    postToGui(*this, MIDI_INPUT_PORTS_CHANGED, m_midiInputPorts);
 }
 
 // The list of ports stays as it is: the host answers with a new one.

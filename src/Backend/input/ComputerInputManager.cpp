@@ -103,7 +103,7 @@ void ComputerInputManager::updateKeyConfigurations(const std::vector<KeyConfigur
     m_mirel.updateZonesFromKeys();
     if (!notifyGui)
         return;
-    postCopyToGui(m_mirel, WindowMessages::KEYS_CHANGED, configurations);
+    postToGui(m_mirel, WindowMessages::KEYS_CHANGED, configurations);
     postToGui(m_mirel, WindowMessages::CONTROL_KEYS_CHANGED);
 }
 
@@ -132,7 +132,7 @@ std::vector<ButtonFunction> ComputerInputManager::copyFunctions(const Key& key) 
 
 void ComputerInputManager::tellMapChanged() {
     m_mirel.updateZonesFromKeys();
-    postCopyToGui(m_mirel, WindowMessages::ALL_KEYS_CHANGED, m_keyConfigurations, m_useKeyUpMod);
+    postToGui(m_mirel, WindowMessages::ALL_KEYS_CHANGED, m_useKeyUpMod, m_keyConfigurations);
     postToGui(m_mirel, WindowMessages::CONTROL_KEYS_CHANGED);
 }
 

@@ -1,7 +1,6 @@
 #include "Gui/ComputerInput/ComputerInputGuiMessageManager.h"
 
-#include "Backend/core/messages/MessagePayload.h"
-#include "Backend/core/messages/MessageRanges.h"
+#include "Backend/core/messages/MessageTable.h"
 #include "Backend/input/ComputerInputMessages.h"
 #include "Gui/ComputerInput/ComputerInputPanel.h"
 
@@ -9,27 +8,34 @@ namespace Gui::ComputerInput {
 
 using namespace Backend;
 using namespace Backend::ComputerInput::WindowMessages;
-using Backend::ComputerInput::KeyConfiguration;
-using Backend::ComputerInput::KeyConfigurationMap;
+
+namespace {
+
+void setAllKeys(ComputerInputPanel& panel, bool useKeyUpMod, const Backend::ComputerInput::KeyConfigurationMap& keys) {
+    panel.setAllKeys(keys, useKeyUpMod);
+}
+
+void refreshPresets(ComputerInputPanel& panel) {
+    panel.getSettingsPanel().refresh();
+}
+
+// clang-format off
+constexpr MessageTable ROWS(
+    FAMILY,
+    on(KEYS_CHANGED, &ComputerInputPanel::setKeys),
+    on(ALL_KEYS_CHANGED, &setAllKeys),
+    on(CONTROL_KEYS_CHANGED, &ComputerInputPanel::updateControlKeys),
+    on(PRESET_FOLDER_CHANGED, &refreshPresets));
+// clang-format on
+
+}
 
 bool ComputerInputGuiMessageManager::wantMessage(unsigned int message) {
     return COMPUTER_INPUT_GUI_RANGE.contains(message);
 }
 
 void ComputerInputGuiMessageManager::handleMessage(unsigned int message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-        case KEYS_CHANGED:
-            if (const auto keys = takePayload<std::vector<KeyConfiguration>>(lParam))
-                m_panel.setKeys(*keys);
-            break;
-        case ALL_KEYS_CHANGED:
-            if (const auto keys = takePayload<KeyConfigurationMap>(lParam))
-                m_panel.setAllKeys(*keys, wParam != 0);
-            break;
-        case CONTROL_KEYS_CHANGED: m_panel.updateControlKeys(); break;
-        case PRESET_FOLDER_CHANGED: m_panel.getSettingsPanel().refresh(); break;
-        default: break;
-    }
+    ROWS.handle(m_panel, message, wParam, lParam);
 }
 
 }

@@ -1,7 +1,6 @@
 #include "Gui/Layers/LayerGuiMessageManager.h"
 
-#include "Backend/core/messages/MessagePayload.h"
-#include "Backend/core/messages/MessageRanges.h"
+#include "Backend/core/messages/MessageTable.h"
 #include "Backend/functions/values/RelativeFixedValue.h"
 #include "Backend/functions/values/SelectType.h"
 #include "Backend/midi/managers/LayerMessages.h"
@@ -13,44 +12,42 @@ using namespace Backend;
 using namespace Backend::Layers::WindowMessages;
 using Backend::Layers::Layer;
 
+namespace {
+
+void setLayers(LayerPanel& panel, const std::vector<Layer>& layers) {
+    for (const Layer& layer : layers)
+        panel.setLayer(layer);
+}
+
+template <auto FIELD, class Value>
+void setField(LayerPanel& panel, std::int32_t layerId, const Value& value) {
+    if (Layer* const layer = panel.getLayerList().find({layerId}))
+        layer->*FIELD = value;
+}
+
+// clang-format off
+constexpr MessageTable ROWS(
+    FAMILY,
+    on(LAYERS_CHANGED, &setLayers),
+    on(ALL_LAYERS_CHANGED, &LayerPanel::setLayerList),
+    on(SELECTED_CHANGED, &setField<&Layer::selected, bool>),
+    on(EDIT_SELECT, IGNORED),
+    on(TRANSPOSE_CHANGED, &setField<&Layer::transpose, RelativeFixedValue>),
+    on(VELOCITY_CHANGED, &setField<&Layer::velocity, RelativeFixedValue>),
+    on(MUTE_CHANGED, &setField<&Layer::mute, bool>),
+    on(MONO_CHANGED, &setField<&Layer::mono, bool>),
+    on(SOLO_CHANGED, &setField<&Layer::solo, bool>),
+    on(TOGGLE_CHANGED, &setField<&Layer::toggle, NoteToggle>));
+// clang-format on
+
+}
+
 bool LayerGuiMessageManager::wantMessage(unsigned int message) {
     return LAYER_GUI_RANGE.contains(message);
 }
 
 void LayerGuiMessageManager::handleMessage(unsigned int message, WPARAM wParam, LPARAM lParam) {
-    Layer* const layer = m_panel.getLayerList().find({static_cast<std::int32_t>(wParam)});
-    const auto setFlag = [layer, lParam](bool Layer::*flag) {
-        if (layer)
-            layer->*flag = lParam != 0;
-    };
-    const auto setAmount = [layer, lParam](RelativeFixedValue Layer::*amount) {
-        const auto value = takePayload<RelativeFixedValue>(lParam);
-        if (layer && value)
-            layer->*amount = *value;
-    };
-    switch (message) {
-        case LAYERS_CHANGED:
-            if (const auto layers = takePayload<std::vector<Layer>>(lParam))
-                for (const Layer& changed : *layers)
-                    m_panel.setLayer(changed);
-            break;
-        case ALL_LAYERS_CHANGED:
-            if (const auto layers = takePayload<Backend::Layers::LayerList>(lParam))
-                m_panel.setLayerList(*layers);
-            break;
-        case SELECTED_CHANGED: setFlag(&Layer::selected); break;
-        case EDIT_SELECT: takePayload<SelectType>(lParam); break;
-        case TRANSPOSE_CHANGED: setAmount(&Layer::transpose); break;
-        case VELOCITY_CHANGED: setAmount(&Layer::velocity); break;
-        case MUTE_CHANGED: setFlag(&Layer::mute); break;
-        case MONO_CHANGED: setFlag(&Layer::mono); break;
-        case SOLO_CHANGED: setFlag(&Layer::solo); break;
-        case TOGGLE_CHANGED:
-            if (layer)
-                layer->toggle = NoteToggle(static_cast<NoteToggle::State>(lParam));
-            break;
-        default: break;
-    }
+    ROWS.handle(m_panel, message, wParam, lParam);
 }
 
 }

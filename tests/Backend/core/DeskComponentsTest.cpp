@@ -1,11 +1,11 @@
 // What the message managers of controls, layers and zones post, and what comes of it.
-#include "Backend/core/messages/MessagePayload.h"
 #include "Backend/core/messages/MessageRanges.h"
 #include "Backend/core/xml/XmlDocument.h"
 #include "Backend/core/xml/XmlElement.h"
 #include "Backend/functions/values/SelectType.h"
 #include "tests/support/DataTable.h"
 #include "tests/support/MessageWitness.h"
+#include "tests/support/MessageWords.h"
 #include "tests/support/RunningDesk.h"
 
 #include <gtest/gtest.h>
@@ -23,6 +23,7 @@ using Controls::Control;
 using Controls::ControlType;
 using MidiEngine::MidiMessage;
 using MidiEngine::MirelMidiMessage;
+using TestSupport::releaseCopy;
 
 constexpr std::int32_t HUGE_ID = 2147483647;
 

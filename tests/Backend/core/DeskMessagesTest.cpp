@@ -1,6 +1,5 @@
 // What each operation of the MirelMessageManager posts, and what the backend thread makes of it.
 #include "Backend/core/Mirel.h"
-#include "Backend/core/messages/MessagePayload.h"
 #include "Backend/core/messages/MessageRanges.h"
 #include "Backend/core/version2/Version2ImportRequest.h"
 #include "Backend/functions/values/OnOffToggle.h"
@@ -10,6 +9,7 @@
 #include "tests/support/DataTable.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/MessageWitness.h"
+#include "tests/support/MessageWords.h"
 #include "tests/support/ProjectFolder.h"
 #include "tests/support/RunningDesk.h"
 
@@ -381,9 +381,9 @@ TEST_F(DeskMessagesTest, WhatComesAfterTheEndIsDisposedOfAndNotCarriedOut) {
         if (row[1].starts_with("post"))
             all.at(row[1])(m_manager);
         else if (expected.back() == 33221)
-            m_master.postMessage(33221, releaseCopy<WPARAM>(makePorts<MidiInputPort>({"Left"})), 0);
+            m_master.postMessage(33221, TestSupport::releaseCopy<WPARAM>(makePorts<MidiInputPort>({"Left"})), 0);
         else if (expected.back() == 33223)
-            m_master.postMessage(33223, releaseCopy<WPARAM>(makePorts<MidiOutputPort>({"Up"})), 0);
+            m_master.postMessage(33223, TestSupport::releaseCopy<WPARAM>(makePorts<MidiOutputPort>({"Up"})), 0);
         else
             m_master.postMessage(expected.back(), 0, 0);
     }

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 namespace Backend {
 namespace {
 
@@ -19,6 +17,9 @@ public:
     int m_value;
     static inline int copies = 0;
 };
+
+constexpr Message<33229, int, int> NUMBERS;
+constexpr Message<33222, int, Heap<Copied>> COPY;
 
 class GuiPostTest : public testing::Test, private Platform::WindowSink {
 protected:
@@ -39,7 +40,7 @@ private:
 
 TEST_F(GuiPostTest, WordsReachTheWindow) {
     openWindow();
-    postToGui(host.mirel(), 33229, 1, -2);
+    EXPECT_TRUE(postToGui(host.mirel(), NUMBERS, 1, -2));
     EXPECT_EQ(m_message, 33229u);
     EXPECT_EQ(m_wParam, 1u);
     EXPECT_EQ(m_lParam, -2);
@@ -47,16 +48,17 @@ TEST_F(GuiPostTest, WordsReachTheWindow) {
 
 TEST_F(GuiPostTest, ACopyReachesTheWindowAndBelongsToIt) {
     openWindow();
-    postCopyToGui(host.mirel(), 33222, std::string("Piano"), 7);
+    EXPECT_TRUE(postToGui(host.mirel(), COPY, 7, Copied(5)));
     EXPECT_EQ(m_message, 33222u);
     EXPECT_EQ(m_wParam, 7u);
-    EXPECT_EQ(*takePayload<std::string>(m_lParam), "Piano");
+    COPY.open(m_wParam, m_lParam, [](int, const Copied& copy) { EXPECT_EQ(copy.m_value, 5); });
 }
 
 TEST_F(GuiPostTest, WithoutAWindowNothingIsPostedAndNoCopyIsMade) {
     Copied::copies = 0;
-    postToGui(host.mirel(), 33229, 1);
-    postCopyToGui(host.mirel(), 33222, Copied(5));
+    EXPECT_FALSE(postToGui(host.mirel(), NUMBERS, 1, 2));
+    EXPECT_FALSE(postToGui(host.mirel(), COPY, 7, Copied(5)));
+    EXPECT_FALSE(postToWindow(nullptr, COPY, 7, Copied(5)));
     EXPECT_EQ(m_message, 0u);
     EXPECT_EQ(Copied::copies, 0);
 }

@@ -1,15 +1,15 @@
 #include "Backend/core/messages/MessageManagerMaster.h"
-#include "Backend/core/messages/MessagePayload.h"
 #include "Backend/input/ComputerInputManager.h"
 #include "Backend/input/ComputerInputMessages.h"
 #include "tests/support/FakeHost.h"
+#include "tests/support/MessageWords.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 using namespace Backend::ComputerInput;
-using Backend::releaseCopy;
+using TestSupport::releaseCopy;
 
 class ComputerInputMessageManagerTest : public testing::Test {
 protected:
@@ -31,29 +31,30 @@ TEST_F(ComputerInputMessageManagerTest, TakesItsRangeOfNumbers) {
     EXPECT_FALSE(m_manager.wantMessage(33467));
     EXPECT_FALSE(m_manager.wantMessage(33478));
     EXPECT_FALSE(m_manager.wantMessage(0));
-    EXPECT_EQ(static_cast<int>(Messages::UPDATE_KEY_CONFIGURATIONS), 33469);
-    EXPECT_EQ(static_cast<int>(Messages::SET_USE_KEY_UP_MOD), 33470);
-    EXPECT_EQ(static_cast<int>(Messages::LOAD_PRESET), 33471);
-    EXPECT_EQ(static_cast<int>(Messages::RENAME_PRESET), 33472);
-    EXPECT_EQ(static_cast<int>(Messages::DELETE_PRESET), 33473);
-    EXPECT_EQ(static_cast<int>(Messages::SAVE_PRESET), 33474);
-    EXPECT_EQ(static_cast<int>(Messages::KEY_DOWN), 33475);
-    EXPECT_EQ(static_cast<int>(Messages::KEY_UP), 33476);
+    EXPECT_EQ(Messages::UPDATE_KEY_CONFIGURATIONS.NUMBER, 33469u);
+    EXPECT_EQ(Messages::SET_USE_KEY_UP_MOD.NUMBER, 33470u);
+    EXPECT_EQ(Messages::LOAD_PRESET.NUMBER, 33471u);
+    EXPECT_EQ(Messages::RENAME_PRESET.NUMBER, 33472u);
+    EXPECT_EQ(Messages::DELETE_PRESET.NUMBER, 33473u);
+    EXPECT_EQ(Messages::SAVE_PRESET.NUMBER, 33474u);
+    EXPECT_EQ(Messages::KEY_DOWN.NUMBER, 33475u);
+    EXPECT_EQ(Messages::KEY_UP.NUMBER, 33476u);
 }
 
 // A leak shows in a build with the address sanitizer.
 TEST_F(ComputerInputMessageManagerTest, DisposesOfWhatIsNeverHandled) {
     const std::string name = "a name that is too long for a string to hold it inside";
     m_manager.disposeMessage(
-        message(Messages::UPDATE_KEY_CONFIGURATIONS, 1, releaseCopy<LPARAM>(std::vector<KeyConfiguration>(2))));
-    m_manager.disposeMessage(message(Messages::SET_USE_KEY_UP_MOD, 1, 0));
-    m_manager.disposeMessage(message(Messages::LOAD_PRESET, 0, releaseCopy<LPARAM>(name)));
-    m_manager.disposeMessage(message(Messages::RENAME_PRESET, releaseCopy<WPARAM>(name), releaseCopy<LPARAM>(name)));
-    m_manager.disposeMessage(message(Messages::DELETE_PRESET, 0, releaseCopy<LPARAM>(name)));
+        message(Messages::UPDATE_KEY_CONFIGURATIONS.NUMBER, 1, releaseCopy<LPARAM>(std::vector<KeyConfiguration>(2))));
+    m_manager.disposeMessage(message(Messages::SET_USE_KEY_UP_MOD.NUMBER, 1, 0));
+    m_manager.disposeMessage(message(Messages::LOAD_PRESET.NUMBER, 0, releaseCopy<LPARAM>(name)));
     m_manager.disposeMessage(
-        message(Messages::SAVE_PRESET, releaseCopy<WPARAM>(name), releaseCopy<LPARAM>(std::vector<Key>(2))));
-    m_manager.disposeMessage(message(Messages::KEY_DOWN, 65, 1));
-    m_manager.disposeMessage(message(Messages::KEY_UP, 65, 0));
+        message(Messages::RENAME_PRESET.NUMBER, releaseCopy<WPARAM>(name), releaseCopy<LPARAM>(name)));
+    m_manager.disposeMessage(message(Messages::DELETE_PRESET.NUMBER, 0, releaseCopy<LPARAM>(name)));
+    m_manager.disposeMessage(
+        message(Messages::SAVE_PRESET.NUMBER, releaseCopy<WPARAM>(name), releaseCopy<LPARAM>(std::vector<Key>(2))));
+    m_manager.disposeMessage(message(Messages::KEY_DOWN.NUMBER, 65, 1));
+    m_manager.disposeMessage(message(Messages::KEY_UP.NUMBER, 65, 0));
 }
 
 // Messages made by hand, as the tables of numbers and words have it.

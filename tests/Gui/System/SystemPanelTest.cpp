@@ -322,7 +322,8 @@ TEST_F(SystemPanelTest, SaveAsksForABankOrAProgram) {
             SendMessageA(panel->getWindowHandle(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(panel->getWindowHandle()),
                          MAKELPARAM(60, 60));
         }
-        const UINT number = isProgram ? Backend::MirelMessages::SAVE_TO_PROGRAM : Backend::MirelMessages::SAVE_TO_BANK;
+        const UINT number =
+            isProgram ? Backend::MirelMessages::SAVE_TO_PROGRAM.NUMBER : Backend::MirelMessages::SAVE_TO_BANK.NUMBER;
         EXPECT_EQ(gui.takePosted(), Lines{std::to_string(number) + " '" + path + "'"});
     }
 }

@@ -20,14 +20,14 @@ std::string describe(const MSG& message) {
     const std::string number = std::to_string(message.message);
     const auto l = static_cast<std::uintptr_t>(message.lParam);
     switch (message.message) {
-        case MirelMessages::CHANGE_PROGRAM:
-        case MirelMessages::CHANGE_DEFAULT_MIDI_OUTPUT: {
+        case MirelMessages::CHANGE_PROGRAM.NUMBER:
+        case MirelMessages::CHANGE_DEFAULT_MIDI_OUTPUT.NUMBER: {
             const auto& type = objectIn<SelectType>(message.wParam);
             return number + " mode=" + std::to_string(type.getMode()) + " value=" + std::to_string(type.getValue());
         }
-        case MirelMessages::CHANGE_PROGRAM_NAME: return number + " '" + objectIn<std::string>(l) + "'";
-        case MirelMessages::SAVE_TO_BANK:
-        case MirelMessages::SAVE_TO_PROGRAM: return number + " '" + objectIn<std::string>(message.wParam) + "'";
+        case MirelMessages::CHANGE_PROGRAM_NAME.NUMBER: return number + " '" + objectIn<std::string>(l) + "'";
+        case MirelMessages::SAVE_TO_BANK.NUMBER:
+        case MirelMessages::SAVE_TO_PROGRAM.NUMBER: return number + " '" + objectIn<std::string>(message.wParam) + "'";
         default:
             return number + " " + std::to_string(static_cast<std::intptr_t>(message.wParam)) + " " +
                    std::to_string(message.lParam);

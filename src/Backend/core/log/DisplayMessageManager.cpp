@@ -3,7 +3,8 @@
 #include "Backend/core/log/DisplayListener.h"
 #include "Backend/core/log/DisplayMessages.h"
 #include "Backend/core/log/EventLine.h"
-#include "Backend/core/messages/MessagePayload.h"
+#include "Backend/core/messages/MessageTable.h"
+#include "Backend/midi/MirelMidiMessage.h"
 #include "Platform/AutoResetEvent.h"
 
 namespace Backend::Display {
@@ -19,12 +20,18 @@ constexpr const char* BANNER = "Mirel Console 3.2\r\n";
 constexpr const char* UNKNOWN_PORT = "???";
 constexpr const char* INPUT_MARK = "> ";
 constexpr const char* NUMBER_END = "  ";
+constexpr Platform::AutoResetEvent* NOBODY = nullptr;
 
 template <class Port>
 std::string getPortName(const std::vector<Port>& ports, int index) {
     if (index < 0 || static_cast<std::size_t>(index) >= ports.size())
         return UNKNOWN_PORT;
     return ports[static_cast<std::size_t>(index)].name;
+}
+
+template <class Value>
+constexpr auto assignTo(Value DisplayMessageManager::*field) {
+    return [field](DisplayMessageManager& display, Value value) { display.*field = std::move(value); };
 }
 
 }
@@ -37,109 +44,116 @@ void DisplayMessageManager::start(bool displayNumbers, bool displayInputs, bool 
 }
 
 void DisplayMessageManager::stop() {
-    m_thread.stop(STOP);
+    m_thread.stop(QUIT_MESSAGE_THREAD);
     for (MSG leftOver; m_thread.tryGet(leftOver);)
-        discard(leftOver);
+        FAMILY.dispose(leftOver);
 }
 
 void DisplayMessageManager::run() {
     m_log.add(BANNER);
     MSG message;
-    while (m_thread.get(message) && message.message != STOP)
+    while (m_thread.get(message) && message.message != QUIT_MESSAGE_THREAD)
         handleMessage(message);
 }
 
-void DisplayMessageManager::post(UINT number, WPARAM wParam, LPARAM lParam) {
-    m_thread.postUntilAccepted(number, wParam, lParam);
+template <class Row, class... Values>
+void DisplayMessageManager::post(Row row, const Values&... values) {
+    row.post([this](UINT number, WPARAM w, LPARAM l) { m_thread.postUntilAccepted(number, w, l); }, values...);
 }
 
 void DisplayMessageManager::postAddText(const std::string& text) {
-    post(ADD_TEXT, 0, releaseCopy<LPARAM>(text));
+    post(ADD_TEXT, text);
 }
 
 void DisplayMessageManager::postSendAll() {
-    post(SEND_ALL, 0, 0);
+    post(SEND_ALL);
 }
 
 void DisplayMessageManager::postFlush() {
-    post(FLUSH, 0, 0);
+    post(FLUSH);
 }
 
 void DisplayMessageManager::postAddInputEvent(const MirelMidiMessage& message) {
-    post(ADD_INPUT_EVENT, 0, releaseCopy<LPARAM>(message));
+    post(ADD_INPUT_EVENT, message);
 }
 
 void DisplayMessageManager::postAddOutputEvent(const MirelMidiMessage& message) {
-    post(ADD_OUTPUT_EVENT, 0, releaseCopy<LPARAM>(message));
+    post(ADD_OUTPUT_EVENT, message);
 }
 
 void DisplayMessageManager::postSetListener(DisplayListener* listener) {
-    post(SET_LISTENER, 0, reinterpret_cast<LPARAM>(listener));
+    post(SET_LISTENER, NOBODY, listener);
 }
 
 void DisplayMessageManager::sendSetListener(DisplayListener* listener) {
     Platform::AutoResetEvent done;
-    post(SET_LISTENER, reinterpret_cast<WPARAM>(&done), reinterpret_cast<LPARAM>(listener));
+    post(SET_LISTENER, &done, listener);
     // The log may be in the middle of telling a listener whose window is this thread's.
     done.waitAnsweringWindows();
 }
 
 void DisplayMessageManager::postSetDisplayNumbers(bool display) {
-    post(SET_DISPLAY_NUMBERS, display, 0);
+    post(SET_DISPLAY_NUMBERS, display);
 }
 
 void DisplayMessageManager::postSetDisplayInputs(bool display) {
-    post(SET_DISPLAY_INPUTS, display, 0);
+    post(SET_DISPLAY_INPUTS, display);
 }
 
 void DisplayMessageManager::postSetDisplayOutputs(bool display) {
-    post(SET_DISPLAY_OUTPUTS, display, 0);
+    post(SET_DISPLAY_OUTPUTS, display);
 }
 
 void DisplayMessageManager::postSetInputPorts(const std::vector<MidiInputPort>& ports) {
-    post(SET_INPUT_PORTS, releaseCopy<WPARAM>(ports), 0);
+    post(SET_INPUT_PORTS, ports);
 }
 
 void DisplayMessageManager::postSetOutputPorts(const std::vector<MidiOutputPort>& ports) {
-    post(SET_OUTPUT_PORTS, releaseCopy<WPARAM>(ports), 0);
+    post(SET_OUTPUT_PORTS, ports);
 }
 
 void DisplayMessageManager::handleMessage(const MSG& message) {
-    switch (message.message) {
-        case ADD_TEXT: m_log.add(*takePayload<std::string>(message.lParam)); break;
-        case SEND_ALL:
-            if (m_listener)
-                m_log.sendAll(*m_listener);
-            break;
-        case FLUSH:
-            if (m_listener)
-                m_log.flush(*m_listener);
-            break;
-        case ADD_INPUT_EVENT: {
-            const auto event = takePayload<MirelMidiMessage>(message.lParam);
-            if (m_displayInputs)
-                addEvent(INPUT_MARK + getPortName(m_inputPorts, event->getInput()), *event);
-            break;
-        }
-        case ADD_OUTPUT_EVENT: {
-            const auto event = takePayload<MirelMidiMessage>(message.lParam);
-            if (m_displayOutputs)
-                addEvent(getPortName(m_outputPorts, event->getOutput()), *event);
-            break;
-        }
-        case SET_LISTENER:
-            m_listener = reinterpret_cast<DisplayListener*>(message.lParam);
-            tellDone(message);
-            break;
-        case SET_DISPLAY_NUMBERS: m_displayNumbers = message.wParam != 0; break;
-        case SET_DISPLAY_INPUTS: m_displayInputs = message.wParam != 0; break;
-        case SET_DISPLAY_OUTPUTS: m_displayOutputs = message.wParam != 0; break;
-        case SET_INPUT_PORTS: m_inputPorts = std::move(*takePayload<std::vector<MidiInputPort>>(message.wParam)); break;
-        case SET_OUTPUT_PORTS:
-            m_outputPorts = std::move(*takePayload<std::vector<MidiOutputPort>>(message.wParam));
-            break;
-        default: break;
-    }
+    using Self = DisplayMessageManager;
+    // clang-format off
+    static constexpr MessageTable ROWS(
+        FAMILY,
+        on(ADD_TEXT, &Self::addText),
+        on(SEND_ALL, &Self::sendAll),
+        on(FLUSH, &Self::flush),
+        on(ADD_INPUT_EVENT, &Self::addInputEvent),
+        on(ADD_OUTPUT_EVENT, &Self::addOutputEvent),
+        on(SET_LISTENER, &Self::setListener),
+        on(SET_DISPLAY_NUMBERS, assignTo(&Self::m_displayNumbers)),
+        on(SET_DISPLAY_INPUTS, assignTo(&Self::m_displayInputs)),
+        on(SET_DISPLAY_OUTPUTS, assignTo(&Self::m_displayOutputs)),
+        on(SET_INPUT_PORTS, assignTo(&Self::m_inputPorts)),
+        on(SET_OUTPUT_PORTS, assignTo(&Self::m_outputPorts)));
+    // clang-format on
+    ROWS.handle(*this, message);
+}
+
+void DisplayMessageManager::addText(const std::string& text) {
+    m_log.add(text);
+}
+
+void DisplayMessageManager::sendAll() {
+    if (m_listener)
+        m_log.sendAll(*m_listener);
+}
+
+void DisplayMessageManager::flush() {
+    if (m_listener)
+        m_log.flush(*m_listener);
+}
+
+void DisplayMessageManager::addInputEvent(const MirelMidiMessage& message) {
+    if (m_displayInputs)
+        addEvent(INPUT_MARK + getPortName(m_inputPorts, message.getInput()), message);
+}
+
+void DisplayMessageManager::addOutputEvent(const MirelMidiMessage& message) {
+    if (m_displayOutputs)
+        addEvent(getPortName(m_outputPorts, message.getOutput()), message);
 }
 
 void DisplayMessageManager::addEvent(const std::string& port, const MirelMidiMessage& message) {
@@ -147,22 +161,9 @@ void DisplayMessageManager::addEvent(const std::string& port, const MirelMidiMes
     m_log.add(number + port + describeEvent(message));
 }
 
-// The sender of a listener may wait for it.
-void DisplayMessageManager::tellDone(const MSG& message) {
-    if (auto* const done = reinterpret_cast<Platform::AutoResetEvent*>(message.wParam))
-        done->set();
-}
-
-void DisplayMessageManager::discard(const MSG& message) {
-    switch (message.message) {
-        case ADD_TEXT: takePayload<std::string>(message.lParam); break;
-        case ADD_INPUT_EVENT:
-        case ADD_OUTPUT_EVENT: takePayload<MirelMidiMessage>(message.lParam); break;
-        case SET_LISTENER: tellDone(message); break;
-        case SET_INPUT_PORTS: takePayload<std::vector<MidiInputPort>>(message.wParam); break;
-        case SET_OUTPUT_PORTS: takePayload<std::vector<MidiOutputPort>>(message.wParam); break;
-        default: break;
-    }
+// The message itself wakes a sender that waits.
+void DisplayMessageManager::setListener(Platform::AutoResetEvent*, DisplayListener* listener) {
+    m_listener = listener;
 }
 
 }

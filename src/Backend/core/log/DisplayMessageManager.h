@@ -8,6 +8,10 @@
 #include <string>
 #include <vector>
 
+namespace Platform {
+class AutoResetEvent;
+}
+
 namespace Backend::MidiEngine {
 class MirelMidiMessage;
 }
@@ -70,11 +74,16 @@ public:
 
 private:
     void run();
-    void post(UINT number, WPARAM wParam, LPARAM lParam);
-    void addEvent(const std::string& port, const MidiEngine::MirelMidiMessage& message);
+    template <class Row, class... Values>
+    void post(Row row, const Values&... values);
 
-    static void tellDone(const MSG& message);
-    static void discard(const MSG& message);
+    void addText(const std::string& text);
+    void sendAll();
+    void flush();
+    void addInputEvent(const MidiEngine::MirelMidiMessage& message);
+    void addOutputEvent(const MidiEngine::MirelMidiMessage& message);
+    void addEvent(const std::string& port, const MidiEngine::MirelMidiMessage& message);
+    void setListener(Platform::AutoResetEvent* waiter, DisplayListener* listener);
 
     DisplayListener* m_listener = nullptr;
     DisplayLog m_log;

@@ -1,23 +1,57 @@
-// Messages to the display's thread. w and l are the two words; "heap" is a pointer to a copy that the handler destroys.
+// Messages to the display's thread, as rows of what their first and second word carry.
 #pragma once
 
-#include "Platform/WindowTypes.h"
+#include "Backend/core/messages/MessageFamily.h"
+#include "Platform/AutoResetEvent.h"
+
+#include <string>
+#include <vector>
+
+namespace Backend::MidiEngine {
+class MirelMidiMessage;
+struct MidiInputPort;
+struct MidiOutputPort;
+}
+
+namespace Backend::Display {
+
+class DisplayListener;
+
+// The event of a sender that waits, or null. It is set once the message was handled, or is disposed of.
+struct Waiter {};
+
+}
+
+template <>
+struct Backend::Carried<Backend::Display::Waiter> : Carried<Platform::AutoResetEvent*> {
+    template <class Word>
+    static void drop(Word word) {
+        if (Platform::AutoResetEvent* const event = get(word))
+            event->set();
+    }
+};
 
 namespace Backend::Display::Messages {
 
-enum Number : UINT {
-    STOP = 32869,
-    ADD_TEXT = 32870,             // l: heap string.
-    SEND_ALL = 32871,             //
-    FLUSH = 32872,                //
-    ADD_INPUT_EVENT = 32873,      // l: heap MirelMidiMessage.
-    ADD_OUTPUT_EVENT = 32874,     // l: heap MirelMidiMessage.
-    SET_LISTENER = 32875,         // l: DisplayListener, not owned.
-    SET_DISPLAY_NUMBERS = 32876,  // w: bool.
-    SET_DISPLAY_INPUTS = 32877,   // w: bool.
-    SET_DISPLAY_OUTPUTS = 32878,  // w: bool.
-    SET_INPUT_PORTS = 32879,      // w: heap vector of MidiInputPort.
-    SET_OUTPUT_PORTS = 32880,     // w: heap vector of MidiOutputPort.
-};
+// clang-format off
+
+inline constexpr Message<32870, Nothing, Heap<std::string>>                    ADD_TEXT;
+inline constexpr Message<32871>                                                SEND_ALL;
+inline constexpr Message<32872>                                                FLUSH;
+inline constexpr Message<32873, Nothing, Heap<MidiEngine::MirelMidiMessage>>   ADD_INPUT_EVENT;
+inline constexpr Message<32874, Nothing, Heap<MidiEngine::MirelMidiMessage>>   ADD_OUTPUT_EVENT;
+inline constexpr Message<32875, Waiter, DisplayListener*>                      SET_LISTENER;
+inline constexpr Message<32876, bool>                                          SET_DISPLAY_NUMBERS;
+inline constexpr Message<32877, bool>                                          SET_DISPLAY_INPUTS;
+inline constexpr Message<32878, bool>                                          SET_DISPLAY_OUTPUTS;
+inline constexpr Message<32879, Heap<std::vector<MidiEngine::MidiInputPort>>>  SET_INPUT_PORTS;
+inline constexpr Message<32880, Heap<std::vector<MidiEngine::MidiOutputPort>>> SET_OUTPUT_PORTS;
+
+inline constexpr auto FAMILY = familyOf<DISPLAY_RANGE>(
+    Unused<>(),
+    ADD_TEXT, SEND_ALL, FLUSH, ADD_INPUT_EVENT, ADD_OUTPUT_EVENT, SET_LISTENER, SET_DISPLAY_NUMBERS,
+    SET_DISPLAY_INPUTS, SET_DISPLAY_OUTPUTS, SET_INPUT_PORTS, SET_OUTPUT_PORTS);
+
+// clang-format on
 
 }

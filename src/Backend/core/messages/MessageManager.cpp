@@ -6,10 +6,20 @@ namespace Backend {
 
 MessageManager::MessageManager(MessageManagerMaster& master) : m_master(master) {}
 
-void MessageManager::disposeMessage(const MSG&) {}
-
 bool MessageManager::currentThreadIsManagerThread() const {
     return m_master.currentThreadIsManagerThread();
+}
+
+void MessageManager::postWords(UINT number, WPARAM wParam, LPARAM lParam) {
+    m_master.postMessage(number, wParam, lParam);
+}
+
+bool MessageManager::tryPostWords(UINT number, WPARAM wParam, LPARAM lParam) {
+    return m_master.tryPostMessage(number, wParam, lParam);
+}
+
+void MessageManager::waitForAnswer() {
+    m_master.getWaitEvent().wait();
 }
 
 }

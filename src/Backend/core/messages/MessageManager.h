@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Backend/core/messages/Message.h"
 #include "Platform/WindowTypes.h"
 
 namespace Backend {
@@ -22,13 +23,42 @@ public:
     virtual void handleMessage(const MSG& message) = 0;
 
     // [thread that stops the backend] Destroys what a message brings that was posted too late to be handled.
-    virtual void disposeMessage(const MSG& message);
+    virtual void disposeMessage(const MSG& message) = 0;
 
     // [any] Whether the calling thread is the backend worker.
     bool currentThreadIsManagerThread() const;
 
 protected:
+    // [any] Posts a message that carries these values, and waits while the queue takes nothing.
+    template <class Row, class... Values>
+    void post(Row row, const Values&... values) {
+        static_assert(!Row::IS_SENT, "this message is to be sent");
+        row.post([this](UINT number, WPARAM wParam, LPARAM lParam) { postWords(number, wParam, lParam); }, values...);
+    }
+
+    // [any] The same without waiting. Returns false, and posts nothing, while the queue takes nothing.
+    template <class Row, class... Values>
+    bool tryPost(Row row, const Values&... values) {
+        static_assert(!Row::IS_SENT, "this message is to be sent");
+        return row.post(
+            [this](UINT number, WPARAM wParam, LPARAM lParam) { return tryPostWords(number, wParam, lParam); },
+            values...);
+    }
+
+    // [any but backend] Posts a message and waits until it has been handled.
+    template <class Row, class... Values>
+    void send(Row row, const Values&... values) {
+        static_assert(Row::IS_SENT, "nobody answers to this message");
+        row.post([this](UINT number, WPARAM wParam, LPARAM lParam) { postWords(number, wParam, lParam); }, values...);
+        waitForAnswer();
+    }
+
     MessageManagerMaster& m_master;
+
+private:
+    void postWords(UINT number, WPARAM wParam, LPARAM lParam);
+    bool tryPostWords(UINT number, WPARAM wParam, LPARAM lParam);
+    void waitForAnswer();
 };
 
 }

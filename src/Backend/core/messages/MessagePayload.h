@@ -1,31 +1,117 @@
-// Objects that travel in a message. Whoever posts gives the object up, whoever handles the message owns it.
+// What the words of messages carry. The rows of the message tables (Message.h) name these kinds, and words are made and
+// read here alone.
 #pragma once
 
 #include "Platform/WindowTypes.h"
 
+#include <cstdint>
 #include <memory>
+#include <utility>
 
 namespace Backend {
 
-// [any] Releases an object into a word of a message (WPARAM or LPARAM).
-template <class Word, class Payload>
-Word releasePayload(std::unique_ptr<Payload> payload) {
-    static_assert(sizeof(Word) == sizeof(Payload*));
-    return reinterpret_cast<Word>(payload.release());
-}
+// The word is 0.
+struct Nothing {};
 
-// [any] Takes it back. The type must be the very one that was released, not a base of it, and a word gives its object
-// once. A word of 0 gives null.
-template <class Payload, class Word>
-std::unique_ptr<Payload> takePayload(Word word) {
-    static_assert(sizeof(Word) == sizeof(Payload*));
-    return std::unique_ptr<Payload>(reinterpret_cast<Payload*>(word));
-}
+// A pointer to a copy on the heap, which belongs to the receiver of the message.
+template <class T>
+struct Heap {};
 
-// [any] Releases a copy of an object.
-template <class Word, class Payload>
-Word releaseCopy(const Payload& object) {
-    return releasePayload<Word>(std::make_unique<Payload>(object));
-}
+// The state of a toggle, by its getState.
+template <class T>
+struct State {};
+
+// One value in both words, by its getWparam and getLparam. It stands for the first word, and the row has no second one.
+template <class T>
+struct BothWords {};
+
+// [any] How content of one kind travels in a word. This is the form of what fits into one: a flag (any word but 0 is
+// true), a number or an enumerator (the low part of the word). A family with a kind of its own specializes it.
+//
+//   Value  what is posted, and what handlers receive
+//   put    makes the word for a value
+//   has    whether a word brings a value; a message without it is not handled
+//   get    the value that a word brings
+//   drop   releases what a word owns, after the message has been handled or instead of it
+template <class T>
+struct Carried {
+    using Value = T;
+
+    template <class Word>
+    static Word put(T value) {
+        return static_cast<Word>(value);
+    }
+
+    template <class Word>
+    static bool has(Word) {
+        return true;
+    }
+
+    template <class Word>
+    static T get(Word word) {
+        return static_cast<T>(word);
+    }
+
+    template <class Word>
+    static void drop(Word) {}
+};
+
+// A window or an object that the message does not own. Null is a value too.
+template <class T>
+struct Carried<T*> : Carried<std::intptr_t> {
+    using Value = T*;
+
+    template <class Word>
+    static Word put(T* value) {
+        return reinterpret_cast<Word>(value);
+    }
+
+    template <class Word>
+    static T* get(Word word) {
+        return reinterpret_cast<T*>(word);
+    }
+};
+
+template <class T>
+struct Carried<State<T>> : Carried<std::intptr_t> {
+    using Value = T;
+
+    template <class Word>
+    static Word put(const T& value) {
+        return static_cast<Word>(value.getState());
+    }
+
+    template <class Word>
+    static T get(Word word) {
+        return T(static_cast<typename T::State>(word));
+    }
+};
+
+template <class T>
+struct Carried<Heap<T>> {
+    using Value = T;
+
+    template <class Word>
+    static Word put(const T& value) {
+        static_assert(sizeof(Word) == sizeof(T*));
+        return reinterpret_cast<Word>(std::make_unique<T>(value).release());
+    }
+
+    template <class Word>
+    static bool has(Word word) {
+        return word != 0;
+    }
+
+    // Handlers may move from it.
+    template <class Word>
+    static T&& get(Word word) {
+        return std::move(*reinterpret_cast<T*>(word));
+    }
+
+    template <class Word>
+    static void drop(Word word) {
+        std::unique_ptr<T>(reinterpret_cast<T*>(word)).reset();
+    }
+};
 
 }

@@ -7,8 +7,8 @@
 
 namespace Backend {
 
-// Where a message lies. The same number means different things in the two.
-enum class MessageQueueKind { BACKEND, WINDOW };
+// Where a message lies. The same number means different things in each.
+enum class MessageQueueKind { BACKEND, WINDOW, ENGINE, DISPLAY };
 
 struct MessageRange {
     MessageQueueKind queue;
@@ -30,12 +30,15 @@ inline constexpr MessageRange COMPUTER_INPUT_GUI_RANGE = {MessageQueueKind::WIND
 inline constexpr MessageRange CONTROL_GUI_RANGE        = {MessageQueueKind::WINDOW,  33968, 33974};
 inline constexpr MessageRange LAYER_GUI_RANGE          = {MessageQueueKind::WINDOW,  34718, 34729};
 inline constexpr MessageRange ZONE_GUI_RANGE           = {MessageQueueKind::WINDOW,  34968, 34972};
-// clang-format on
+inline constexpr MessageRange MIDI_ENGINE_RANGE        = {MessageQueueKind::ENGINE,  32870, 32883};
+inline constexpr MessageRange DISPLAY_RANGE            = {MessageQueueKind::DISPLAY, 32870, 32880};
 
 inline constexpr std::array MESSAGE_RANGES = {
     MIREL_RANGE,     COMPUTER_INPUT_RANGE,     CONTROL_RANGE,     LAYER_RANGE,     ZONE_RANGE,
     MIREL_GUI_RANGE, COMPUTER_INPUT_GUI_RANGE, CONTROL_GUI_RANGE, LAYER_GUI_RANGE, ZONE_GUI_RANGE,
+    MIDI_ENGINE_RANGE, DISPLAY_RANGE,
 };
+// clang-format on
 
 // Ends the backend worker. No manager sees it.
 inline constexpr UINT QUIT_BACKEND_WORKER = 32969;

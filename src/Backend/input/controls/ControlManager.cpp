@@ -28,10 +28,6 @@ std::int32_t to32Bits(std::int64_t value) {
     return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, INT32_MIN, INT32_MAX));
 }
 
-WPARAM cellWord(const Cell& cell) {
-    return static_cast<WPARAM>(static_cast<std::uint32_t>(cell.getKey()));
-}
-
 }
 
 ControlManager::ControlManager(MirelIF& mirel, MessageManagerMaster& master)
@@ -45,7 +41,7 @@ void ControlManager::loadDefaultControls() {
 void ControlManager::readXml(const XmlElement& element) {
     m_controls.readXml(element);
     sendAll(true);
-    postCopyToGui(m_mirel, WindowMessages::ALL_CONTROLS_CHANGED, m_controls);
+    postToGui(m_mirel, WindowMessages::ALL_CONTROLS_CHANGED, m_controls);
 }
 
 void ControlManager::writeXml(std::ostream& stream, int indent, const std::vector<Cell>& selected) const {
@@ -54,7 +50,7 @@ void ControlManager::writeXml(std::ostream& stream, int indent, const std::vecto
 
 void ControlManager::clear() {
     m_controls.clear();
-    postCopyToGui(m_mirel, WindowMessages::ALL_CONTROLS_CHANGED, m_controls);
+    postToGui(m_mirel, WindowMessages::ALL_CONTROLS_CHANGED, m_controls);
 }
 
 void ControlManager::loadPreset(const std::string& name) {
@@ -81,7 +77,7 @@ void ControlManager::updateControls(const std::vector<Control>& controls, bool n
             m_controls.set(control);
     }
     if (notifyGui)
-        postCopyToGui(m_mirel, WindowMessages::CONTROLS_CHANGED, controls, 1u | (guiFlag ? 1u << 16 : 0u));
+        postToGui(m_mirel, WindowMessages::CONTROLS_CHANGED, UpdateFlags{notifyGui, guiFlag}, controls);
 }
 
 void ControlManager::selectControls(const std::vector<Cell>& cells) {
@@ -141,7 +137,7 @@ void ControlManager::storeValue(Control& control, std::int32_t value, bool updat
 }
 
 void ControlManager::tellValue(const Control& control) {
-    postToGui(m_mirel, WindowMessages::VALUE_CHANGED, cellWord(control.cell), control.value);
+    postToGui(m_mirel, WindowMessages::VALUE_CHANGED, control.cell, control.value);
 }
 
 // The others keep their distance to the source and stop at the ends. Beyond that point only the source moves; the
@@ -254,7 +250,7 @@ Control* ControlManager::findNext(SelectControlType::Mode mode, const Control* f
 
 void ControlManager::select(Control& control, bool selected) {
     control.selected = selected;
-    postToGui(m_mirel, WindowMessages::SELECTED_CHANGED, cellWord(control.cell), selected);
+    postToGui(m_mirel, WindowMessages::SELECTED_CHANGED, control.cell, selected);
 }
 
 void ControlManager::changeControlValue(const SelectControlType& type, const RelativeFixedValue& value) {

@@ -1,12 +1,12 @@
 #include "Backend/midi/engine/MidiEngine.h"
 
+#include "Backend/core/GuiPost.h"
 #include "Backend/core/MirelIF.h"
 #include "Backend/core/WindowMessages.h"
 #include "Backend/core/xml/Text.h"
 #include "Backend/midi/PassingEvents.h"
 #include "Backend/midi/layers/LayerList.h"
 #include "Backend/midi/layers/ZoneMap.h"
-#include "Platform/WindowSink.h"
 
 #include <algorithm>
 #include <cmath>
@@ -199,9 +199,7 @@ void MidiEngine::playMidiInternal(const MirelMidiMessage& message, bool stackNot
     const bool isFromInput = message.getInput() >= 0;
     if (!isHeldBack && (m_midiThru || !isFromInput))
         m_midiPlayer.playMidi(message);
-    if (const HWND window = getGuiWindowHandle())
-        Platform::postToWindow(window, WindowMessages::DISPLAY_MIDI_OUTPUT_EVENT, message.getWparam(),
-                               static_cast<LPARAM>(message.getLparam()));
+    postToWindow(getGuiWindowHandle(), WindowMessages::DISPLAY_MIDI_OUTPUT_EVENT, message);
 }
 
 }

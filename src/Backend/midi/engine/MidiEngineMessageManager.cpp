@@ -1,8 +1,7 @@
 #include "Backend/midi/engine/MidiEngineMessageManager.h"
 
 #include "Backend/core/messages/MessageForm.h"
-#include "Backend/core/messages/MessagePayload.h"
-#include "Backend/core/xml/Text.h"
+#include "Backend/core/messages/MessageTable.h"
 #include "Backend/midi/engine/MidiEngine.h"
 #include "Backend/midi/engine/MidiEngineMessages.h"
 #include "Backend/midi/layers/LayerList.h"
@@ -21,19 +20,20 @@ void MidiEngineMessageManager::start() {
 }
 
 void MidiEngineMessageManager::stop() {
-    m_thread.stop(STOP);
+    m_thread.stop(QUIT_MESSAGE_THREAD);
     for (MSG leftOver; m_thread.tryGet(leftOver);)
-        discard(leftOver);
+        FAMILY.dispose(leftOver);
 }
 
 void MidiEngineMessageManager::run() {
     MSG message;
-    while (m_thread.get(message) && message.message != STOP)
+    while (m_thread.get(message) && message.message != QUIT_MESSAGE_THREAD)
         handleMessage(message);
 }
 
-void MidiEngineMessageManager::post(UINT number, WPARAM wParam, LPARAM lParam) {
-    m_thread.postUntilAccepted(number, wParam, lParam);
+template <class Row, class... Values>
+void MidiEngineMessageManager::post(Row row, const Values&... values) {
+    row.post([this](UINT number, WPARAM w, LPARAM l) { m_thread.postUntilAccepted(number, w, l); }, values...);
 }
 
 void MidiEngineMessageManager::postPlayMidi(const MirelMidiMessage& message) {
@@ -45,51 +45,51 @@ void MidiEngineMessageManager::postPlayMidi(const MirelMidiMessage& message) {
 }
 
 void MidiEngineMessageManager::postPlayMidiViaParam(const MirelMidiMessage& message) {
-    post(PLAY_MIDI_VIA_PARAM, static_cast<WPARAM>(message.getWparam()), static_cast<LPARAM>(message.getLparam()));
+    post(PLAY_MIDI_VIA_PARAM, message);
 }
 
 void MidiEngineMessageManager::postPlayMidiViaAlloc(const MirelMidiMessage& message) {
-    post(PLAY_MIDI_VIA_ALLOC, releasePayload<WPARAM>(std::make_unique<MirelMidiMessage>(message)));
+    post(PLAY_MIDI_VIA_ALLOC, message);
 }
 
 void MidiEngineMessageManager::postSetMidiInputPorts(const std::vector<MidiInputPort>& ports) {
-    post(SET_MIDI_INPUT_PORTS, releasePayload<WPARAM>(std::make_unique<std::vector<MidiInputPort>>(ports)));
+    post(SET_MIDI_INPUT_PORTS, ports);
 }
 
 void MidiEngineMessageManager::postSetMidiOutputPorts(const std::vector<MidiOutputPort>& ports) {
-    post(SET_MIDI_OUTPUT_PORTS, releasePayload<WPARAM>(std::make_unique<std::vector<MidiOutputPort>>(ports)));
+    post(SET_MIDI_OUTPUT_PORTS, ports);
 }
 
 void MidiEngineMessageManager::postEnableMidiInput(int port, bool enable) {
-    post(ENABLE_MIDI_INPUT, static_cast<WPARAM>(port), enable);
+    post(ENABLE_MIDI_INPUT, port, enable);
 }
 
 void MidiEngineMessageManager::postEnableMidiOutput(int port, bool enable) {
-    post(ENABLE_MIDI_OUTPUT, static_cast<WPARAM>(port), enable);
+    post(ENABLE_MIDI_OUTPUT, port, enable);
 }
 
 void MidiEngineMessageManager::postSetDefaultMidiOutput(int output) {
-    post(SET_DEFAULT_MIDI_OUTPUT, static_cast<WPARAM>(output));
+    post(SET_DEFAULT_MIDI_OUTPUT, output);
 }
 
 void MidiEngineMessageManager::postSetLayerList(const Layers::LayerList& layers) {
-    post(SET_LAYER_LIST, releasePayload<WPARAM>(std::make_unique<Layers::LayerList>(layers)));
+    post(SET_LAYER_LIST, layers);
 }
 
 void MidiEngineMessageManager::postSetZoneMap(const Zones::ZoneMap& zones) {
-    post(SET_ZONE_MAP, releasePayload<WPARAM>(std::make_unique<Zones::ZoneMap>(zones)));
+    post(SET_ZONE_MAP, zones);
 }
 
 void MidiEngineMessageManager::postSetZone(const Zones::Zone& zone) {
-    post(SET_ZONE, releasePayload<WPARAM>(std::make_unique<Zones::Zone>(zone)));
+    post(SET_ZONE, zone);
 }
 
 void MidiEngineMessageManager::postSetTempo(int bpm) {
-    post(SET_TEMPO, static_cast<WPARAM>(bpm));
+    post(SET_TEMPO, bpm);
 }
 
 void MidiEngineMessageManager::postSetTempoSource(char input) {
-    post(SET_TEMPO_SOURCE, static_cast<WPARAM>(input));
+    post(SET_TEMPO_SOURCE, input);
 }
 
 void MidiEngineMessageManager::postSetMidiThru(bool midiThru) {
@@ -110,95 +110,82 @@ bool MidiEngineMessageManager::currentThreadIsManagerThread() const {
 
 void MidiEngineMessageManager::handleMessage(const MSG& message) {
     // Waits for a time slice, which needs the lock.
-    if (message.message == SET_LAYER_LIST || message.message == RESET_ONLY)
+    if (message.message == SET_LAYER_LIST.NUMBER || message.message == RESET_ONLY.NUMBER)
         m_midiEngine.sendReset();
 
-    CriticalSectionLock lock(m_midiEngine.getCriticalSection());
-    if (message.message >= FIRST_REQUEST && message.message <= LAST_REQUEST)
-        handleRequest(message);
+    using Self = MidiEngineMessageManager;
+    // clang-format off
+    static constexpr MessageTable ROWS(
+        FAMILY,
+        on(PLAY_MIDI_VIA_PARAM, &Self::handlePlayMidiViaParam),
+        on(PLAY_MIDI_VIA_ALLOC, &Self::handlePlayMidiViaAlloc),
+        on(SET_MIDI_INPUT_PORTS, &Self::handleSetMidiInputPorts),
+        on(SET_MIDI_OUTPUT_PORTS, &Self::handleSetMidiOutputPorts),
+        on(ENABLE_MIDI_INPUT, &Self::handleEnableMidiInput),
+        on(ENABLE_MIDI_OUTPUT, &Self::handleEnableMidiOutput),
+        on(SET_DEFAULT_MIDI_OUTPUT, &Self::handleSetDefaultMidiOutput),
+        on(SET_LAYER_LIST, &Self::handleSetLayerList),
+        on(SET_ZONE_MAP, &Self::handleSetZoneMap),
+        on(SET_ZONE, &Self::handleSetZone),
+        on(SET_TEMPO, &Self::handleSetTempo),
+        on(SET_TEMPO_SOURCE, &Self::handleSetTempoSource),
+        on(SET_MIDI_THRU, &Self::handleSetMidiThru),
+        on(RESET_ONLY, IGNORED));
+    // clang-format on
+    const CriticalSectionLock lock(m_midiEngine.getCriticalSection());
+    ROWS.handle(*this, message);
 }
 
-void MidiEngineMessageManager::handleRequest(const MSG& message) {
-    switch (message.message) {
-        case PLAY_MIDI_VIA_PARAM: return handlePlayMidiViaParam(message);
-        case PLAY_MIDI_VIA_ALLOC: return handlePlayMidiViaAlloc(message);
-        case SET_MIDI_INPUT_PORTS: return handleSetMidiInputPorts(message);
-        case SET_MIDI_OUTPUT_PORTS: return handleSetMidiOutputPorts(message);
-        case ENABLE_MIDI_INPUT: return handleEnableMidiInput(message);
-        case ENABLE_MIDI_OUTPUT: return handleEnableMidiOutput(message);
-        case SET_DEFAULT_MIDI_OUTPUT: return handleSetDefaultMidiOutput(message);
-        case SET_LAYER_LIST: return handleSetLayerList(message);
-        case RESET_ONLY: return;
-        case SET_ZONE_MAP: return handleSetZoneMap(message);
-        case SET_ZONE: return handleSetZone(message);
-        case SET_TEMPO: return handleSetTempo(message);
-        case SET_TEMPO_SOURCE: return handleSetTempoSource(message);
-        case SET_MIDI_THRU: return handleSetMidiThru(message);
-    }
+void MidiEngineMessageManager::handlePlayMidiViaParam(const MirelMidiMessage& message) {
+    m_midiEngine.postPlayMidi(message);
 }
 
-void MidiEngineMessageManager::handlePlayMidiViaParam(const MSG& message) {
-    m_midiEngine.postPlayMidi(MirelMidiMessage(std::uint64_t{message.wParam}, std::int64_t{message.lParam}));
+void MidiEngineMessageManager::handlePlayMidiViaAlloc(const MirelMidiMessage& message) {
+    m_midiEngine.postPlayMidi(message);
 }
 
-void MidiEngineMessageManager::handlePlayMidiViaAlloc(const MSG& message) {
-    m_midiEngine.postPlayMidi(*takePayload<MirelMidiMessage>(message.wParam));
+void MidiEngineMessageManager::handleSetMidiInputPorts(std::vector<MidiInputPort> ports) {
+    m_midiEngine.setMidiInputPorts(std::move(ports));
 }
 
-void MidiEngineMessageManager::handleSetMidiInputPorts(const MSG& message) {
-    m_midiEngine.setMidiInputPorts(std::move(*takePayload<std::vector<MidiInputPort>>(message.wParam)));
+void MidiEngineMessageManager::handleSetMidiOutputPorts(std::vector<MidiOutputPort> ports) {
+    m_midiEngine.setMidiOutputPorts(std::move(ports));
 }
 
-void MidiEngineMessageManager::handleSetMidiOutputPorts(const MSG& message) {
-    m_midiEngine.setMidiOutputPorts(std::move(*takePayload<std::vector<MidiOutputPort>>(message.wParam)));
+void MidiEngineMessageManager::handleEnableMidiInput(int port, bool enable) {
+    m_midiEngine.enableMidiInput(port, enable);
 }
 
-void MidiEngineMessageManager::handleEnableMidiInput(const MSG& message) {
-    m_midiEngine.enableMidiInput(static_cast<int>(message.wParam), message.lParam != 0);
+void MidiEngineMessageManager::handleEnableMidiOutput(int port, bool enable) {
+    m_midiEngine.enableMidiOutput(port, enable);
 }
 
-void MidiEngineMessageManager::handleEnableMidiOutput(const MSG& message) {
-    m_midiEngine.enableMidiOutput(static_cast<int>(message.wParam), message.lParam != 0);
+void MidiEngineMessageManager::handleSetDefaultMidiOutput(int output) {
+    m_midiEngine.setDefaultMidiOutput(output);
 }
 
-void MidiEngineMessageManager::handleSetDefaultMidiOutput(const MSG& message) {
-    m_midiEngine.setDefaultMidiOutput(static_cast<int>(message.wParam));
+void MidiEngineMessageManager::handleSetLayerList(const Layers::LayerList& layers) {
+    m_midiEngine.setLayerList(layers);
 }
 
-void MidiEngineMessageManager::handleSetLayerList(const MSG& message) {
-    m_midiEngine.setLayerList(*takePayload<Layers::LayerList>(message.wParam));
+void MidiEngineMessageManager::handleSetZoneMap(const Zones::ZoneMap& zones) {
+    m_midiEngine.setZoneMap(zones);
 }
 
-void MidiEngineMessageManager::handleSetZoneMap(const MSG& message) {
-    m_midiEngine.setZoneMap(*takePayload<Zones::ZoneMap>(message.wParam));
+void MidiEngineMessageManager::handleSetZone(const Zones::Zone& zone) {
+    m_midiEngine.setZone(zone);
 }
 
-void MidiEngineMessageManager::handleSetZone(const MSG& message) {
-    m_midiEngine.setZone(*takePayload<Zones::Zone>(message.wParam));
+void MidiEngineMessageManager::handleSetTempo(int bpm) {
+    m_midiEngine.setTempo(bpm);
 }
 
-void MidiEngineMessageManager::handleSetTempo(const MSG& message) {
-    m_midiEngine.setTempo(static_cast<int>(message.wParam));
+void MidiEngineMessageManager::handleSetTempoSource(char input) {
+    m_midiEngine.setTempoSource(input);
 }
 
-void MidiEngineMessageManager::handleSetTempoSource(const MSG& message) {
-    m_midiEngine.setTempoSource(Text::lowByte(static_cast<std::int32_t>(message.wParam)));
-}
-
-void MidiEngineMessageManager::handleSetMidiThru(const MSG& message) {
-    m_midiEngine.setMidiThru(message.wParam != 0);
-}
-
-void MidiEngineMessageManager::discard(const MSG& message) {
-    switch (message.message) {
-        case PLAY_MIDI_VIA_ALLOC: takePayload<MirelMidiMessage>(message.wParam); break;
-        case SET_MIDI_INPUT_PORTS: takePayload<std::vector<MidiInputPort>>(message.wParam); break;
-        case SET_MIDI_OUTPUT_PORTS: takePayload<std::vector<MidiOutputPort>>(message.wParam); break;
-        case SET_LAYER_LIST: takePayload<Layers::LayerList>(message.wParam); break;
-        case SET_ZONE_MAP: takePayload<Zones::ZoneMap>(message.wParam); break;
-        case SET_ZONE: takePayload<Zones::Zone>(message.wParam); break;
-        default: break;
-    }
+void MidiEngineMessageManager::handleSetMidiThru(bool midiThru) {
+    m_midiEngine.setMidiThru(midiThru);
 }
 
 }

@@ -93,26 +93,23 @@ public:
 
 private:
     void run();
-    void post(UINT number, WPARAM wParam = 0, LPARAM lParam = 0);
+    template <class Row, class... Values>
+    void post(Row row, const Values&... values);
     void postPlayMidiViaAlloc(const MirelMidiMessage& message);
 
-    void handleRequest(const MSG& message);
-    void handlePlayMidiViaParam(const MSG& message);
-    void handlePlayMidiViaAlloc(const MSG& message);
-    void handleSetMidiInputPorts(const MSG& message);
-    void handleSetMidiOutputPorts(const MSG& message);
-    void handleEnableMidiInput(const MSG& message);
-    void handleEnableMidiOutput(const MSG& message);
-    void handleSetDefaultMidiOutput(const MSG& message);
-    void handleSetLayerList(const MSG& message);
-    void handleSetZoneMap(const MSG& message);
-    void handleSetZone(const MSG& message);
-    void handleSetTempo(const MSG& message);
-    void handleSetTempoSource(const MSG& message);
-    void handleSetMidiThru(const MSG& message);
-
-    // Destroys what a message carries without carrying it out.
-    static void discard(const MSG& message);
+    void handlePlayMidiViaParam(const MirelMidiMessage& message);
+    void handlePlayMidiViaAlloc(const MirelMidiMessage& message);
+    void handleSetMidiInputPorts(std::vector<MidiInputPort> ports);
+    void handleSetMidiOutputPorts(std::vector<MidiOutputPort> ports);
+    void handleEnableMidiInput(int port, bool enable);
+    void handleEnableMidiOutput(int port, bool enable);
+    void handleSetDefaultMidiOutput(int output);
+    void handleSetLayerList(const Layers::LayerList& layers);
+    void handleSetZoneMap(const Zones::ZoneMap& zones);
+    void handleSetZone(const Zones::Zone& zone);
+    void handleSetTempo(int bpm);
+    void handleSetTempoSource(char input);
+    void handleSetMidiThru(bool midiThru);
 
     MidiEngine& m_midiEngine;
     Platform::MessageThread m_thread;

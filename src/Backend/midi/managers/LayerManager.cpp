@@ -70,14 +70,14 @@ void LayerManager::updateLayers(const std::vector<Layer>& layers, bool notifyGui
     }
     sendToEngine();
     if (notifyGui)
-        postCopyToGui(m_mirel, WindowMessages::LAYERS_CHANGED, layers);
+        postToGui(m_mirel, WindowMessages::LAYERS_CHANGED, layers);
 }
 
 void LayerManager::setLayerList(const LayerList& layers, bool notifyGui) {
     m_layers = layers;
     sendToEngine();
     if (notifyGui)
-        postCopyToGui(m_mirel, WindowMessages::ALL_LAYERS_CHANGED, m_layers);
+        postToGui(m_mirel, WindowMessages::ALL_LAYERS_CHANGED, m_layers);
 }
 
 void LayerManager::selectLayers(const std::vector<LayerId>& ids) {
@@ -124,7 +124,7 @@ void LayerManager::dataSelectLayer(const SelectType& type) {
 
 void LayerManager::select(Layer& layer, bool selected) {
     layer.selected = selected;
-    postToGui(m_mirel, WindowMessages::SELECTED_CHANGED, static_cast<WPARAM>(layer.id), selected);
+    postToGui(m_mirel, WindowMessages::SELECTED_CHANGED, layer.id, selected);
 }
 
 void LayerManager::changeLayerTranspose(const SelectType& type, const RelativeFixedValue& value) {
@@ -150,22 +150,24 @@ void LayerManager::changeLayerSolo(const SelectType& type, const OnOffToggle& va
 void LayerManager::changeLayerNoteToggle(const SelectType& type, const NoteToggle& value) {
     changeLayers(type, [&](Layer& layer) {
         layer.toggle = value;
-        postToGui(m_mirel, WindowMessages::TOGGLE_CHANGED, static_cast<WPARAM>(layer.id), value.getState());
+        postToGui(m_mirel, WindowMessages::TOGGLE_CHANGED, layer.id, value);
     });
 }
 
+template <class Row>
 void LayerManager::changeAmount(const SelectType& type, const RelativeFixedValue& value,
-                                RelativeFixedValue Layer::*amount, UINT message) {
+                                RelativeFixedValue Layer::*amount, Row message) {
     changeLayers(type, [&](Layer& layer) {
         (layer.*amount).setValue(value.applyTo((layer.*amount).getValue()));
-        postCopyToGui(m_mirel, message, layer.*amount, static_cast<WPARAM>(layer.id));
+        postToGui(m_mirel, message, layer.id, layer.*amount);
     });
 }
 
-void LayerManager::changeFlag(const SelectType& type, const OnOffToggle& value, bool Layer::*flag, UINT message) {
+template <class Row>
+void LayerManager::changeFlag(const SelectType& type, const OnOffToggle& value, bool Layer::*flag, Row message) {
     changeLayers(type, [&](Layer& layer) {
         layer.*flag = value.applyTo(layer.*flag);
-        postToGui(m_mirel, message, static_cast<WPARAM>(layer.id), layer.*flag);
+        postToGui(m_mirel, message, layer.id, layer.*flag);
     });
 }
 
@@ -186,7 +188,7 @@ void LayerManager::sendToEngine() {
 
 void LayerManager::sendAll() {
     sendToEngine();
-    postCopyToGui(m_mirel, WindowMessages::ALL_LAYERS_CHANGED, m_layers);
+    postToGui(m_mirel, WindowMessages::ALL_LAYERS_CHANGED, m_layers);
 }
 
 }

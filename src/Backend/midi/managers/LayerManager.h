@@ -86,9 +86,11 @@ private:
     void sendAll();
     void select(Layer& layer, bool selected);
     void changeLayers(const SelectType& type, const std::function<void(Layer&)>& change);
+    template <class Row>
     void changeAmount(const SelectType& type, const RelativeFixedValue& value, RelativeFixedValue Layer::*amount,
-                      UINT message);
-    void changeFlag(const SelectType& type, const OnOffToggle& value, bool Layer::*flag, UINT message);
+                      Row message);
+    template <class Row>
+    void changeFlag(const SelectType& type, const OnOffToggle& value, bool Layer::*flag, Row message);
     void changeFirst(const std::function<void(Layer&)>& change);
 
     MirelIF& m_mirel;

@@ -1,8 +1,6 @@
 #include "Backend/midi/managers/LayerMessageManager.h"
 
-#include "Backend/core/messages/MessageManagerMaster.h"
-#include "Backend/core/messages/MessagePayload.h"
-#include "Backend/core/messages/MessageRanges.h"
+#include "Backend/core/messages/MessageTable.h"
 #include "Backend/midi/managers/LayerManager.h"
 #include "Backend/midi/managers/LayerMessages.h"
 
@@ -10,35 +8,51 @@ namespace Backend::Layers {
 
 using namespace Messages;
 
+namespace {
+
+// clang-format off
+constexpr MessageTable ROWS(
+    FAMILY,
+    on(UPDATE_LAYERS, &LayerManager::updateLayers),
+    on(Messages::SET_LAYER_LIST, &LayerManager::setLayerList),
+    on(LOAD_PRESET, &LayerManager::loadPreset),
+    on(RENAME_PRESET, &LayerManager::renamePreset),
+    on(DELETE_PRESET, &LayerManager::deletePreset),
+    on(SAVE_PRESET, &LayerManager::savePreset),
+    on(SELECT_LAYERS, &LayerManager::selectLayers));
+// clang-format on
+
+}
+
 LayerMessageManager::LayerMessageManager(MessageManagerMaster& master, LayerManager& layers)
     : MessageManager(master), m_layers(layers) {}
 
 void LayerMessageManager::postUpdateLayers(const std::vector<Layer>& layers, bool notifyGui) {
-    m_master.postMessage(UPDATE_LAYERS, releaseCopy<WPARAM>(layers), notifyGui);
+    post(UPDATE_LAYERS, layers, notifyGui);
 }
 
 void LayerMessageManager::postSetLayerList(const LayerList& layers, bool notifyGui) {
-    m_master.postMessage(Messages::SET_LAYER_LIST, releaseCopy<WPARAM>(layers), notifyGui);
+    post(Messages::SET_LAYER_LIST, layers, notifyGui);
 }
 
 void LayerMessageManager::postLoadPreset(const std::string& name) {
-    m_master.postMessage(LOAD_PRESET, 0, releaseCopy<LPARAM>(name));
+    post(LOAD_PRESET, name);
 }
 
 void LayerMessageManager::postRenamePreset(const std::string& oldName, const std::string& newName) {
-    m_master.postMessage(RENAME_PRESET, releaseCopy<WPARAM>(oldName), releaseCopy<LPARAM>(newName));
+    post(RENAME_PRESET, oldName, newName);
 }
 
 void LayerMessageManager::postDeletePreset(const std::string& name) {
-    m_master.postMessage(DELETE_PRESET, 0, releaseCopy<LPARAM>(name));
+    post(DELETE_PRESET, name);
 }
 
 void LayerMessageManager::postSavePreset(const std::string& name, const std::vector<LayerId>& selected) {
-    m_master.postMessage(SAVE_PRESET, releaseCopy<WPARAM>(name), releaseCopy<LPARAM>(selected));
+    post(SAVE_PRESET, name, selected);
 }
 
 void LayerMessageManager::postSelectLayers(const std::vector<LayerId>& ids) {
-    m_master.postMessage(SELECT_LAYERS, releaseCopy<WPARAM>(ids), 0);
+    post(SELECT_LAYERS, ids);
 }
 
 bool LayerMessageManager::wantMessage(unsigned int message) {
@@ -46,42 +60,11 @@ bool LayerMessageManager::wantMessage(unsigned int message) {
 }
 
 void LayerMessageManager::handleMessage(const MSG& message) {
-    const auto takeText = [](auto word) { return *takePayload<std::string>(word); };
-    switch (message.message) {
-        case UPDATE_LAYERS:
-            m_layers.updateLayers(*takePayload<std::vector<Layer>>(message.wParam), message.lParam != 0);
-            break;
-        case Messages::SET_LAYER_LIST:
-            m_layers.setLayerList(*takePayload<LayerList>(message.wParam), message.lParam != 0);
-            break;
-        case LOAD_PRESET: m_layers.loadPreset(takeText(message.lParam)); break;
-        case RENAME_PRESET: m_layers.renamePreset(takeText(message.wParam), takeText(message.lParam)); break;
-        case DELETE_PRESET: m_layers.deletePreset(takeText(message.lParam)); break;
-        case SAVE_PRESET:
-            m_layers.savePreset(takeText(message.wParam), *takePayload<std::vector<LayerId>>(message.lParam));
-            break;
-        case SELECT_LAYERS: m_layers.selectLayers(*takePayload<std::vector<LayerId>>(message.wParam)); break;
-        default: break;
-    }
+    ROWS.handle(m_layers, message);
 }
 
 void LayerMessageManager::disposeMessage(const MSG& message) {
-    switch (message.message) {
-        case UPDATE_LAYERS: takePayload<std::vector<Layer>>(message.wParam); break;
-        case Messages::SET_LAYER_LIST: takePayload<LayerList>(message.wParam); break;
-        case LOAD_PRESET:
-        case DELETE_PRESET: takePayload<std::string>(message.lParam); break;
-        case RENAME_PRESET:
-            takePayload<std::string>(message.wParam);
-            takePayload<std::string>(message.lParam);
-            break;
-        case SAVE_PRESET:
-            takePayload<std::string>(message.wParam);
-            takePayload<std::vector<LayerId>>(message.lParam);
-            break;
-        case SELECT_LAYERS: takePayload<std::vector<LayerId>>(message.wParam); break;
-        default: break;
-    }
+    FAMILY.dispose(message);
 }
 
 }

@@ -110,17 +110,17 @@ Zone* ZoneManager::findSelected() {
 void ZoneManager::changeTranspose(Zone& zone, const RelativeFixedValue& value) {
     zone.transpose = Text::lowByte(value.applyTo(zone.transpose));
     m_mirel.getMidiEngineMessageManager().postSetZone(zone);
-    postCopyToGui(m_mirel, WindowMessages::ZONE_CHANGED, zone);
+    postToGui(m_mirel, WindowMessages::ZONE_CHANGED, zone);
 }
 
 void ZoneManager::select(Zone& zone, bool selected) {
     zone.selected = selected;
-    postToGui(m_mirel, WindowMessages::SELECTED_CHANGED, static_cast<WPARAM>(zone.id), selected);
+    postToGui(m_mirel, WindowMessages::SELECTED_CHANGED, zone.id, selected);
 }
 
 void ZoneManager::sendAll() {
     m_mirel.getMidiEngineMessageManager().postSetZoneMap(m_zones);
-    postCopyToGui(m_mirel, WindowMessages::ALL_ZONES_CHANGED, m_zones);
+    postToGui(m_mirel, WindowMessages::ALL_ZONES_CHANGED, m_zones);
 }
 
 }

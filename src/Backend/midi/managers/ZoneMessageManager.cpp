@@ -1,8 +1,6 @@
 #include "Backend/midi/managers/ZoneMessageManager.h"
 
-#include "Backend/core/messages/MessageManagerMaster.h"
-#include "Backend/core/messages/MessagePayload.h"
-#include "Backend/core/messages/MessageRanges.h"
+#include "Backend/core/messages/MessageTable.h"
 #include "Backend/core/xml/Text.h"
 #include "Backend/functions/values/SelectType.h"
 #include "Backend/midi/managers/ZoneManager.h"
@@ -12,19 +10,35 @@ namespace Backend::Zones {
 
 using namespace Messages;
 
+namespace {
+
+void setTranspose(ZoneManager& zones, ZoneId id, int transpose) {
+    zones.setTranspose(id, Text::lowByte(transpose));
+}
+
+// clang-format off
+constexpr MessageTable ROWS(
+    FAMILY,
+    on(SET_TRANSPOSE, &setTranspose),
+    on(SELECT_ZONE, &ZoneManager::selectZone),
+    on(SELECT_ZONES, &ZoneManager::selectZones));
+// clang-format on
+
+}
+
 ZoneMessageManager::ZoneMessageManager(MessageManagerMaster& master, ZoneManager& zones)
     : MessageManager(master), m_zones(zones) {}
 
 void ZoneMessageManager::postSetTranspose(ZoneId id, int transpose) {
-    m_master.postMessage(SET_TRANSPOSE, static_cast<WPARAM>(id), transpose);
+    post(SET_TRANSPOSE, id, transpose);
 }
 
 void ZoneMessageManager::postSelectZone(const SelectType& type) {
-    m_master.postMessage(SELECT_ZONE, releaseCopy<WPARAM>(type), 0);
+    post(SELECT_ZONE, type);
 }
 
 void ZoneMessageManager::postSelectZones(const std::vector<ZoneId>& ids) {
-    m_master.postMessage(SELECT_ZONES, releaseCopy<WPARAM>(ids), 0);
+    post(SELECT_ZONES, ids);
 }
 
 bool ZoneMessageManager::wantMessage(unsigned int message) {
@@ -32,23 +46,11 @@ bool ZoneMessageManager::wantMessage(unsigned int message) {
 }
 
 void ZoneMessageManager::handleMessage(const MSG& message) {
-    switch (message.message) {
-        case SET_TRANSPOSE:
-            m_zones.setTranspose(Text::lowByte(static_cast<std::int32_t>(message.wParam)),
-                                 Text::lowByte(static_cast<std::int32_t>(message.lParam)));
-            break;
-        case SELECT_ZONE: m_zones.selectZone(*takePayload<SelectType>(message.wParam)); break;
-        case SELECT_ZONES: m_zones.selectZones(*takePayload<std::vector<ZoneId>>(message.wParam)); break;
-        default: break;
-    }
+    ROWS.handle(m_zones, message);
 }
 
 void ZoneMessageManager::disposeMessage(const MSG& message) {
-    switch (message.message) {
-        case SELECT_ZONE: takePayload<SelectType>(message.wParam); break;
-        case SELECT_ZONES: takePayload<std::vector<ZoneId>>(message.wParam); break;
-        default: break;
-    }
+    FAMILY.dispose(message);
 }
 
 }

@@ -1,30 +1,46 @@
-// Messages of the zones. w and l are the two words; "heap" is a pointer to a copy that the receiver destroys.
+// Messages of the zones, as rows of what their first and second word carry.
 #pragma once
 
-#include "Platform/WindowTypes.h"
+#include "Backend/core/messages/MessageFamily.h"
+#include "Backend/midi/ZoneId.h"
+
+#include <vector>
+
+class SelectType;
 
 namespace Backend::Zones {
+
+struct Zone;
+class ZoneMap;
+
+// clang-format off
 
 // To the ZoneMessageManager.
 namespace Messages {
 
-enum Number : UINT {
-    SET_TRANSPOSE = 34969,  // w: zone; l: half-steps, of which the low byte counts.
-    SELECT_ZONE = 34970,    // w: heap SelectType.
-    SELECT_ZONES = 34971,   // w: heap vector of ZoneId.
-};
+inline constexpr Message<34969, ZoneId, int>               SET_TRANSPOSE;  // l: half-steps, by the low byte.
+inline constexpr Message<34970, Heap<SelectType>>          SELECT_ZONE;
+inline constexpr Message<34971, Heap<std::vector<ZoneId>>> SELECT_ZONES;
+
+inline constexpr auto FAMILY = familyOf<ZONE_RANGE>(
+    Unused<34968, 34972>(),
+    SET_TRANSPOSE, SELECT_ZONE, SELECT_ZONES);
 
 }
 
 // To the window.
 namespace WindowMessages {
 
-enum Number : UINT {
-    ZONE_CHANGED = 34969,       // l: heap Zone.
-    ALL_ZONES_CHANGED = 34970,  // l: heap ZoneMap.
-    SELECTED_CHANGED = 34971,   // w: zone; l: 1 or 0.
-};
+inline constexpr Message<34969, Nothing, Heap<Zone>>    ZONE_CHANGED;
+inline constexpr Message<34970, Nothing, Heap<ZoneMap>> ALL_ZONES_CHANGED;
+inline constexpr Message<34971, ZoneId, bool>           SELECTED_CHANGED;  // Zone, on or off.
+
+inline constexpr auto FAMILY = familyOf<ZONE_GUI_RANGE>(
+    Unused<34968, 34972>(),
+    ZONE_CHANGED, ALL_ZONES_CHANGED, SELECTED_CHANGED);
 
 }
+
+// clang-format on
 
 }

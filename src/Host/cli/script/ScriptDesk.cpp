@@ -2,7 +2,6 @@
 
 #include "Backend/core/installation/Product.h"
 #include "Backend/core/log/DisplayListener.h"
-#include "Backend/core/messages/MessagePayload.h"
 #include "Backend/midi/layers/ZoneMap.h"
 
 #include <algorithm>
@@ -55,14 +54,16 @@ public:
 
     using MessageManager::MessageManager;
 
-    void post(const Action& action) { m_master.postMessage(CALL, releaseCopy<WPARAM>(action), 0); }
+    void post(const Action& action) { MessageManager::post(CALL, action); }
 
-    bool wantMessage(unsigned int message) override { return message == CALL; }
-    void handleMessage(const MSG& message) override { (*takePayload<Action>(message.wParam))(); }
-    void disposeMessage(const MSG& message) override { takePayload<Action>(message.wParam); }
+    bool wantMessage(unsigned int message) override { return message == CALL.NUMBER; }
+    void handleMessage(const MSG& message) override {
+        CALL.open(message.wParam, message.lParam, [](const Action& action) { action(); });
+    }
+    void disposeMessage(const MSG& message) override { CALL.dispose(message.wParam, message.lParam); }
 
 private:
-    static constexpr UINT CALL = 40000;  // Outside of all families of the desk.
+    static constexpr Message<40000, Heap<Action>> CALL{};  // Outside of all families of the desk.
 };
 
 ScriptDesk::ScriptDesk(ScriptPlayer::Options options) : m_player(options), m_mirel(createMirel()) {

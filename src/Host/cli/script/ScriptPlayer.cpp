@@ -41,10 +41,10 @@ void ScriptPlayer::tellUpdate(const MirelMidiMessage& message) {
 }
 
 void ScriptPlayer::windowMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == DISPLAY_MIDI_OUTPUT_EVENT && m_options.show) {
-        const MirelMidiMessage shown(std::uint64_t{wParam}, std::int64_t{lParam});
-        tellEvent("show", shown, shown.getChannel(), " in=" + std::to_string(shown.getInput()));
-    }
+    if (message == DISPLAY_MIDI_OUTPUT_EVENT.NUMBER && m_options.show)
+        DISPLAY_MIDI_OUTPUT_EVENT.open(wParam, lParam, [this](const MirelMidiMessage& shown) {
+            tellEvent("show", shown, shown.getChannel(), " in=" + std::to_string(shown.getInput()));
+        });
     const std::string text = takeWindowText(message, wParam, lParam);
     if (m_options.window)
         tell("window " + std::to_string(message) + (text.empty() ? "" : " ") + text + "\n");

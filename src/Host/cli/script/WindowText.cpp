@@ -3,8 +3,6 @@
 #include "Backend/core/WindowMessages.h"
 #include "Backend/core/files/Bank.h"
 #include "Backend/core/files/Program.h"
-#include "Backend/core/messages/MessagePayload.h"
-#include "Backend/core/messages/MessageRanges.h"
 #include "Backend/functions/values/NoteToggle.h"
 #include "Backend/functions/values/RelativeFixedValue.h"
 #include "Backend/functions/values/SelectControlType.h"
@@ -25,7 +23,17 @@
 namespace Host::Cli {
 
 using namespace Backend;
+using ComputerInput::KeyConfiguration;
+using ComputerInput::KeyConfigurationMap;
+using Controls::Control;
+using Controls::ControlMap;
+using Controls::UpdateFlags;
+using Layers::Layer;
+using Layers::LayerList;
 using MidiEngine::MirelMidiMessage;
+using Zones::Zone;
+using Zones::ZoneId;
+using Zones::ZoneMap;
 
 namespace {
 
@@ -37,162 +45,138 @@ std::string quoted(const std::string& text) {
     return "\"" + text + "\"";
 }
 
-std::string toNumber(WPARAM word) {
-    return std::to_string(static_cast<int>(word));
-}
-
-std::string takeProgram(LPARAM word) {
-    const auto program = takePayload<Program>(word);
-    return quoted(program->getName()) + " index=" + std::to_string(program->getIndex()) +
-           " tempo=" + std::to_string(program->getTempo()) + " source=" + std::to_string(program->getTempoSource());
-}
-
-std::string takeBank(LPARAM word) {
-    const auto bank = takePayload<Bank>(word);
-    return quoted(bank->getPath()) + " programs=" + std::to_string(bank->getProgramNames().size());
-}
-
-std::string takeMove(WPARAM x, LPARAM y) {
-    return "x=" + takePayload<RelativeFixedValue>(x)->toXmlString() +
-           " y=" + takePayload<RelativeFixedValue>(y)->toXmlString();
-}
-
-// The elements of a list on the heap, divided by blanks.
+// The elements of a list, divided by blanks.
 template <class Element, class Describe>
-std::string takeList(LPARAM word, Describe describe) {
-    const auto elements = takePayload<std::vector<Element>>(word);
+std::string describeList(const std::vector<Element>& elements, Describe describe) {
     std::string text;
-    for (const Element& element : *elements)
+    for (const Element& element : elements)
         text += (text.empty() ? "" : " ") + describe(element);
     return text;
 }
 
 template <class Port>
-std::string takePorts(LPARAM word) {
-    return takeList<Port>(word, [](const Port& port) { return quoted(port.name) + "=" + onOff(port.enabled); });
+std::string describePorts(const std::vector<Port>& ports) {
+    return describeList(ports, [](const Port& port) { return quoted(port.name) + "=" + onOff(port.enabled); });
 }
 
-template <class Collection>
-std::string takeSize(LPARAM word, const char* what) {
-    return std::to_string(takePayload<Collection>(word)->size()) + " " + what;
+// What a message carries, by the types of its row.
+
+std::string describe() {
+    return {};
 }
 
-Cell cellOf(std::int64_t word) {
-    constexpr int COLUMN_BITS = 16;
-    return Cell(static_cast<std::int16_t>(word >> COLUMN_BITS), static_cast<std::int16_t>(word));
+std::string describe(bool on) {
+    return onOff(on);
 }
 
-std::string takeMirelText(UINT message, WPARAM w, LPARAM l) {
-    using namespace WindowMessages;
-    switch (message) {
-        case DEFAULT_BANK_CHANGED: return quoted(*takePayload<std::string>(l));
-        case BANK_CHANGED: return takeBank(l);
-        case PROGRAM_CHANGED:
-        case PROGRAM_NAME_CHANGED: return takeProgram(l);
-        case MOVE_WINDOW: return takeMove(w, l);
-        case DISPLAY_MIDI_OUTPUT_EVENT: {
-            const MirelMidiMessage event(std::uint64_t{w}, std::int64_t{l});
-            return describeEvent(event, event.getChannel()) + " in=" + std::to_string(event.getInput());
-        }
-        case MIDI_INPUT_PORTS_CHANGED: return takePorts<MidiEngine::MidiInputPort>(l);
-        case MIDI_OUTPUT_PORTS_CHANGED: return takePorts<MidiEngine::MidiOutputPort>(l);
-        case DEFAULT_MIDI_OUTPUT_CHANGED:
-        case MOUSE_SENSITIVITY_CHANGED: return toNumber(w);
-        case DOCK_TO_BOTTOM_EDGE_CHANGED:
-        case DISPLAY_NUMBERS_CHANGED:
-        case LARGE_DISPLAY_FONT_CHANGED:
-        case DISPLAY_MIDI_INPUT_EVENTS_CHANGED:
-        case DISPLAY_MIDI_OUTPUT_EVENTS_CHANGED:
-        case SHOW_SYSTEM_PANEL:
-        case SHOW_HELP:
-        case SHOW_DISPLAY:
-        case SHOW_COMPUTER_INPUT:
-        case SHOW_CONTROL:
-        case SHOW_OUTPUT:
-        case SHOW_CC:
-        case SHOW_LAYER:
-        case SHOW_ZONE:
-        case ALWAYS_ON_TOP_CHANGED:
-        case USE_SKIN_BORDER_CHANGED:
-        case MIDI_THRU_CHANGED:
-        case GLOBAL_KEYBOARD_CHANGED:
-        case CLICK_ZONE_CHANNEL_TRANSPOSE_CHANGED: return onOff(w != 0);
-        default: return {};
-    }
+std::string describe(int number) {
+    return std::to_string(number);
 }
 
-std::string takeKeyText(UINT message, WPARAM w, LPARAM l) {
-    using namespace ComputerInput;
-    using namespace ComputerInput::WindowMessages;
-    switch (message) {
-        case KEYS_CHANGED:
-            return takeList<KeyConfiguration>(
-                l, [](const KeyConfiguration& key) { return quoted(key.getKey().toXmlString()); });
-        case ALL_KEYS_CHANGED: return takeSize<KeyConfigurationMap>(l, "keys") + " useKeyUpMod=" + onOff(w != 0);
-        default: return {};
-    }
+std::string describe(const std::string& text) {
+    return quoted(text);
 }
 
-std::string takeControlText(UINT message, WPARAM w, LPARAM l) {
-    using namespace Controls;
-    using namespace Controls::WindowMessages;
-    switch (message) {
-        case CONTROLS_CHANGED:
-            return takeList<Control>(l, [](const Control& control) { return control.cell.toXmlString(); });
-        case ALL_CONTROLS_CHANGED: return takeSize<ControlMap>(l, "controls");
-        case VALUE_CHANGED: return cellOf(static_cast<std::int64_t>(w)).toXmlString() + " value=" + std::to_string(l);
-        case SELECTED_CHANGED: return cellOf(static_cast<std::int64_t>(w)).toXmlString() + " " + onOff(l != 0);
-        case SET_FOCUS: return SelectControlType(static_cast<SelectControlType::Mode>(w), cellOf(l)).toXmlString();
-        default: return {};
-    }
+std::string describe(const Bank& bank) {
+    return quoted(bank.getPath()) + " programs=" + std::to_string(bank.getProgramNames().size());
 }
 
-std::string takeLayerText(UINT message, WPARAM w, LPARAM l) {
-    using namespace Layers;
-    using namespace Layers::WindowMessages;
-    switch (message) {
-        case LAYERS_CHANGED: return takeList<Layer>(l, [](const Layer& layer) { return std::to_string(layer.id); });
-        case ALL_LAYERS_CHANGED: return takeSize<LayerList>(l, "layers");
-        case EDIT_SELECT: return takePayload<SelectType>(l)->toXmlString();
-        case TRANSPOSE_CHANGED:
-        case VELOCITY_CHANGED: return toNumber(w) + " " + quoted(takePayload<RelativeFixedValue>(l)->toXmlString());
-        case SELECTED_CHANGED:
-        case MUTE_CHANGED:
-        case MONO_CHANGED:
-        case SOLO_CHANGED: return toNumber(w) + " " + onOff(l != 0);
-        case TOGGLE_CHANGED: return toNumber(w) + " " + NoteToggle(static_cast<NoteToggle::State>(l)).toXmlString();
-        default: return {};
-    }
+std::string describe(const Program& program) {
+    return quoted(program.getName()) + " index=" + std::to_string(program.getIndex()) +
+           " tempo=" + std::to_string(program.getTempo()) + " source=" + std::to_string(program.getTempoSource());
 }
 
-std::string takeZoneText(UINT message, WPARAM w, LPARAM l) {
-    using namespace Zones;
-    using namespace Zones::WindowMessages;
-    switch (message) {
-        case ZONE_CHANGED: {
-            const auto zone = takePayload<Zone>(l);
-            return std::to_string(zone->id) + " transpose=" + std::to_string(zone->transpose);
-        }
-        case ALL_ZONES_CHANGED: return takeSize<ZoneMap>(l, "zones");
-        case SELECTED_CHANGED: return toNumber(w) + " " + onOff(l != 0);
-        default: return {};
-    }
+std::string describe(const RelativeFixedValue& x, const RelativeFixedValue& y) {
+    return "x=" + x.toXmlString() + " y=" + y.toXmlString();
+}
+
+std::string describe(const MirelMidiMessage& event) {
+    return describeEvent(event, event.getChannel()) + " in=" + std::to_string(event.getInput());
+}
+
+std::string describe(const std::vector<MidiEngine::MidiInputPort>& ports) {
+    return describePorts(ports);
+}
+
+std::string describe(const std::vector<MidiEngine::MidiOutputPort>& ports) {
+    return describePorts(ports);
+}
+
+std::string describe(const std::vector<KeyConfiguration>& keys) {
+    return describeList(keys, [](const KeyConfiguration& key) { return quoted(key.getKey().toXmlString()); });
+}
+
+std::string describe(bool useKeyUpMod, const KeyConfigurationMap& keys) {
+    return std::to_string(keys.size()) + " keys useKeyUpMod=" + onOff(useKeyUpMod);
+}
+
+std::string describe(const UpdateFlags&, const std::vector<Control>& controls) {
+    return describeList(controls, [](const Control& control) { return control.cell.toXmlString(); });
+}
+
+std::string describe(const ControlMap& controls) {
+    return std::to_string(controls.size()) + " controls";
+}
+
+std::string describe(const Cell& cell, int value) {
+    return cell.toXmlString() + " value=" + std::to_string(value);
+}
+
+std::string describe(const Cell& cell, bool selected) {
+    return cell.toXmlString() + " " + onOff(selected);
+}
+
+std::string describe(SelectControlType::Mode mode, const Cell& cell) {
+    return SelectControlType(mode, cell).toXmlString();
+}
+
+std::string describe(const std::vector<Layer>& layers) {
+    return describeList(layers, [](const Layer& layer) { return std::to_string(layer.id); });
+}
+
+std::string describe(const LayerList& layers) {
+    return std::to_string(layers.size()) + " layers";
+}
+
+std::string describe(const SelectType& type) {
+    return type.toXmlString();
+}
+
+std::string describe(int layer, const RelativeFixedValue& value) {
+    return std::to_string(layer) + " " + quoted(value.toXmlString());
+}
+
+std::string describe(int layer, bool on) {
+    return std::to_string(layer) + " " + onOff(on);
+}
+
+std::string describe(int layer, const NoteToggle& toggle) {
+    return std::to_string(layer) + " " + toggle.toXmlString();
+}
+
+std::string describe(const Zone& zone) {
+    return std::to_string(zone.id) + " transpose=" + std::to_string(zone.transpose);
+}
+
+std::string describe(const ZoneMap& zones) {
+    return std::to_string(zones.size()) + " zones";
+}
+
+std::string describe(ZoneId zone, bool selected) {
+    return std::to_string(zone) + " " + onOff(selected);
 }
 
 }
 
 std::string takeWindowText(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (MIREL_GUI_RANGE.contains(message))
-        return takeMirelText(message, wParam, lParam);
-    if (COMPUTER_INPUT_GUI_RANGE.contains(message))
-        return takeKeyText(message, wParam, lParam);
-    if (CONTROL_GUI_RANGE.contains(message))
-        return takeControlText(message, wParam, lParam);
-    if (LAYER_GUI_RANGE.contains(message))
-        return takeLayerText(message, wParam, lParam);
-    if (ZONE_GUI_RANGE.contains(message))
-        return takeZoneText(message, wParam, lParam);
-    return {};
+    std::string text;
+    const auto take = [&](const auto& family) {
+        return family.open(message, wParam, lParam, [&text](const auto&... values) { text = describe(values...); });
+    };
+    static_cast<void>(take(WindowMessages::FAMILY) || take(ComputerInput::WindowMessages::FAMILY) ||
+                      take(Controls::WindowMessages::FAMILY) || take(Layers::WindowMessages::FAMILY) ||
+                      take(Zones::WindowMessages::FAMILY));
+    return text;
 }
 
 }

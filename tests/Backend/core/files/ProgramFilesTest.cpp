@@ -115,7 +115,7 @@ TEST_F(ProgramFilesTest, AProgramFileIsWrittenByteByByte) {
     const std::string path = m_desk.file("a.prg");
     m_desk.run([&](Mirel& mirel) { mirel.saveToProgram(" \t" + path + "\n", m_notified.window()); });
     EXPECT_EQ(m_desk.read("a.prg"), native(HEADER + "<ProgramFile>\n" + BLOCK + "</ProgramFile>\n"));
-    EXPECT_EQ(m_notified.take(), std::vector<UINT>{SAVE_TO_PROGRAM_DONE});
+    EXPECT_EQ(m_notified.take(), std::vector<UINT>{SAVE_TO_PROGRAM_DONE.NUMBER});
     EXPECT_EQ(m_desk.programXml(), HEADER + "<MirelProgramFile>\n" + BLOCK + "</MirelProgramFile>\n");
 }
 
@@ -125,7 +125,7 @@ TEST_F(ProgramFilesTest, ASavedBankHoldsTheSameBlock) {
     save(1);
     EXPECT_EQ(m_desk.read("a.bnk"), HEADER + "<Bank>\n" + named("P0") + native(BLOCK) + named("P2") + "</Bank>\n");
     EXPECT_EQ(m_desk.bankNames(), (std::vector<std::string>{"P0", "A & B", "P2"}));
-    EXPECT_EQ(m_notified.take(), std::vector<UINT>{SAVE_TO_BANK_DONE});
+    EXPECT_EQ(m_notified.take(), std::vector<UINT>{SAVE_TO_BANK_DONE.NUMBER});
     EXPECT_EQ(m_desk.programName(), "P0") << "the program of the current index is loaded again";
     select(1);
     EXPECT_EQ(m_desk.programXml(), HEADER + "<MirelProgramFile>\n" + BLOCK + "</MirelProgramFile>\n");
@@ -138,7 +138,7 @@ TEST_F(ProgramFilesTest, AProgramThatWouldMakeItsBankUnreadableIsNotSaved) {
     save(0);
     EXPECT_EQ(m_desk.read("a.bnk"), bank);
     EXPECT_EQ(m_desk.bankNames(), (std::vector<std::string>{"P0", "P1", "P2"}));
-    EXPECT_EQ(m_notified.take(), std::vector<UINT>{SAVE_TO_BANK_DONE});
+    EXPECT_EQ(m_notified.take(), std::vector<UINT>{SAVE_TO_BANK_DONE.NUMBER});
 }
 
 // The first save of what it can't hold makes it one in UTF-8.
@@ -262,7 +262,7 @@ TEST_F(ProgramFilesTest, AnIndexBeyondTheBankPutsTheProgramBehindItsEnd) {
     save(2);
     EXPECT_EQ(m_desk.read("a.bnk"), text + native(named("late")));
     EXPECT_TRUE(m_desk.bankNames().empty()) << "the file is malformed";
-    EXPECT_EQ(m_notified.take(), std::vector<UINT>{SAVE_TO_BANK_DONE});
+    EXPECT_EQ(m_notified.take(), std::vector<UINT>{SAVE_TO_BANK_DONE.NUMBER});
 }
 
 TEST_F(ProgramFilesTest, NothingIsSavedAtANegativeIndexOrWithoutABank) {
@@ -285,7 +285,7 @@ TEST_F(ProgramFilesTest, ASaveToAnotherBankCopiesTheCurrentOneAndGoesThere) {
     EXPECT_EQ(m_desk.read("b.bnk"),
               HEADER + "<Bank>\n" + named("P0") + named("P1") + native(named("moved")) + "</Bank>\n");
     EXPECT_EQ(m_desk.programName(), "moved");
-    EXPECT_EQ(m_notified.take(), std::vector<UINT>{SAVE_TO_BANK_DONE});
+    EXPECT_EQ(m_notified.take(), std::vector<UINT>{SAVE_TO_BANK_DONE.NUMBER});
     m_desk.run([&](Mirel& mirel) { EXPECT_EQ(mirel.getCurrentBank().getPath(), other); });
 }
 
@@ -328,7 +328,7 @@ TEST_F(ProgramFilesTest, ASmallerBankIsCutBehindItsNewLastProgram) {
               HEADER + "<Bank>\n" + named("P0") + named("P1") + named("P2") + native("</Bank>\n"));
     EXPECT_EQ(index(), 2);
     EXPECT_EQ(m_desk.programName(), "P2");
-    EXPECT_EQ(m_notified.take(), std::vector<UINT>{CHANGE_BANK_SIZE_DONE});
+    EXPECT_EQ(m_notified.take(), std::vector<UINT>{CHANGE_BANK_SIZE_DONE.NUMBER});
 }
 
 TEST_F(ProgramFilesTest, ALargerBankEndsWithEmptyPrograms) {
@@ -340,7 +340,7 @@ TEST_F(ProgramFilesTest, ALargerBankEndsWithEmptyPrograms) {
                                         native("<Program name=\"Empty\">\n</Program>\n<Program name=\"Empty\">\n"
                                                "</Program>\n</Bank>\n"));
     EXPECT_EQ(index(), 1);
-    EXPECT_EQ(m_notified.take(), std::vector<UINT>{CHANGE_BANK_SIZE_DONE});
+    EXPECT_EQ(m_notified.take(), std::vector<UINT>{CHANGE_BANK_SIZE_DONE.NUMBER});
 }
 
 TEST_F(ProgramFilesTest, ASizeThatIsNoneOrNoChangeDoesNothing) {
@@ -464,7 +464,7 @@ TEST_F(ProgramFilesTest, ABankThatCanNotBeReplacedIsShownAgainAsItWas) {
     ASSERT_TRUE(Files::createFolders(folder));
     rename("lost");
     m_desk.run([&](Mirel& mirel) { mirel.saveToBank(folder, m_notified.window()); });
-    EXPECT_EQ(m_notified.take(), std::vector<UINT>{SAVE_TO_BANK_DONE});
+    EXPECT_EQ(m_notified.take(), std::vector<UINT>{SAVE_TO_BANK_DONE.NUMBER});
     EXPECT_EQ(m_desk.read("a.bnk"), text);
     EXPECT_TRUE(m_desk.bankNames().empty());
 

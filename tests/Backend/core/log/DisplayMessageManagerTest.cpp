@@ -3,9 +3,9 @@
 #include "Backend/core/log/DisplayListener.h"
 #include "Backend/core/log/DisplayMessages.h"
 #include "Backend/core/log/EventLine.h"
-#include "Backend/core/messages/MessagePayload.h"
 #include "Backend/midi/MirelMidiMessage.h"
 #include "Platform/AutoResetEvent.h"
+#include "tests/support/MessageWords.h"
 #include "tests/support/RunningDesk.h"
 
 #include <gtest/gtest.h>
@@ -22,6 +22,7 @@ using MidiEngine::MidiMessage;
 using MidiEngine::MidiOutputPort;
 using MidiEngine::MirelMidiMessage;
 using TestSupport::makePorts;
+using TestSupport::releaseCopy;
 
 class Shown : public DisplayListener {
 public:

@@ -1,7 +1,6 @@
 #include "Backend/core/messages/MessageManagerMaster.h"
 
 #include "Backend/core/messages/MessageManager.h"
-#include "Backend/core/messages/MessagePayload.h"
 #include "Backend/core/messages/MessageRanges.h"
 
 #include <gtest/gtest.h>
@@ -230,22 +229,24 @@ class StringManager : public MessageManager {
 public:
     using MessageManager::MessageManager;
 
-    void postText(const std::string& text) {
-        m_master.postMessage(FIRST, releasePayload<WPARAM>(std::make_unique<std::string>(text)), 0);
-    }
+    void postText(const std::string& text) { post(TEXT, text); }
 
-    bool wantMessage(unsigned int message) override { return message == FIRST; }
+    bool wantMessage(unsigned int message) override { return message == TEXT.NUMBER; }
 
     void handleMessage(const MSG& message) override {
-        const auto text = takePayload<std::string>(message.wParam);
-        if (*text == "hold") {
-            const std::lock_guard lock(m_gate);
-        }
-        m_handled += text->size();
+        TEXT.open(message.wParam, message.lParam, [this](const std::string& text) {
+            if (text == "hold") {
+                const std::lock_guard lock(m_gate);
+            }
+            m_handled += text.size();
+        });
     }
 
-    void disposeMessage(const MSG& message) override { m_disposed += takePayload<std::string>(message.wParam)->size(); }
+    void disposeMessage(const MSG& message) override {
+        TEXT.open(message.wParam, message.lParam, [this](const std::string& text) { m_disposed += text.size(); });
+    }
 
+    static constexpr Message<FIRST, Heap<std::string>> TEXT{};
     std::mutex m_gate;
     std::size_t m_handled = 0;
     std::size_t m_disposed = 0;

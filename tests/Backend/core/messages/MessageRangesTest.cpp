@@ -26,6 +26,8 @@ constexpr Row ROWS[] = {
     {"ControlGuiMessageManager", CONTROL_GUI_RANGE, MessageQueueKind::WINDOW, 0x84B0, 0x84B6},
     {"LayerGuiMessageManager", LAYER_GUI_RANGE, MessageQueueKind::WINDOW, 0x879E, 0x87A9},
     {"ZoneGuiMessageManager", ZONE_GUI_RANGE, MessageQueueKind::WINDOW, 0x8898, 0x889C},
+    {"MidiEngineMessageManager", MIDI_ENGINE_RANGE, MessageQueueKind::ENGINE, 0x8066, 0x8073},
+    {"DisplayMessageManager", DISPLAY_RANGE, MessageQueueKind::DISPLAY, 0x8066, 0x8070},
 };
 
 TEST(MessageRangesTest, EveryManagerHasItsRange) {

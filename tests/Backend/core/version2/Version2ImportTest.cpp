@@ -94,7 +94,7 @@ TEST_F(Version2ImportTest, ABankBecomesOneOfPrograms) {
     EXPECT_EQ(importBank("P 1 One\nP 2 My_Lead 0 a 0 b\n\n  \nP 3 Three\n"),
               HEADER + "<Bank>\n" + program("One") + program("My Lead") + program("Three") + "</Bank>\n");
     EXPECT_EQ(m_desk.bankNames(), (std::vector<std::string>{"One", "My Lead", "Three"}));
-    EXPECT_EQ(m_notified.take(), std::vector<UINT>{IMPORT_VERSION_2_BANK_DONE});
+    EXPECT_EQ(m_notified.take(), std::vector<UINT>{IMPORT_VERSION_2_BANK_DONE.NUMBER});
 }
 
 TEST_F(Version2ImportTest, LineEndsAndBlankLinesDoNotMatter) {
@@ -118,7 +118,7 @@ TEST_F(Version2ImportTest, AProgramFileTakesTheFirstProgramAlone) {
     EXPECT_EQ(importProgram("\nP 1 Lead_1\nP 2 Lead_2\n"),
               HEADER + "<ProgramFile>\n" + program("Lead 1") + "</ProgramFile>\n");
     EXPECT_EQ(m_desk.programName(), "Lead 1");
-    EXPECT_EQ(m_notified.take(), std::vector<UINT>{IMPORT_VERSION_2_PROGRAM_DONE});
+    EXPECT_EQ(m_notified.take(), std::vector<UINT>{IMPORT_VERSION_2_PROGRAM_DONE.NUMBER});
     EXPECT_EQ(importProgram("L 0\n"), HEADER + "<ProgramFile>\n</ProgramFile>\n");
 }
 
@@ -287,7 +287,7 @@ TEST_F(Version2ImportTest, TheFirstWordOfTheFileNameIsTheKindOfThePreset) {
               HEADER +
                   "<ComputerInput merge=\"false\">\n\t<Key id=\"W\" global=\"true\">\n\t</Key>\n"
                   "</ComputerInput>\n");
-    EXPECT_EQ(m_notified.take(), std::vector<UINT>(3, IMPORT_VERSION_2_PRESET_DONE));
+    EXPECT_EQ(m_notified.take(), std::vector<UINT>(3, IMPORT_VERSION_2_PRESET_DONE.NUMBER));
 }
 
 TEST_F(Version2ImportTest, KindAndSectionAreIndependent) {
@@ -337,9 +337,10 @@ TEST_F(Version2ImportTest, AFileThatIsGoneStillEndsWithTheLoadAndTheMessage) {
         EXPECT_EQ(mirel.getCurrentProgram().getName(), "") << "a load from nowhere";
         mirel.importVersion2Bank(m_desk.file("missing"), m_desk.file("new.bnk"), nullptr);
     });
-    EXPECT_EQ(m_notified.take(), (std::vector<UINT>{IMPORT_VERSION_2_BANK_DONE, IMPORT_VERSION_2_PROGRAM_DONE,
-                                                    IMPORT_VERSION_2_PRESET_DONE, IMPORT_VERSION_2_PRESET_DONE,
-                                                    IMPORT_VERSION_2_BANK_DONE, IMPORT_VERSION_2_PROGRAM_DONE}));
+    EXPECT_EQ(m_notified.take(),
+              (std::vector<UINT>{IMPORT_VERSION_2_BANK_DONE.NUMBER, IMPORT_VERSION_2_PROGRAM_DONE.NUMBER,
+                                 IMPORT_VERSION_2_PRESET_DONE.NUMBER, IMPORT_VERSION_2_PRESET_DONE.NUMBER,
+                                 IMPORT_VERSION_2_BANK_DONE.NUMBER, IMPORT_VERSION_2_PROGRAM_DONE.NUMBER}));
 }
 
 TEST_F(Version2ImportTest, NamesAreUtf8OrElseWindows1252) {
@@ -383,14 +384,14 @@ TEST_F(Version2ImportTest, ASectionWithoutEndIsCutAndABankWithoutEndIsNotWritten
     for (int i = 0; i < 1200; ++i)
         programs += "P 1 " + std::string(60000, 'a') + "\n";
     EXPECT_EQ(importBank(programs), "");
-    EXPECT_EQ(m_notified.take().back(), IMPORT_VERSION_2_BANK_DONE);
+    EXPECT_EQ(m_notified.take().back(), IMPORT_VERSION_2_BANK_DONE.NUMBER);
 }
 
 TEST_F(Version2ImportTest, ATargetThatCanNotBeWrittenStaysAsItIs) {
     ASSERT_TRUE(Files::createFolders(m_desk.file("new.bnk")));
     importBank("P 1 a\n");
     EXPECT_TRUE(std::filesystem::is_empty(*Platform::systemPath(m_desk.file("new.bnk"))));
-    EXPECT_EQ(m_notified.take(), std::vector<UINT>{IMPORT_VERSION_2_BANK_DONE});
+    EXPECT_EQ(m_notified.take(), std::vector<UINT>{IMPORT_VERSION_2_BANK_DONE.NUMBER});
 }
 
 }

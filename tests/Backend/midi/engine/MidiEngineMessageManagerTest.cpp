@@ -1,6 +1,5 @@
 #include "Backend/midi/engine/MidiEngineMessageManager.h"
 
-#include "Backend/core/messages/MessagePayload.h"
 #include "Backend/midi/engine/MidiEngineMessages.h"
 #include "Backend/midi/layers/ZoneMap.h"
 #include "tests/support/EngineFixture.h"
@@ -32,23 +31,12 @@ protected:
 
 TEST_F(MidiEngineMessageManagerTest, RequestsHaveTheirNumbers) {
     using namespace EngineMessages;
-    const UINT numbers[] = {STOP,
-                            PLAY_MIDI_VIA_PARAM,
-                            PLAY_MIDI_VIA_ALLOC,
-                            SET_MIDI_INPUT_PORTS,
-                            SET_MIDI_OUTPUT_PORTS,
-                            ENABLE_MIDI_INPUT,
-                            ENABLE_MIDI_OUTPUT,
-                            SET_DEFAULT_MIDI_OUTPUT,
-                            SET_LAYER_LIST,
-                            RESET_ONLY,
-                            SET_ZONE_MAP,
-                            SET_ZONE,
-                            SET_TEMPO,
-                            SET_TEMPO_SOURCE,
-                            SET_MIDI_THRU};
-    UINT expected = 32869;
-    for (const UINT number : numbers)
+    UINT expected = 32870;
+    for (const UINT number :
+         {PLAY_MIDI_VIA_PARAM.NUMBER, PLAY_MIDI_VIA_ALLOC.NUMBER, SET_MIDI_INPUT_PORTS.NUMBER,
+          SET_MIDI_OUTPUT_PORTS.NUMBER, ENABLE_MIDI_INPUT.NUMBER, ENABLE_MIDI_OUTPUT.NUMBER,
+          SET_DEFAULT_MIDI_OUTPUT.NUMBER, SET_LAYER_LIST.NUMBER, RESET_ONLY.NUMBER, SET_ZONE_MAP.NUMBER,
+          SET_ZONE.NUMBER, SET_TEMPO.NUMBER, SET_TEMPO_SOURCE.NUMBER, SET_MIDI_THRU.NUMBER})
         EXPECT_EQ(number, expected++);
 }
 
@@ -130,7 +118,7 @@ TEST_F(MidiEngineMessageManagerTest, TheReservedNumberIsAResetAndNothingElse) {
     engine->playTimeSlice(1, 2);
     ASSERT_EQ(host.played.size(), 1u);
     MSG message{};
-    message.message = EngineMessages::RESET_ONLY;
+    message.message = EngineMessages::RESET_ONLY.NUMBER;
     std::thread sender([&] { manager().handleMessage(message); });
     while (host.internalClockRequests == 0 || host.tempoSourceChanges < 2)
         engine->playTimeSlice(2, 2);

@@ -1,0 +1,57 @@
+// The desk's messages as typed rows. A table of messages (for example LayerMessages.h) gives each its number and says
+// what its two words carry; posting, handling and disposing all follow that row.
+#pragma once
+
+#include "Backend/core/messages/MessageContent.h"
+#include "Platform/WindowTypes.h"
+
+#include <type_traits>
+#include <utility>
+
+namespace Backend {
+
+// One message: its number, and the kinds of content in its first and its second word (see Carried).
+template <UINT N, class W = Nothing, class L = Nothing>
+struct Message {
+    using Content = MessageContent<W, L>;
+
+    static constexpr UINT NUMBER = N;
+
+    // Whether its sender waits until it has been handled.
+    static constexpr bool IS_SENT = false;
+
+    // [any] Calls post(number, wParam, lParam) for a message that carries these values, which must have exactly the
+    // types of the row. post returns whether the message was taken, or nothing if it always is. Returns the same. If
+    // the message was not taken, what the words own is destroyed.
+    template <class Post, class... Values>
+    requires std::is_same_v<void(Values...), typename MessageContent<W, L>::Signature>
+    static bool post(Post&& post, const Values&... values) {
+        Content content;
+        content.put(values...);
+        if constexpr (std::is_void_v<decltype(post(NUMBER, WPARAM{}, LPARAM{}))>)
+            post(NUMBER, content.wParam(), content.lParam());
+        else if (!post(NUMBER, content.wParam(), content.lParam()))
+            return false;
+        content.release();
+        return true;
+    }
+
+    // [receiver] Calls function with the values that a message of this number carries, then destroys what its words
+    // own.
+    template <class Function>
+    static void open(WPARAM wParam, LPARAM lParam, Function&& function) {
+        const Content content(wParam, lParam);
+        content.open(std::forward<Function>(function));
+    }
+
+    // [receiver] Destroys what the words of a message own that will not be handled.
+    static void dispose(WPARAM wParam, LPARAM lParam) { static_cast<void>(Content(wParam, lParam)); }
+};
+
+// A message whose sender waits until it has been handled.
+template <UINT N, class W = Nothing, class L = Nothing>
+struct SentMessage : Message<N, W, L> {
+    static constexpr bool IS_SENT = true;
+};
+
+}
