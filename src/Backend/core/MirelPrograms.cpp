@@ -5,10 +5,10 @@
 #include "Backend/core/files/BankFile.h"
 #include "Backend/core/trace/FileTrace.h"
 #include "Backend/core/version2/Version2Import.h"
+#include "Backend/core/xml/ElementWriter.h"
 #include "Backend/core/xml/Text.h"
 #include "Backend/core/xml/XmlDocument.h"
 #include "Backend/core/xml/XmlElement.h"
-#include "Backend/core/xml/XmlWriting.h"
 #include "Backend/functions/values/SelectType.h"
 #include "Platform/Files.h"
 
@@ -105,20 +105,19 @@ Program Mirel::importProgramFromXml(const XmlElement& element, int index) {
         m_layers.clear();
     if (!hasZones)
         m_zones.clear();
-    return Program(element.getAttribute("name"), index, element.getIntAttribute("tempo", Program::DEFAULT_TEMPO),
-                   element.getIntAttribute("tempoSource", Program::NO_TEMPO_SOURCE));
+    return Program(element, index);
 }
 
 std::string Mirel::writeProgram() const {
     std::ostringstream stream;
-    stream << getStartTagBegin(BankFile::PROGRAM_TAG) << getAttributeText("name", m_currentProgram.getName())
-           << getAttributeText("tempo", m_currentProgram.getTempo())
-           << getAttributeText("tempoSource", m_currentProgram.getTempoSource()) << getStartTagEnd() << '\n';
-    m_computerInput.writeXml(stream, 1, {}, false);
-    m_controls.writeXml(stream, 1, {});
-    m_layers.writeXml(stream, 1, {});
-    m_zones.writeXml(stream, 1);
-    stream << getEndTag(BankFile::PROGRAM_TAG) << '\n';
+    {
+        const ElementWriter program(stream, 0, BankFile::PROGRAM_TAG, m_currentProgram);
+        const int indent = program.getInnerIndent();
+        m_computerInput.writeXml(stream, indent, {}, false);
+        m_controls.writeXml(stream, indent, {});
+        m_layers.writeXml(stream, indent, {});
+        m_zones.writeXml(stream, indent);
+    }
     return stream.str();
 }
 

@@ -19,8 +19,6 @@ using MidiEngine::MidiOutputPort;
 namespace {
 
 constexpr int NONE = -1;
-constexpr int MIN_TEMPO = 20;
-constexpr int MAX_TEMPO = 250;
 
 // The synthesizers that come with the system.
 constexpr std::array SYSTEM_SYNTHESIZERS = {"Microsoft GS Wavetable Synth", "Microsoft GS Wavetable SW Synth"};
@@ -130,7 +128,7 @@ void Mirel::changeGlobalKeyboard(const OnOffToggle& state, bool notifyGui) {
 
 void Mirel::changeTempo(const RelativeFixedValue& value, bool notifyGui) {
     const int tempo = value.applyTo(m_currentProgram.getTempo());
-    if (tempo < MIN_TEMPO || tempo > MAX_TEMPO)
+    if (!Program::TEMPO.contains(tempo))
         return;
     m_currentProgram.setTempo(tempo);
     m_midiEngine.getMessageManager().postSetTempo(tempo);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Backend/core/MirelIF.h"
-#include "Backend/functions/Attribute.h"
+#include "Backend/core/xml/ElementWriter.h"
 #include "Backend/functions/Function.h"
 #include "Backend/functions/FunctionList.h"
 #include "Backend/functions/FunctionSettingsTypes.h"
@@ -22,26 +22,16 @@ public:
     static std::tuple<> attributes() { return {}; }
 
     // Takes the parameters from the function's element.
-    void readXml(const XmlElement& element) {
-        forEachAttribute([&](const auto& attribute) { self().*attribute.member = readAttribute(element, attribute); });
-    }
+    void readXml(const XmlElement& element) { readAttributes(element, self()); }
 
     void writeXml(std::ostream& stream, int indent) const override {
-        stream << getIndentation(indent) << getStartTagBegin(getXmlTag());
-        forEachAttribute([&](const auto& attribute) { writeAttribute(stream, attribute, self().*attribute.member); });
-        stream << getEmptyTagEnd() << '\n';
+        writeEmptyElement(stream, indent, getXmlTag(), self());
     }
 
     bool operator==(const Function& other) const override {
         if (this == &other)
             return true;
-        if (typeid(*this) != typeid(other))
-            return false;
-        const auto& same = static_cast<const Self&>(other);
-        bool equal = true;
-        forEachAttribute(
-            [&](const auto& attribute) { equal = equal && self().*attribute.member == same.*attribute.member; });
-        return equal;
+        return typeid(*this) == typeid(other) && haveEqualAttributes(self(), static_cast<const Self&>(other));
     }
 
     std::unique_ptr<Function> clone() const override { return std::make_unique<Self>(self()); }
@@ -63,11 +53,6 @@ protected:
 private:
     Self& self() { return static_cast<Self&>(*this); }
     const Self& self() const { return static_cast<const Self&>(*this); }
-
-    template <class Action>
-    static void forEachAttribute(Action action) {
-        std::apply([&](const auto&... attributes) { (action(attributes), ...); }, Self::attributes());
-    }
 
     MirelIF* m_mirel;  // Never null.
 };

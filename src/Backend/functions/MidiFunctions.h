@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Backend/functions/ConcreteFunction.h"
+#include "Backend/midi/MidiRanges.h"
 #include "Backend/midi/MirelMidiMessage.h"
 
 namespace Backend::FunctionManagement::Functions {
@@ -15,8 +16,10 @@ public:
     using ConcreteFunction<Self, MidiSettingsType>::ConcreteFunction;
 
     static auto attributes() {
-        return std::tuple(Attribute{"zone", &MidiFunction::m_zone, NOT_SET, true},
-                          Attribute{"output", &MidiFunction::m_output, NOT_SET, true});
+        return std::tuple{
+            Attribute{"zone", &MidiFunction::m_zone, NOT_SET, MidiRanges::ZONE, Written::UNLESS_MISSING},
+            Attribute{"output", &MidiFunction::m_output, NOT_SET, MidiRanges::OUTPUT, Written::UNLESS_MISSING},
+        };
     }
 
     MidiMessage::MessageType getStatus() const override { return STATUS; }
@@ -54,7 +57,8 @@ public:
     static auto attributes() {
         return std::tuple_cat(
             MidiFunction<Self, STATUS>::attributes(),
-            std::tuple(Attribute{"channel", &ChannelFunction::m_channel, MidiFunction<Self, STATUS>::NOT_SET, true}));
+            std::tuple(Attribute{"channel", &ChannelFunction::m_channel, MidiFunction<Self, STATUS>::NOT_SET,
+                                 MidiRanges::CHANNEL, Written::UNLESS_MISSING}));
     }
 
     char getChannel() const override { return m_channel; }
@@ -70,9 +74,12 @@ public:
     using ChannelFunction<Self, STATUS>::ChannelFunction;
 
     static auto attributes() {
-        return std::tuple_cat(ChannelFunction<Self, STATUS>::attributes(),
-                              std::tuple(Attribute{"note", &NoteFunction::m_note},
-                                         Attribute{"velocity", &NoteFunction::m_velocity, DEFAULT_VELOCITY}));
+        return std::tuple_cat(
+            ChannelFunction<Self, STATUS>::attributes(),
+            std::tuple{
+                Attribute{"note", &NoteFunction::m_note, Note(), MidiRanges::NOTE},
+                Attribute{"velocity", &NoteFunction::m_velocity, DEFAULT_VELOCITY, MidiRanges::DATA_BYTE},
+            });
     }
 
     void execute() override { this->play(STATUS, static_cast<char>(m_note.getNumber()), m_velocity, this->m_channel); }
@@ -107,9 +114,11 @@ public:
     using ChannelFunction::ChannelFunction;
 
     static auto attributes() {
-        return std::tuple_cat(
-            ChannelFunction::attributes(),
-            std::tuple(Attribute{"key", &MidiKeyPressure::m_key}, Attribute{"pressure", &MidiKeyPressure::m_pressure}));
+        return std::tuple_cat(ChannelFunction::attributes(),
+                              std::tuple{
+                                  Attribute{"key", &MidiKeyPressure::m_key, 0, MidiRanges::DATA_BYTE},
+                                  Attribute{"pressure", &MidiKeyPressure::m_pressure, 0, MidiRanges::DATA_BYTE},
+                              });
     }
 
     void execute() override { play(MidiMessage::NoteOff, m_key, m_pressure, m_channel); }
@@ -130,9 +139,12 @@ public:
 
     static auto attributes() {
         constexpr char VALUE_IF_MISSING = 100;  // A new function has 0.
-        return std::tuple_cat(ChannelFunction::attributes(),
-                              std::tuple(Attribute{"controller", &MidiControllerChange::m_controller},
-                                         Attribute{"value", &MidiControllerChange::m_value, VALUE_IF_MISSING}));
+        return std::tuple_cat(
+            ChannelFunction::attributes(),
+            std::tuple{
+                Attribute{"controller", &MidiControllerChange::m_controller, 0, MidiRanges::DATA_BYTE},
+                Attribute{"value", &MidiControllerChange::m_value, VALUE_IF_MISSING, MidiRanges::DATA_BYTE},
+            });
     }
 
     void execute() override { play(MidiMessage::ControllerChange, m_controller, m_value, m_channel); }
@@ -152,8 +164,9 @@ public:
     using ChannelFunction::ChannelFunction;
 
     static auto attributes() {
-        return std::tuple_cat(ChannelFunction::attributes(),
-                              std::tuple(Attribute{"program", &MidiProgramChange::m_program}));
+        return std::tuple_cat(
+            ChannelFunction::attributes(),
+            std::tuple(Attribute{"program", &MidiProgramChange::m_program, 0, MidiRanges::DATA_BYTE}));
     }
 
     void execute() override { play(MidiMessage::ProgramChange, m_program, 0, m_channel); }
@@ -170,8 +183,9 @@ public:
     using ChannelFunction::ChannelFunction;
 
     static auto attributes() {
-        return std::tuple_cat(ChannelFunction::attributes(),
-                              std::tuple(Attribute{"pressure", &MidiChannelPressure::m_pressure}));
+        return std::tuple_cat(
+            ChannelFunction::attributes(),
+            std::tuple(Attribute{"pressure", &MidiChannelPressure::m_pressure, 0, MidiRanges::DATA_BYTE}));
     }
 
     void execute() override { play(MidiMessage::ChannelPressure, m_pressure, 0, m_channel); }
@@ -196,7 +210,8 @@ public:
     using ChannelFunction::ChannelFunction;
 
     static auto attributes() {
-        return std::tuple_cat(ChannelFunction::attributes(), std::tuple(Attribute{"value", &MidiPitchBend::m_value}));
+        return std::tuple_cat(ChannelFunction::attributes(),
+                              std::tuple(Attribute{"value", &MidiPitchBend::m_value, 0, MidiRanges::DATA_WORD}));
     }
 
     void execute() override {
@@ -217,7 +232,8 @@ public:
     using MidiFunction::MidiFunction;
 
     static auto attributes() {
-        return std::tuple_cat(MidiFunction::attributes(), std::tuple(Attribute{"value", &MidiSongPosition::m_value}));
+        return std::tuple_cat(MidiFunction::attributes(),
+                              std::tuple(Attribute{"value", &MidiSongPosition::m_value, 0, MidiRanges::DATA_WORD}));
     }
 
     void execute() override {
@@ -247,8 +263,9 @@ public:
     using SystemFunction::SystemFunction;
 
     static auto attributes() {
-        return std::tuple_cat(SystemFunction::attributes(),
-                              std::tuple(Attribute{"songNumber", &MidiSongSelect::m_songNumber}));
+        return std::tuple_cat(
+            SystemFunction::attributes(),
+            std::tuple(Attribute{"songNumber", &MidiSongSelect::m_songNumber, 0, MidiRanges::DATA_BYTE}));
     }
 
     void execute() override { postSystemEvent(mirel(), MidiMessage::SongSelect, m_songNumber, m_output); }
@@ -265,8 +282,9 @@ public:
     using SystemFunction::SystemFunction;
 
     static auto attributes() {
-        return std::tuple_cat(SystemFunction::attributes(),
-                              std::tuple(Attribute{"busNumber", &MidiBusSelect::m_busNumber}));
+        return std::tuple_cat(
+            SystemFunction::attributes(),
+            std::tuple(Attribute{"busNumber", &MidiBusSelect::m_busNumber, 0, MidiRanges::DATA_BYTE}));
     }
 
     void execute() override { postSystemEvent(mirel(), MidiMessage::UnofficialBusSelect, m_busNumber, m_output); }

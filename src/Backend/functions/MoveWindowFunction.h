@@ -10,7 +10,10 @@ public:
     using ConcreteFunction::ConcreteFunction;
 
     static auto attributes() {
-        return std::tuple(Attribute{"x", &MoveWindowFunction::m_x}, Attribute{"y", &MoveWindowFunction::m_y});
+        return std::tuple{
+            Attribute{"x", &MoveWindowFunction::m_x},
+            Attribute{"y", &MoveWindowFunction::m_y},
+        };
     }
 
     void execute() override { mirel().moveWindow(m_x, m_y); }

@@ -43,7 +43,10 @@ public:
     using ConcreteFunction<Self, Kind>::ConcreteFunction;
 
     static auto attributes() {
-        return std::tuple(Attribute{"type", &ChangeFunction::m_type}, Attribute{"value", &ChangeFunction::m_value});
+        return std::tuple{
+            Attribute{"type", &ChangeFunction::m_type},
+            Attribute{"value", &ChangeFunction::m_value},
+        };
     }
 
     // For things that this desk does not have.

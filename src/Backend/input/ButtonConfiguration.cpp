@@ -1,7 +1,6 @@
 #include "Backend/input/ButtonConfiguration.h"
 
-#include "Backend/core/xml/XmlElement.h"
-#include "Backend/core/xml/XmlWriting.h"
+#include "Backend/core/xml/ElementWriter.h"
 #include "Backend/functions/FunctionFactory.h"
 #include "Backend/functions/FunctionList.h"
 
@@ -14,8 +13,6 @@ using FunctionManagement::Functions::NoFunction;
 
 namespace {
 
-constexpr const char* KEEP_SENDING = "keepSending";
-
 // Only the first element inside counts. Comments and text are children too.
 std::unique_ptr<Function> readSlot(const XmlElement& element, MirelIF& mirel) {
     for (auto child = element.begin(); child != element.end(); child.next())
@@ -26,7 +23,7 @@ std::unique_ptr<Function> readSlot(const XmlElement& element, MirelIF& mirel) {
 
 ButtonFunction readEntry(const XmlElement& element, MirelIF& mirel) {
     ButtonFunction entry;
-    entry.keepSending = element.getBoolAttribute(KEEP_SENDING, false);
+    readAttributes(element, entry);
     for (auto child = element.begin(); child != element.end(); child.next()) {
         if (child.getName() == ButtonConfiguration::DOWN_TAG && !entry.downFunction)
             entry.downFunction = readSlot(child, mirel);
@@ -36,12 +33,9 @@ ButtonFunction readEntry(const XmlElement& element, MirelIF& mirel) {
     return entry;
 }
 
-void writeSlot(std::ostream& stream, int indent, const char* tag, const std::unique_ptr<Function>& function) {
-    if (!function)
-        return;
-    stream << getIndentation(indent) << getStartTag(tag) << '\n';
-    function->writeXml(stream, indent + 1);
-    stream << getIndentation(indent) << getEndTag(tag) << '\n';
+void writeSlot(const ElementWriter& entry, const char* tag, const std::unique_ptr<Function>& function) {
+    if (function)
+        entry.begin(tag).write(*function);
 }
 
 bool isReal(const std::unique_ptr<Function>& function) {
@@ -120,13 +114,11 @@ void ButtonConfiguration::readFunctions(const XmlElement& element, MirelIF& mire
             m_functions.push_back(readEntry(child, mirel));
 }
 
-void ButtonConfiguration::writeFunctions(std::ostream& stream, int indent) const {
+void ButtonConfiguration::writeFunctions(const ElementWriter& button) const {
     for (const ButtonFunction& entry : m_functions) {
-        stream << getIndentation(indent) << getStartTagBegin(FUNCTION_TAG)
-               << getAttributeText(KEEP_SENDING, entry.keepSending) << getStartTagEnd() << '\n';
-        writeSlot(stream, indent + 1, DOWN_TAG, entry.downFunction);
-        writeSlot(stream, indent + 1, UP_TAG, entry.upFunction);
-        stream << getIndentation(indent) << getEndTag(FUNCTION_TAG) << '\n';
+        const ElementWriter element = button.begin(FUNCTION_TAG, entry);
+        writeSlot(element, DOWN_TAG, entry.downFunction);
+        writeSlot(element, UP_TAG, entry.upFunction);
     }
 }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 namespace Backend {
+class ElementWriter;
 class MirelIF;
 class XmlElement;
 }
@@ -58,7 +59,7 @@ protected:
 
     // Appends what the children of a button's element say.
     void readFunctions(const Backend::XmlElement& element, Backend::MirelIF& mirel);
-    void writeFunctions(std::ostream& stream, int indent) const;
+    void writeFunctions(const Backend::ElementWriter& button) const;
 
     // Lists in which all slots are empty are equal.
     bool hasSameFunctions(const ButtonConfiguration& other) const;

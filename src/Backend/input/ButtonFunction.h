@@ -1,11 +1,16 @@
 #pragma once
 
+#include "Backend/core/xml/Attribute.h"
 #include "Backend/functions/Function.h"
 
 #include <memory>
 
 // What a button does, on its press and on its release. Copies are deep.
 struct ButtonFunction {
+    static auto attributes() {
+        return std::tuple(Backend::Attribute{"keepSending", &ButtonFunction::keepSending, false});
+    }
+
     ButtonFunction() = default;
     ~ButtonFunction() = default;
     ButtonFunction(const ButtonFunction& other);

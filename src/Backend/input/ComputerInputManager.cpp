@@ -3,11 +3,11 @@
 #include "Backend/core/GuiPost.h"
 #include "Backend/core/MirelIF.h"
 #include "Backend/core/files/DefaultXml.h"
+#include "Backend/core/xml/ElementWriter.h"
 #include "Backend/core/xml/Text.h"
 #include "Backend/core/xml/XmlDocument.h"
-#include "Backend/core/xml/XmlElement.h"
-#include "Backend/core/xml/XmlWriting.h"
 #include "Backend/input/ComputerInputMessages.h"
+#include "Backend/input/KeyListElement.h"
 
 namespace Backend::ComputerInput {
 
@@ -31,7 +31,9 @@ void ComputerInputManager::loadDefaultMap() {
 
 void ComputerInputManager::readXml(const XmlElement& element) {
     m_currentPreset.clear();
-    const std::string preset(Text::trim(element.getAttribute("preset")));
+    ProgramKeysElement list;
+    readAttributes(element, list);
+    const std::string preset(Text::trim(list.preset));
     if (!preset.empty()) {
         loadPreset(preset);
         return;
@@ -43,14 +45,13 @@ void ComputerInputManager::readXml(const XmlElement& element) {
 void ComputerInputManager::writeXml(std::ostream& stream, int indent, const std::vector<Key>& selected,
                                     bool writeKeys) const {
     const bool writePreset = !writeKeys && !m_currentPreset.empty() && !isChangedFromPreset(m_currentPreset);
-    stream << getIndentation(indent) << getStartTagBegin(KeyConfigurationMap::TAG);
-    if (writePreset)
-        stream << getAttributeText("preset", m_currentPreset);
-    stream << getAttributeText("merge", !selected.empty()) << getAttributeText("useKeyUpMod", m_useKeyUpMod)
-           << getStartTagEnd() << '\n';
+    ProgramKeysElement list;
+    list.preset = writePreset ? m_currentPreset : std::string();
+    list.merge = !selected.empty();
+    list.useKeyUpMod = m_useKeyUpMod;
+    const ElementWriter keys(stream, indent, KeyConfigurationMap::TAG, list);
     if (!writePreset)
-        m_keyConfigurations.writeKeys(stream, indent + 1, selected);
-    stream << getIndentation(indent) << getEndTag(KeyConfigurationMap::TAG) << '\n';
+        m_keyConfigurations.writeKeys(stream, keys.getInnerIndent(), selected);
 }
 
 void ComputerInputManager::clear() {

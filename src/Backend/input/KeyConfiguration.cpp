@@ -1,20 +1,17 @@
 #include "Backend/input/KeyConfiguration.h"
 
-#include "Backend/core/xml/XmlElement.h"
-#include "Backend/core/xml/XmlWriting.h"
+#include "Backend/core/xml/ElementWriter.h"
 
 namespace Backend::ComputerInput {
 
-KeyConfiguration::KeyConfiguration(const XmlElement& element, MirelIF& mirel)
-    : m_key(element.getAttribute("id")), m_global(element.getBoolAttribute("global", true)) {
+KeyConfiguration::KeyConfiguration(const XmlElement& element, MirelIF& mirel) {
+    readAttributes(element, *this);
     readFunctions(element, mirel);
 }
 
 void KeyConfiguration::writeXml(std::ostream& stream, int indent) const {
-    stream << getIndentation(indent) << getStartTagBegin(TAG) << getAttributeText("id", m_key)
-           << getAttributeText("global", m_global) << getStartTagEnd() << '\n';
-    writeFunctions(stream, indent + 1);
-    stream << getIndentation(indent) << getEndTag(TAG) << '\n';
+    const ElementWriter key(stream, indent, TAG, *this);
+    writeFunctions(key);
 }
 
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Backend/core/xml/Attribute.h"
 #include "Backend/input/ButtonConfiguration.h"
 #include "Backend/input/Key.h"
 
@@ -9,6 +10,13 @@ namespace Backend::ComputerInput {
 class KeyConfiguration : public ButtonConfiguration {
 public:
     static constexpr const char* TAG = "Key";
+
+    static auto attributes() {
+        return std::tuple{
+            Attribute{"id", &KeyConfiguration::m_key},
+            Attribute{"global", &KeyConfiguration::m_global, true},
+        };
+    }
 
     KeyConfiguration() = default;
     explicit KeyConfiguration(const Key& key) : m_key(key) {}
@@ -25,7 +33,7 @@ public:
     void writeXml(std::ostream& stream, int indent) const override;
 
     bool operator==(const KeyConfiguration& other) const {
-        return m_key == other.m_key && m_global == other.m_global && hasSameFunctions(other);
+        return haveEqualAttributes(*this, other) && hasSameFunctions(other);
     }
 
 private:

@@ -2,6 +2,7 @@
 
 #include "Backend/core/collections/HashMapIterator.h"
 #include "Backend/core/xml/XmlElement.h"
+#include "Backend/input/KeyListElement.h"
 
 #include <algorithm>
 
@@ -19,9 +20,10 @@ std::unique_ptr<Component::IteratorIF<KeyConfiguration>> KeyConfigurationMap::cr
 void KeyConfigurationMap::readXml(const XmlElement& element, MirelIF& mirel, bool& useKeyUpMod) {
     if (element.getName() != TAG)
         return;
-    const bool merge = element.getBoolAttribute("merge", false);
-    useKeyUpMod = element.getBoolAttribute("useKeyUpMod", false);
-    if (!merge)
+    KeyListElement list;
+    readAttributes(element, list);
+    useKeyUpMod = list.useKeyUpMod;
+    if (!list.merge)
         clear();
     for (auto child = element.begin(); child != element.end(); child.next())
         if (child.getName() == KeyConfiguration::TAG)

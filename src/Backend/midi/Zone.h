@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Backend/core/xml/Attribute.h"
 #include "Backend/midi/Note.h"
 #include "Backend/midi/ZoneId.h"
 
@@ -8,6 +9,13 @@ namespace Backend::Zones {
 // A numbered group of events that can be transposed on its own.
 struct Zone {
     static constexpr const char* TAG = "Zone";
+
+    static auto attributes() {
+        return std::tuple{
+            Attribute{"id", &Zone::id, 0, {0, MAX_ZONE}},
+            Attribute{"transpose", &Zone::transpose, 0, {-128, 127}},
+        };
+    }
 
     // Lets the range take in that of another, whose notes are notes.
     void widen(const Zone& other) {

@@ -1,5 +1,6 @@
 #include "Backend/core/files/BankFile.h"
 
+#include "Backend/core/files/Program.h"
 #include "Backend/core/xml/Text.h"
 #include "Backend/core/xml/XmlDocument.h"
 #include "Backend/core/xml/XmlElement.h"
@@ -64,7 +65,7 @@ std::vector<std::string> readProgramNames(const std::string& path) {
     std::vector<std::string> names;
     for (auto child = root.begin(); child != root.end(); child.next())
         if (child.getName() == PROGRAM_TAG)
-            names.push_back(child.getAttribute("name"));
+            names.push_back(Program(child).getName());
     return names;
 }
 

@@ -3,6 +3,7 @@
 #include "Backend/core/installation/MirelUtils.h"
 #include "Backend/core/trace/FileTrace.h"
 #include "Backend/core/xml/FileNames.h"
+#include "Backend/core/xml/ListElement.h"
 #include "Backend/core/xml/XmlDocument.h"
 #include "Backend/core/xml/XmlWriting.h"
 #include "Platform/Files.h"
@@ -49,7 +50,9 @@ void PresetFolder::save(const std::string& name, const std::function<void(std::o
         return;
     if (find(name) == m_presets.end())
         m_presets.push_back({name});
-    find(name)->merge = XmlDocument(getPresetPath(name), true).getRootElement().getBoolAttribute("merge", false);
+    ListElement saved;
+    readAttributes(XmlDocument(getPresetPath(name), true).getRootElement(), saved);
+    find(name)->merge = saved.merge;
     sort();
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Backend/core/xml/Attribute.h"
+
 #include <cstdint>
 #include <string>
 
@@ -9,9 +11,24 @@ namespace Backend {
 class Program {
 public:
     static constexpr int DEFAULT_TEMPO = 120;
+    static constexpr NumberRange TEMPO{20, 250};  // What a user can set. Files may say otherwise.
     static constexpr int NO_TEMPO_SOURCE = -1;
 
+    static auto attributes() {
+        return std::tuple{
+            Attribute{"name", &Program::m_name},
+            Attribute{"tempo", &Program::m_tempo, DEFAULT_TEMPO, TEMPO, Written::WITH_CHILDREN},
+            Attribute{"tempoSource", &Program::m_tempoSource, NO_TEMPO_SOURCE, {-1, 127}, Written::WITH_CHILDREN},
+        };
+    }
+
     Program() = default;
+
+    // From its element.
+    explicit Program(const XmlElement& element, std::int32_t index = 0) : m_index(index) {
+        readAttributes(element, *this);
+    }
+
     Program(std::string name, std::int32_t index, std::int32_t tempo, std::int32_t tempoSource)
         : m_name(std::move(name)), m_index(index), m_tempo(tempo), m_tempoSource(tempoSource) {}
 

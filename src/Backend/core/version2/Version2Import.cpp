@@ -5,10 +5,11 @@
 #include "Backend/core/files/PresetFolder.h"
 #include "Backend/core/files/Program.h"
 #include "Backend/core/version2/Version2Sections.h"
+#include "Backend/core/xml/ElementWriter.h"
 #include "Backend/core/xml/FileNames.h"
 #include "Backend/core/xml/Text.h"
-#include "Backend/core/xml/XmlWriting.h"
 #include "Backend/input/ComputerInputManager.h"
+#include "Backend/input/KeyListElement.h"
 #include "Backend/input/controls/ControlManager.h"
 #include "Backend/midi/layers/ZoneMap.h"
 #include "Backend/midi/managers/LayerManager.h"
@@ -60,15 +61,21 @@ Zones::ZoneMap makeZones(const std::vector<std::int32_t>& transposes) {
     return zones;
 }
 
-// preset: what the element refers to, or null.
-void writeKeys(std::ostream& stream, int indent, const ComputerInput::KeyConfigurationMap& keys, const char* preset) {
-    stream << getIndentation(indent) << getStartTagBegin(ComputerInput::KeyConfigurationMap::TAG)
-           << getAttributeText("merge", false);
-    if (preset)
-        stream << getAttributeText("preset", preset);
-    stream << getStartTagEnd() << '\n';
-    keys.writeKeys(stream, indent + 1, {});
-    stream << getIndentation(indent) << getEndTag(ComputerInput::KeyConfigurationMap::TAG) << '\n';
+// The keys of an import have no flag of their own, and their preset stands last.
+struct ImportedKeysElement : ComputerInput::ProgramKeysElement {
+    static auto attributes() {
+        const auto [preset, merge, useKeyUpMod] = ProgramKeysElement::attributes();
+        return std::tuple(merge, preset);
+    }
+};
+
+// preset: what the element refers to, or empty.
+void writeKeys(std::ostream& stream, int indent, const ComputerInput::KeyConfigurationMap& keys,
+               const std::string& preset) {
+    ImportedKeysElement list;
+    list.preset = preset;
+    const ElementWriter element(stream, indent, ComputerInput::KeyConfigurationMap::TAG, list);
+    keys.writeKeys(stream, element.getInnerIndent(), {});
 }
 
 std::string getFirstWordOfFileName(const std::string& path) {
@@ -123,14 +130,13 @@ void Version2Import::convertProgram(Version2Reader& reader, std::ostream& stream
     do
         reader.skipBlankLines();
     while (readSection(reader, components));
-    stream << getStartTagBegin(BankFile::PROGRAM_TAG) << getAttributeText("name", header.name)
-           << getAttributeText("tempo", components.tempo) << getAttributeText("tempoSource", components.tempoSource)
-           << getStartTagEnd() << '\n';
-    writeKeys(stream, 1, components.keys, components.keys.empty() ? Version2Import::BASE_PRESET : nullptr);
-    components.controls.writeXml(stream, 1, {});
-    components.layers.writeXml(stream, 1, {});
-    makeZones(header.transposes).writeXml(stream, 1, false);
-    stream << getEndTag(BankFile::PROGRAM_TAG) << '\n';
+    const ElementWriter program(stream, 0, BankFile::PROGRAM_TAG,
+                                Program(header.name, 0, components.tempo, components.tempoSource));
+    const int indent = program.getInnerIndent();
+    writeKeys(stream, indent, components.keys, components.keys.empty() ? BASE_PRESET : "");
+    components.controls.writeXml(stream, indent, {});
+    components.layers.writeXml(stream, indent, {});
+    makeZones(header.transposes).writeXml(stream, indent, false);
 }
 
 void Version2Import::importBank(const std::string& from, const std::string& to) {
@@ -175,7 +181,7 @@ void Version2Import::importPreset(const std::string& from, const std::string& to
     const std::string kind = getFirstWordOfFileName(from);
     const PresetFolder* folder = nullptr;
     if (kind == "key") {
-        writeKeys(preset, 0, components.keys, nullptr);
+        writeKeys(preset, 0, components.keys, "");
         folder = &m_mirel.getComputerInput().getPresets();
     } else if (kind == "control") {
         components.controls.writeXml(preset, 0, {});

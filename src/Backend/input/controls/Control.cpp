@@ -1,8 +1,7 @@
 #include "Backend/input/controls/Control.h"
 
+#include "Backend/core/xml/ElementWriter.h"
 #include "Backend/core/xml/Text.h"
-#include "Backend/core/xml/XmlElement.h"
-#include "Backend/core/xml/XmlWriting.h"
 #include "Backend/midi/engine/MidiEngineMessageManager.h"
 
 #include <algorithm>
@@ -32,29 +31,17 @@ void sendEvent(const ControlEvent& event, MidiEngine::MidiEngineMessageManager& 
 
 }
 
-Control::Control(const XmlElement& element)
-    : cell(element.getAttribute("cell")),
-      name(element.getAttribute("name")),
-      type(element.getAttribute("type")),
-      value(element.getIntAttribute("value", 0)),
-      min(element.getIntAttribute("min", 0)),
-      max(element.getIntAttribute("max", 127)),
-      release(element.getIntAttribute("release", STAYS)),
-      autoSend(element.getBoolAttribute("autoSend", false)),
-      size(element.getIntAttribute("size", 1)) {
+Control::Control(const XmlElement& element) {
+    readAttributes(element, *this);
     for (auto child = element.begin(); child != element.end(); child.next())
         if (child.getName() == ControlEvent::TAG)
             events.emplace_back(child);
 }
 
 void Control::writeXml(std::ostream& stream, int indent) const {
-    stream << getIndentation(indent) << getStartTagBegin(TAG) << getAttributeText("cell", cell)
-           << getAttributeText("type", type) << getAttributeText("name", name) << getAttributeText("value", value)
-           << getAttributeText("min", min) << getAttributeText("max", max) << getAttributeText("release", release)
-           << getAttributeText("autoSend", autoSend) << getAttributeText("size", size) << getStartTagEnd() << '\n';
+    const ElementWriter control(stream, indent, TAG, *this);
     for (const ControlEvent& event : events)
-        event.writeXml(stream, indent + 1);
-    stream << getIndentation(indent) << getEndTag(TAG) << '\n';
+        control.write(event);
 }
 
 void Control::setValue(MidiEngine::MidiEngineMessageManager& engine, std::int32_t newValue, bool send) {

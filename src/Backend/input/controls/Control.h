@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Backend/core/xml/Attribute.h"
 #include "Backend/input/controls/ControlEvent.h"
 #include "Backend/input/controls/ControlType.h"
 #include "Backend/midi/Cell.h"
@@ -8,10 +9,6 @@
 #include <ostream>
 #include <string>
 #include <vector>
-
-namespace Backend {
-class XmlElement;
-}
 
 namespace Backend::MidiEngine {
 class MidiEngineMessageManager;
@@ -24,6 +21,20 @@ class Control {
 public:
     static constexpr const char* TAG = "Control";
     static constexpr std::int32_t STAYS = -1;
+
+    static auto attributes() {
+        return std::tuple{
+            Attribute{"cell", &Control::cell},
+            Attribute{"type", &Control::type},
+            Attribute{"name", &Control::name},
+            Attribute{"value", &Control::value, 0, ANY_NUMBER},
+            Attribute{"min", &Control::min, 0, ANY_NUMBER},
+            Attribute{"max", &Control::max, 127, ANY_NUMBER},
+            Attribute{"release", &Control::release, STAYS, ANY_NUMBER},
+            Attribute{"autoSend", &Control::autoSend, false},
+            Attribute{"size", &Control::size, 1, {1, 16}},
+        };
+    }
 
     Control() = default;
     virtual ~Control() = default;

@@ -1,12 +1,10 @@
 #pragma once
 
+#include "Backend/core/xml/Attribute.h"
 #include "Backend/midi/MidiMessage.h"
+#include "Backend/midi/MidiRanges.h"
 
 #include <ostream>
-
-namespace Backend {
-class XmlElement;
-}
 
 namespace Backend::MidiEngine {
 class MirelMidiMessage;
@@ -17,6 +15,15 @@ namespace Backend::Controls {
 // An event that a control sends with its value in it.
 struct ControlEvent {
     static constexpr const char* TAG = "Function";
+
+    static auto attributes() {
+        return std::tuple{
+            Attribute{"midiEvent", &ControlEvent::midiMessage},
+            Attribute{"output", &ControlEvent::output, -1, MidiRanges::OUTPUT},
+            Attribute{"channel", &ControlEvent::channel, -1, MidiRanges::CHANNEL},
+            Attribute{"zone", &ControlEvent::zone, -1, MidiRanges::ZONE},
+        };
+    }
 
     ControlEvent() = default;
     explicit ControlEvent(const MidiEngine::MidiMessage& message) : midiMessage(message) {}

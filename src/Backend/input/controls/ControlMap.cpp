@@ -1,8 +1,8 @@
 #include "Backend/input/controls/ControlMap.h"
 
 #include "Backend/core/collections/HashMapIterator.h"
-#include "Backend/core/xml/XmlElement.h"
-#include "Backend/core/xml/XmlWriting.h"
+#include "Backend/core/xml/ElementWriter.h"
+#include "Backend/core/xml/ListElement.h"
 
 #include <algorithm>
 
@@ -40,7 +40,9 @@ std::vector<const Control*> ControlMap::inOrder() const {
 }
 
 void ControlMap::readXml(const XmlElement& element) {
-    if (!element.getBoolAttribute("merge", false))
+    ListElement list;
+    readAttributes(element, list);
+    if (!list.merge)
         clear();
     for (auto child = element.begin(); child != element.end(); child.next())
         if (child.getName() == Control::TAG)
@@ -48,16 +50,14 @@ void ControlMap::readXml(const XmlElement& element) {
 }
 
 void ControlMap::writeXml(std::ostream& stream, int indent, const std::vector<Cell>& selected) const {
-    stream << getIndentation(indent) << getStartTagBegin(TAG) << getAttributeText("merge", !selected.empty())
-           << getStartTagEnd() << '\n';
+    const ElementWriter element(stream, indent, TAG, ListElement{.merge = !selected.empty()});
     auto controls = inOrder();
     std::sort(controls.begin(), controls.end(), [](const Control* left, const Control* right) {
         return left->cell.toXmlString() < right->cell.toXmlString();
     });
     for (const Control* control : controls)
         if (selected.empty() || std::find(selected.begin(), selected.end(), control->cell) != selected.end())
-            control->writeXml(stream, indent + 1);
-    stream << getIndentation(indent) << getEndTag(TAG) << '\n';
+            element.write(*control);
 }
 
 }

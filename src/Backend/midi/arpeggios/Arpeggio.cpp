@@ -1,6 +1,6 @@
 #include "Backend/midi/arpeggios/Arpeggio.h"
 
-#include "Backend/core/xml/XmlWriting.h"
+#include "Backend/core/xml/ElementWriter.h"
 #include "Backend/midi/ArpeggioTarget.h"
 #include "Backend/midi/NoteRange.h"
 #include "Backend/midi/sequences/SequencePlayer.h"
@@ -21,8 +21,7 @@ void Arpeggio::setMidiEngine(MidiEngine::ArpeggioTarget* engine) {
 }
 
 void Arpeggio::writeXml(std::ostream& stream, int indent) const {
-    stream << getIndentation(indent) << getStartTagBegin(getTypeName()) << getAttributeText("beat", m_beat)
-           << getAttributeText("length", m_length) << getEmptyTagEnd() << '\n';
+    writeEmptyElement(stream, indent, getTypeName(), *this);
 }
 
 std::string Arpeggio::toString() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Backend/core/xml/Attribute.h"
 #include "Backend/midi/TimeInterval.h"
 #include "Backend/midi/arpeggios/ArpeggioNote.h"
 #include "Backend/midi/sequences/SequenceSetting.h"
@@ -26,6 +27,13 @@ public:
 
     // A note beyond this many is not taken, so that keys that never go up can't fill the memory.
     static constexpr std::size_t MAX_NOTES = 8192;
+
+    static auto attributes() {
+        return std::tuple{
+            Attribute{"beat", &Arpeggio::m_beat, DEFAULT_PPQ, {1, INT32_MAX}},
+            Attribute{"length", &Arpeggio::m_length, DEFAULT_PPQ, {0, INT32_MAX}},
+        };
+    }
 
     virtual ~Arpeggio() = default;
 

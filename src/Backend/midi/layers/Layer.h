@@ -1,8 +1,10 @@
 #pragma once
 
+#include "Backend/core/xml/Attribute.h"
 #include "Backend/functions/values/NoteToggle.h"
 #include "Backend/functions/values/RelativeFixedValue.h"
 #include "Backend/midi/Fraction.h"
+#include "Backend/midi/MidiRanges.h"
 #include "Backend/midi/Note.h"
 #include "Backend/midi/arpeggios/Arpeggio.h"
 #include "Backend/midi/sequences/SequenceSetting.h"
@@ -10,10 +12,6 @@
 #include <memory>
 #include <ostream>
 #include <string>
-
-namespace Backend {
-class XmlElement;
-}
 
 namespace Backend::SequenceManagement {
 class SequencePresetManager;
@@ -31,6 +29,26 @@ struct Layer {
     Layer& operator=(const Layer& other);
     Layer(Layer&&) = default;
     Layer& operator=(Layer&&) = default;
+
+    static auto attributes() {
+        return std::tuple{
+            Attribute{"mute", &Layer::mute, false},
+            Attribute{"mono", &Layer::mono, false},
+            Attribute{"toggle", &Layer::toggle},
+            Attribute{"useNoteStack", &Layer::useNoteStack, true},
+            Attribute{"minNote", &Layer::minNote, Note(std::uint8_t{0}), MidiRanges::NOTE},
+            Attribute{"maxNote", &Layer::maxNote, Note(std::uint8_t{127}), MidiRanges::NOTE},
+            Attribute{"minVelocity", &Layer::minVelocity, 0, MidiRanges::DATA_BYTE},
+            Attribute{"maxVelocity", &Layer::maxVelocity, 127, MidiRanges::DATA_BYTE},
+            Attribute{"zone", &Layer::zone, -1, MidiRanges::ZONE},
+            Attribute{"output", &Layer::output, -1, MidiRanges::OUTPUT},
+            Attribute{"channel", &Layer::channel, 0, MidiRanges::CHANNEL},
+            Attribute{"transpose", &Layer::transpose, &readChange},
+            Attribute{"key", &Layer::key, Note(), MidiRanges::NOTE_OR_NONE},
+            Attribute{"velocity", &Layer::velocity, &readChange},
+            Attribute{"compress", &Layer::compress},
+        };
+    }
 
     // From its element. An attribute that is missing or can't be read takes the default below.
     Layer(const XmlElement& element, const SequenceManagement::SequencePresetManager& presets);
@@ -72,6 +90,10 @@ struct Layer {
     NoteToggle toggle;
     std::unique_ptr<ArpeggioManagement::Arpeggio> arpeggio;
     SequenceManagement::SequenceSetting sequenceSetting;
+
+private:
+    // Text without a number leaves the note or velocity as it is.
+    static RelativeFixedValue readChange(const std::string& text);
 };
 
 }

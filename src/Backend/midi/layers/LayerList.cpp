@@ -1,8 +1,8 @@
 #include "Backend/midi/layers/LayerList.h"
 
 #include "Backend/core/collections/VectorIterator.h"
-#include "Backend/core/xml/XmlElement.h"
-#include "Backend/core/xml/XmlWriting.h"
+#include "Backend/core/xml/ElementWriter.h"
+#include "Backend/core/xml/ListElement.h"
 
 #include <algorithm>
 
@@ -39,7 +39,9 @@ void LayerList::add(Layer layer) {
 }
 
 void LayerList::readXml(const XmlElement& element, const SequenceManagement::SequencePresetManager& presets) {
-    if (!element.getBoolAttribute("merge", false))
+    ListElement list;
+    readAttributes(element, list);
+    if (!list.merge)
         clear();
     for (auto child = element.begin(); child != element.end(); child.next())
         if (child.getName() == Layer::TAG && m_layers.size() < MAX_LAYERS)
@@ -47,12 +49,10 @@ void LayerList::readXml(const XmlElement& element, const SequenceManagement::Seq
 }
 
 void LayerList::writeXml(std::ostream& stream, int indent, const std::vector<LayerId>& selected) const {
-    stream << getIndentation(indent) << getStartTagBegin(TAG) << getAttributeText("merge", !selected.empty())
-           << getStartTagEnd() << '\n';
+    const ElementWriter layers(stream, indent, TAG, ListElement{.merge = !selected.empty()});
     for (const Layer& layer : m_layers)
         if (selected.empty() || std::find(selected.begin(), selected.end(), LayerId{layer.id}) != selected.end())
-            layer.writeXml(stream, indent + 1);
-    stream << getIndentation(indent) << getEndTag(TAG) << '\n';
+            layers.write(layer);
 }
 
 }

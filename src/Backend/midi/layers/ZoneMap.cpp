@@ -1,9 +1,7 @@
 #include "Backend/midi/layers/ZoneMap.h"
 
 #include "Backend/core/collections/HashMapIterator.h"
-#include "Backend/core/xml/Text.h"
-#include "Backend/core/xml/XmlElement.h"
-#include "Backend/core/xml/XmlWriting.h"
+#include "Backend/core/xml/ElementWriter.h"
 
 #include <algorithm>
 #include <map>
@@ -34,9 +32,8 @@ void ZoneMap::readXml(const XmlElement& element) {
         if (child.getName() != Zone::TAG)
             continue;
         Zone zone;
-        zone.id = Text::lowByte(child.getIntAttribute("id", 0));
-        m_zones.try_emplace(zone.id, zone).first->second.transpose =
-            Text::lowByte(child.getIntAttribute("transpose", 0));
+        readAttributes(child, zone);
+        m_zones.try_emplace(zone.id, zone).first->second.transpose = zone.transpose;
     }
     selectLowest();
 }
@@ -53,12 +50,9 @@ void ZoneMap::selectLowest() {
 }
 
 void ZoneMap::writeXml(std::ostream& stream, int indent, bool merge) const {
-    stream << getIndentation(indent) << getStartTagBegin(TAG) << getAttributeText("merge", merge) << getStartTagEnd()
-           << '\n';
+    const ElementWriter zones(stream, indent, TAG, ZonesElement{.merge = merge});
     for (const auto& [id, zone] : std::map<ZoneId, Zone>(m_zones.begin(), m_zones.end()))
-        stream << getIndentation(indent + 1) << getStartTagBegin(Zone::TAG) << getAttributeText("id", zone.id)
-               << getAttributeText("transpose", zone.transpose) << getEmptyTagEnd() << '\n';
-    stream << getIndentation(indent) << getEndTag(TAG) << '\n';
+        zones.writeEmpty(Zone::TAG, zone);
 }
 
 }

@@ -14,6 +14,13 @@ class XmlElement;
 
 namespace Backend::Zones {
 
+// The attributes of the element. The flag is written and never read.
+struct ZonesElement {
+    static auto attributes() { return std::tuple(Attribute{"merge", &ZonesElement::merge, false, {0, 0}}); }
+
+    bool merge = false;
+};
+
 // The zones of a program by their numbers.
 class ZoneMap : public Component::ElementCollection<ZoneId, Zone> {
 public:

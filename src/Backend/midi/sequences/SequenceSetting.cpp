@@ -1,8 +1,7 @@
 #include "Backend/midi/sequences/SequenceSetting.h"
 
+#include "Backend/core/xml/ElementWriter.h"
 #include "Backend/core/xml/Text.h"
-#include "Backend/core/xml/XmlElement.h"
-#include "Backend/core/xml/XmlWriting.h"
 #include "Backend/midi/sequences/SequencePresetManager.h"
 
 namespace Backend::SequenceManagement {
@@ -22,11 +21,9 @@ SequenceSetting::SequenceSetting(const std::string& presetName, const SequencePr
     m_sequence = presets.load(name);
 }
 
-SequenceSetting::SequenceSetting(const XmlElement& element, const SequencePresetManager& presets)
-    : m_preset(Text::trim(element.getAttribute("preset"))),
-      m_useNote(element.getBoolAttribute("useNote", true)),
-      m_useVelocity(element.getBoolAttribute("useVelocity", true)),
-      m_useLength(element.getBoolAttribute("useLength", true)) {
+SequenceSetting::SequenceSetting(const XmlElement& element, const SequencePresetManager& presets) {
+    readAttributes(element, *this);
+    m_preset = std::string(Text::trim(m_preset));
     if (!m_preset.empty()) {
         m_sequence = presets.load(m_preset);
         return;
@@ -40,13 +37,9 @@ SequenceSetting::SequenceSetting(const XmlElement& element, const SequencePreset
 }
 
 void SequenceSetting::writeXml(std::ostream& stream, int indent) const {
-    stream << getIndentation(indent) << getStartTagBegin(TAG) << getAttributeText("preset", m_preset)
-           << getAttributeText("useNote", m_useNote) << getAttributeText("useVelocity", m_useVelocity)
-           << getAttributeText("useLength", m_useLength) << getStartTagEnd() << '\n';
+    const ElementWriter setting(stream, indent, TAG, *this);
     if (m_preset.empty() && m_sequence.hasNodes())
-        stream << getIndentation(indent + 1) << getStartTag(Sequence::TAG) << escape(m_sequence.toString())
-               << getEndTag(Sequence::TAG) << '\n';
-    stream << getIndentation(indent) << getEndTag(TAG) << '\n';
+        setting.writeText(Sequence::TAG, m_sequence.toString());
 }
 
 }

@@ -1,13 +1,10 @@
 #pragma once
 
+#include "Backend/core/xml/Attribute.h"
 #include "Backend/midi/sequences/Sequence.h"
 
 #include <ostream>
 #include <string>
-
-namespace Backend {
-class XmlElement;
-}
 
 namespace Backend::SequenceManagement {
 
@@ -17,6 +14,15 @@ class SequencePresetManager;
 class SequenceSetting {
 public:
     static constexpr const char* TAG = "SequenceSetting";
+
+    static auto attributes() {
+        return std::tuple{
+            Attribute{"preset", &SequenceSetting::m_preset},
+            Attribute{"useNote", &SequenceSetting::m_useNote, true},
+            Attribute{"useVelocity", &SequenceSetting::m_useVelocity, true},
+            Attribute{"useLength", &SequenceSetting::m_useLength, true},
+        };
+    }
 
     SequenceSetting() = default;
 

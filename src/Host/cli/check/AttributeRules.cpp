@@ -25,6 +25,7 @@ namespace {
 constexpr int GRID_SIZE = 16;
 constexpr int LOWEST_OCTAVE = -1;
 constexpr int HIGHEST_OCTAVE = 9;
+constexpr std::int32_t NO_NOTE = -1;
 constexpr std::string_view DIGITS = "0123456789";
 
 std::string isRead(const std::string& value) {
@@ -35,8 +36,10 @@ std::string isTaken(const std::string& what, const std::string& missing) {
     return "is no " + what + ", so \"" + missing + "\" is taken";
 }
 
-std::string isOutside(std::int64_t lowest, std::int64_t highest) {
-    return "is outside " + std::to_string(lowest) + " to " + std::to_string(highest);
+std::string isOutside(const NumberRange& range) {
+    if (range.highest == INT32_MAX)
+        return "is below " + std::to_string(range.lowest);
+    return "is outside " + std::to_string(range.lowest) + " to " + std::to_string(range.highest);
 }
 
 std::string withoutBlanks(std::string text) {
@@ -116,15 +119,13 @@ std::string judgeKey(const std::string& text, const std::string&, const Attribut
     return "is no key's name, so that no key reaches it";
 }
 
-std::string judgeNoteOrNone(const std::string& text, const std::string&, const AttributeRule&) {
+std::string judgeNote(const std::string& text, const std::string& missing, const AttributeRule& rule) {
     const Note note{std::string_view(text)};
-    if (text.empty() || (isNoteText(text) && note.isNote()))
+    if (text.empty())
+        return rule.range.contains(NO_NOTE) ? std::string() : isTaken("note", missing);
+    if (isNoteText(text) && note.isNote())
         return {};
     return "is no note from C-1 to G9; it " + isRead(note.toXmlString());
-}
-
-std::string judgeNote(const std::string& text, const std::string& missing, const AttributeRule& rule) {
-    return text.empty() ? isTaken("note", missing) : judgeNoteOrNone(text, missing, rule);
 }
 
 std::string judgeAmount(const std::string& text, const std::string&, const AttributeRule&) {
@@ -151,7 +152,7 @@ std::string judgeSelectType(const std::string& text, const std::string& missing,
     const SelectType type{std::string_view(text)};
     if (type.getMode() != SelectType::specific)
         return {};
-    return judgeNumber(text, missing, number(0));
+    return judgeNumber(text, missing, {judgeNumber, {0, INT32_MAX}});
 }
 
 std::string judgeSelectControlType(const std::string& text, const std::string& missing, const AttributeRule& rule) {
@@ -195,9 +196,8 @@ std::string judgeNumber(const std::string& text, const std::string& missing, con
     const auto value = Text::readInteger(text);
     if (!value)
         return isTaken("number of 32 bits", missing);
-    if (*value < rule.lowest || *value > rule.highest)
-        return rule.highest == INT32_MAX ? "is below " + std::to_string(rule.lowest)
-                                         : isOutside(rule.lowest, rule.highest);
+    if (!rule.range.contains(*value))
+        return isOutside(rule.range);
     return isWholeNumber(text) ? std::string() : isRead(std::to_string(*value));
 }
 

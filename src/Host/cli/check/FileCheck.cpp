@@ -119,10 +119,11 @@ void FileCheck::checkElement(const XmlNode& element, const ElementFormat& format
 }
 
 void FileCheck::checkAttributes(const XmlNode& element, const ElementFormat& format) {
+    const auto& attributes = format.attributes();
     for (const auto& [name, value] : element.attributes) {
-        const auto known = std::find_if(format.attributes.begin(), format.attributes.end(),
+        const auto known = std::find_if(attributes.begin(), attributes.end(),
                                         [&name = name](const AttributeFormat& row) { return name == row.name; });
-        if (known == format.attributes.end()) {
+        if (known == attributes.end()) {
             complain(element, "unknown attribute " + quote(name) + " of " + element.name + " is ignored");
             continue;
         }
@@ -136,7 +137,7 @@ void FileCheck::checkAttributes(const XmlNode& element, const ElementFormat& for
 }
 
 void FileCheck::checkMissing(const XmlNode& element, const ElementFormat& format) {
-    for (const AttributeFormat& row : format.attributes)
+    for (const AttributeFormat& row : format.attributes())
         if (isExpected(row.written, element) && !findAttribute(element, row.name))
             complain(element, element.name + " lacks " + row.name + ", so " + quote(row.missing) + " is taken");
     for (const ChildFormat& row : format.children) {
@@ -173,7 +174,7 @@ void FileCheck::checkChildren(const XmlNode& element, const ElementFormat& forma
                                     " already; the " + (counts == Counts::FIRST ? "first" : "last") + " one counts");
         }
         if (childFormat->identity) {
-            const std::string* id = findAttribute(child, childFormat->idAttribute);
+            const std::string* id = findAttribute(child, childFormat->attributes().front().name);
             const auto [first, isNew] = ids.try_emplace(childFormat->identity(id ? *id : std::string()), child.line);
             if (!isNew)
                 complain(child, child.name + " " + quote(id ? *id : std::string()) + " replaces that of line " +
