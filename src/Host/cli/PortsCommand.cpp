@@ -1,22 +1,37 @@
 #include "Host/cli/PortsCommand.h"
 
 #include "Backend/core/installation/MirelUtils.h"
-#include "Host/cli/ExitStatus.h"
+#include "Host/cli/Command.h"
 #include "Host/common/ports/MidiSystem.h"
 #include "Host/common/ports/PortFiles.h"
 #include "Host/common/ports/Recorder.h"
 
 #include <cstdio>
+#include <optional>
 
 namespace Host::Cli {
 
 namespace {
 
-constexpr const char* USAGE =
-    "usage: mirel ports [--data DIR]\n"
-    "\n"
-    "lists the MIDI inputs and outputs with the numbers that they have for the desk, also those that it remembers and\n"
-    "that are absent now: the user's own desk, or that of the folder.\n";
+constexpr CommandUsage USAGE{R"(usage: mirel ports [--data DIR]
+
+lists the MIDI inputs and outputs with the numbers that they have for the desk, also those that it remembers and
+that are absent now: the user's own desk, or that of the folder.
+)"};
+
+struct PortsOptions {
+    std::string dataFolder;  // Empty: the user's own.
+};
+
+// Nothing, with one line in error, for words that make no sense.
+std::optional<PortsOptions> parseOptions(const Arguments& arguments, std::string& error) {
+    if (arguments.empty())
+        return PortsOptions{};
+    if (arguments.size() == 2 && arguments.front() == "--data" && !arguments.back().empty())
+        return PortsOptions{.dataFolder = arguments.back()};
+    error = "ports takes nothing but --data DIR";
+    return std::nullopt;
+}
 
 void printList(const char* title, const PortList& list) {
     std::printf("%s:\n", title);
@@ -33,7 +48,9 @@ void printList(const char* title, const PortList& list) {
 }
 
 // The rows that the desk of this folder would have now.
-void list(const std::string& dataFolder) {
+ExitStatus list(const PortsOptions& options) {
+    const std::string dataFolder =
+        options.dataFolder.empty() ? Backend::MirelUtils::getMirelAppDataDir() : options.dataFolder;
     const auto system = createMidiSystem("Mirel");
     MidiPortIds ids = system->list();
     const bool hasPorts = !ids.inputs.empty() || !ids.outputs.empty();
@@ -48,21 +65,13 @@ void list(const std::string& dataFolder) {
     printList("outputs", outputs);
     if (!hasPorts)
         std::printf("This computer has no MIDI port now; the %s keeps what is played in memory.\n", Recorder::NAME);
+    return DONE;
 }
 
 }
 
 int runPorts(const std::vector<std::string>& arguments) {
-    if (arguments.size() == 1 && arguments.front() == "--help") {
-        std::fputs(USAGE, stdout);
-        return DONE;
-    }
-    if (!arguments.empty() && (arguments.size() != 2 || arguments.front() != "--data" || arguments.back().empty())) {
-        std::fprintf(stderr, "mirel: ports takes nothing but --data DIR\n%s", USAGE);
-        return FAILED;
-    }
-    list(arguments.empty() ? Backend::MirelUtils::getMirelAppDataDir() : arguments.back());
-    return DONE;
+    return runWithOptions(USAGE, arguments, parseOptions, list);
 }
 
 }

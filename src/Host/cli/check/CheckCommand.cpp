@@ -1,6 +1,6 @@
 #include "Host/cli/check/CheckCommand.h"
 
-#include "Host/cli/ExitStatus.h"
+#include "Host/cli/Command.h"
 #include "Host/cli/InputFile.h"
 #include "Host/cli/check/FileCheck.h"
 
@@ -12,16 +12,15 @@ namespace Host::Cli {
 
 namespace {
 
-constexpr const char* USAGE =
-    "usage: mirel check [--data DIR] FILE...\n"
-    "\n"
-    "says of programs, banks, presets and sequences what the desk would ignore in them or replace by a default, one\n"
-    "line each: FILE:LINE: what. Nothing is said of a file that is all right. Presets that a file refers to are "
-    "looked\n"
-    "for in DIR, or else beside the file, in the folder above it and in the user's own data; in each of them also in\n"
-    "its folder Default.\n"
-    "\n"
-    "exit status: 0 all is right, 1 something was said, 2 a file can't be read or is none of these\n";
+constexpr CommandUsage USAGE{R"(usage: mirel check [--data DIR] FILE...
+
+says of programs, banks, presets and sequences what the desk would ignore in them or replace by a default, one
+line each: FILE:LINE: what. Nothing is said of a file that is all right. Presets that a file refers to are looked
+for in DIR, or else beside the file, in the folder above it and in the user's own data; in each of them also in
+its folder Default.
+
+exit status: 0 all is right, 1 something was said, 2 a file can't be read or is none of these
+)"};
 
 struct CheckOptions {
     std::string dataFolder;
@@ -29,7 +28,7 @@ struct CheckOptions {
 };
 
 // Nothing, with one line in error, for words that make no sense.
-std::optional<CheckOptions> parseOptions(const std::vector<std::string>& arguments, std::string& error) {
+std::optional<CheckOptions> parseOptions(const Arguments& arguments, std::string& error) {
     CheckOptions options;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string& argument = arguments[i];
@@ -70,23 +69,17 @@ ExitStatus checkFile(const std::string& file, const std::string& dataFolder) {
     return check.getComplaints().empty() ? DONE : COMPLAINED;
 }
 
+ExitStatus check(const CheckOptions& options) {
+    ExitStatus status = DONE;
+    for (const std::string& file : options.files)
+        status = std::max(status, checkFile(file, options.dataFolder));
+    return status;
+}
+
 }
 
 int runCheck(const std::vector<std::string>& arguments) {
-    if (arguments.size() == 1 && arguments.front() == "--help") {
-        std::fputs(USAGE, stdout);
-        return DONE;
-    }
-    std::string error;
-    const auto options = parseOptions(arguments, error);
-    if (!options) {
-        std::fprintf(stderr, "mirel: %s\n%s", error.c_str(), USAGE);
-        return FAILED;
-    }
-    ExitStatus status = DONE;
-    for (const std::string& file : options->files)
-        status = std::max(status, checkFile(file, options->dataFolder));
-    return status;
+    return runWithOptions(USAGE, arguments, parseOptions, check);
 }
 
 }

@@ -1,6 +1,6 @@
 #include "Host/cli/import/ImportCommand.h"
 
-#include "Host/cli/ExitStatus.h"
+#include "Host/cli/Command.h"
 #include "Host/cli/InputFile.h"
 #include "Host/cli/import/Version2Conversion.h"
 #include "Platform/Files.h"
@@ -12,13 +12,12 @@ namespace Host::Cli {
 
 namespace {
 
-constexpr const char* USAGE =
-    "usage: mirel import bank|program|preset FROM TO [--data DIR]\n"
-    "\n"
-    "converts a version 2 file into the file TO. The name of a version 2 preset begins with the word key, control or\n"
-    "layer, which tells its kind. The keys of a version 2 file stand on top of the preset \"000 - Default\" of DIR, or "
-    "of\n"
-    "the keys that are built in where DIR is not given or has no such preset. Nothing but TO is written.\n";
+constexpr CommandUsage USAGE{R"(usage: mirel import bank|program|preset FROM TO [--data DIR]
+
+converts a version 2 file into the file TO. The name of a version 2 preset begins with the word key, control or
+layer, which tells its kind. The keys of a version 2 file stand on top of the preset "000 - Default" of DIR, or of
+the keys that are built in where DIR is not given or has no such preset. Nothing but TO is written.
+)"};
 
 struct ImportOptions {
     Version2Kind kind = Version2Kind::BANK;
@@ -28,7 +27,7 @@ struct ImportOptions {
 };
 
 // Nothing, with one line in error, for words that make no sense.
-std::optional<ImportOptions> parseOptions(const std::vector<std::string>& arguments, std::string& error) {
+std::optional<ImportOptions> parseOptions(const Arguments& arguments, std::string& error) {
     ImportOptions options;
     std::vector<std::string> words;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
@@ -55,39 +54,25 @@ std::optional<ImportOptions> parseOptions(const std::vector<std::string>& argume
     return options;
 }
 
-// Empty when it is done; else one line that begins with the file that is to blame.
-std::string import(const ImportOptions& options) {
+ExitStatus import(const ImportOptions& options) {
     std::string content;
     std::string error;
     if (!readInputFile(options.from, content, error))
-        return options.from + ": " + error;
+        throw CommandError(options.from + ": " + error);
     std::string result;
     error = convertVersion2(options.kind, options.from, content, options.dataFolder, result);
     if (!error.empty())
-        return options.from + ": " + error;
-    return Platform::Files::replace(options.to, result) ? std::string() : options.to + ": can't be written";
+        throw CommandError(options.from + ": " + error);
+    if (!Platform::Files::replace(options.to, result))
+        throw CommandError(options.to + ": can't be written");
+    std::printf("wrote %s\n", options.to.c_str());
+    return DONE;
 }
 
 }
 
 int runImport(const std::vector<std::string>& arguments) {
-    if (arguments.size() == 1 && arguments.front() == "--help") {
-        std::fputs(USAGE, stdout);
-        return DONE;
-    }
-    std::string error;
-    const auto options = parseOptions(arguments, error);
-    if (!options) {
-        std::fprintf(stderr, "mirel: %s\n%s", error.c_str(), USAGE);
-        return FAILED;
-    }
-    error = import(*options);
-    if (!error.empty()) {
-        std::fprintf(stderr, "%s\n", error.c_str());
-        return FAILED;
-    }
-    std::printf("wrote %s\n", options->to.c_str());
-    return DONE;
+    return runWithOptions(USAGE, arguments, parseOptions, import);
 }
 
 }

@@ -2,7 +2,7 @@
 
 #include "Backend/core/xml/XmlDocument.h"
 #include "Backend/midi/sequences/SequencePresetManager.h"
-#include "Host/cli/ExitStatus.h"
+#include "Host/cli/Command.h"
 #include "Host/cli/InputFile.h"
 #include "Host/cli/render/RenderOptions.h"
 #include "Host/cli/render/Renderer.h"
@@ -11,7 +11,6 @@
 #include "Platform/Files.h"
 
 #include <cstdio>
-#include <stdexcept>
 
 namespace Host::Cli {
 
@@ -19,14 +18,14 @@ using namespace Backend;
 
 namespace {
 
-constexpr const char* USAGE =
-    "usage: mirel render IN.mid OUT.mid [--layers FILE] [--zones FILE] [--zone N|channel]\n"
-    "                    [--through CHANNELS] [--tempo BPM] [--slice MS] [--data DIR]\n";
+constexpr CommandUsage USAGE{R"(usage: mirel render IN.mid OUT.mid [--layers FILE] [--zones FILE] [--zone N|channel]
+                    [--through CHANNELS] [--tempo BPM] [--slice MS] [--data DIR]
+)"};
 
 // One line that says which file is to blame, and for what.
-class RenderError : public std::runtime_error {
+class RenderError : public CommandError {
 public:
-    RenderError(const std::string& file, const std::string& text) : std::runtime_error(file + ": " + text) {}
+    RenderError(const std::string& file, const std::string& text) : CommandError(file + ": " + text) {}
 };
 
 std::string plural(std::size_t count, const char* one, const char* many) {
@@ -109,7 +108,7 @@ void printCounts(const RenderOptions& options, const MidiFile& file, const Rende
     std::printf("  wrote %s\n", options.output.c_str());
 }
 
-void render(const RenderOptions& options) {
+ExitStatus render(const RenderOptions& options) {
     const MidiFile file = readInput(options.input);
     const Layers::LayerList layers = readLayers(options);
     const Zones::ZoneMap zones = readZones(options);
@@ -122,29 +121,13 @@ void render(const RenderOptions& options) {
     if (content.empty() || !Platform::Files::replace(options.output, content))
         throw RenderError(options.output, "can't be written");
     printCounts(options, file, renderer.getCounts());
+    return DONE;
 }
 
 }
 
 int runRender(const std::vector<std::string>& arguments) {
-    if (arguments.size() == 1 && arguments.front() == "--help") {
-        std::fputs(USAGE, stdout);
-        return DONE;
-    }
-    std::string error;
-    const auto options = parseRenderOptions(arguments, error);
-    if (!options) {
-        std::fprintf(stderr, "mirel: %s\n%s", error.c_str(), USAGE);
-        return FAILED;
-    }
-    try {
-        render(*options);
-    } catch (const RenderError& failure) {
-        std::fflush(stdout);
-        std::fprintf(stderr, "%s\n", failure.what());
-        return FAILED;
-    }
-    return DONE;
+    return runWithOptions(USAGE, arguments, parseRenderOptions, render);
 }
 
 }

@@ -8,7 +8,7 @@
 #include "Backend/core/installation/Product.h"
 #include "Backend/core/settings/RegistrySettings.h"
 #include "Backend/functions/values/SelectType.h"
-#include "Host/cli/ExitStatus.h"
+#include "Host/cli/Command.h"
 #include "Host/cli/InputFile.h"
 #include "Host/cli/run/RunOptions.h"
 #include "Host/cli/run/SongInput.h"
@@ -24,7 +24,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <stdexcept>
 
 namespace Host::Cli {
 
@@ -35,27 +34,28 @@ namespace {
 
 constexpr const char* PORT_NAME = "Mirel";
 
-constexpr const char* USAGE =
-    "usage: mirel run [--in NAME]... [--out NAME]... [--bank FILE] [--program NAME] [--clock internal|NAME] [--keys]\n"
-    "                 [--play FILE.mid] [--record FILE.mid] [--virtual] [--seconds N] [--data DIR]\n"
-    "\n"
-    "plays in real time until it is ended (Ctrl+C).\n"
-    "  --in, --out   listen to these inputs and send to these outputs only, in this run, by name or by number as\n"
-    "                \"mirel ports\" lists them; the first output is the default one\n"
-    "  --bank        the bank to load; without it that of the settings, or the built-in set-up\n"
-    "  --program     a program of the bank by name or by number, or a program file (.prg)\n"
-    "  --clock       the desk's own clock, or the timing ticks of an input\n"
-    "  --keys        the keys of this terminal play the keys of the desk\n"
-    "  --play        a MIDI file comes in as if somebody played it; the desk ends after it\n"
-    "  --record      writes what was played to a MIDI file at the end\n"
-    "  --virtual     opens an input and an output that other programs can connect to\n"
-    "  --seconds     ends after this time\n"
-    "  --data        keeps the settings and all folders of the desk in this folder\n";
+constexpr CommandUsage USAGE{
+    R"(usage: mirel run [--in NAME]... [--out NAME]... [--bank FILE] [--program NAME] [--clock internal|NAME] [--keys]
+                 [--play FILE.mid] [--record FILE.mid] [--virtual] [--seconds N] [--data DIR]
 
-// What ends the command with one line on standard error.
-class RunError : public std::runtime_error {
+plays in real time until it is ended (Ctrl+C).
+  --in, --out   listen to these inputs and send to these outputs only, in this run, by name or by number as
+                "mirel ports" lists them; the first output is the default one
+  --bank        the bank to load; without it that of the settings, or the built-in set-up
+  --program     a program of the bank by name or by number, or a program file (.prg)
+  --clock       the desk's own clock, or the timing ticks of an input
+  --keys        the keys of this terminal play the keys of the desk
+  --play        a MIDI file comes in as if somebody played it; the desk ends after it
+  --record      writes what was played to a MIDI file at the end
+  --virtual     opens an input and an output that other programs can connect to
+  --seconds     ends after this time
+  --data        keeps the settings and all folders of the desk in this folder
+)",
+    "; mirel run --help tells more\n"};
+
+class RunError : public CommandError {
 public:
-    using std::runtime_error::runtime_error;
+    explicit RunError(const std::string& text) : CommandError("mirel run: " + text) {}
 };
 
 std::string describePort(const PortRow& row) {
@@ -310,31 +310,20 @@ void playToTheEnd(RunningDesk& desk) {
     desk.stop();
 }
 
+ExitStatus run(const RunOptions& options) {
+    Platform::watchForStopRequests();
+    if (!options.dataFolder.empty())
+        MirelUtils::useDataFolder(options.dataFolder);
+    RunningDesk desk(options);
+    desk.start();
+    playToTheEnd(desk);
+    return DONE;
+}
+
 }
 
 int runRun(const std::vector<std::string>& arguments) {
-    if (arguments.size() == 1 && arguments.front() == "--help") {
-        std::fputs(USAGE, stdout);
-        return DONE;
-    }
-    std::string error;
-    const auto options = RunOptions::parse(arguments, error);
-    if (!options) {
-        std::fprintf(stderr, "mirel: %s; mirel run --help tells more\n", error.c_str());
-        return FAILED;
-    }
-    try {
-        Platform::watchForStopRequests();
-        if (!options->dataFolder.empty())
-            MirelUtils::useDataFolder(options->dataFolder);
-        RunningDesk desk(*options);
-        desk.start();
-        playToTheEnd(desk);
-    } catch (const RunError& failure) {
-        std::fprintf(stderr, "mirel run: %s\n", failure.what());
-        return FAILED;
-    }
-    return DONE;
+    return runWithOptions(USAGE, arguments, RunOptions::parse, run);
 }
 
 }

@@ -1,7 +1,7 @@
 #include "Host/cli/script/ScriptCommand.h"
 
 #include "Backend/core/installation/MirelUtils.h"
-#include "Host/cli/ExitStatus.h"
+#include "Host/cli/Command.h"
 #include "Host/cli/InputFile.h"
 #include "Host/cli/script/ScriptCommands.h"
 #include "Host/cli/script/ScriptError.h"
@@ -14,7 +14,7 @@ namespace Host::Cli {
 
 namespace {
 
-constexpr const char* USAGE = "usage: mirel script [--show] [--updates] [--window] [--data DIR] [FILE]\n";
+constexpr CommandUsage USAGE{"usage: mirel script [--show] [--updates] [--window] [--data DIR] [FILE]\n"};
 constexpr const char* STANDARD_INPUT = "-";
 
 struct ScriptOptions {
@@ -23,7 +23,8 @@ struct ScriptOptions {
     std::string file = STANDARD_INPUT;
 };
 
-std::optional<ScriptOptions> parseOptions(const std::vector<std::string>& arguments) {
+// Nothing, and no error either, for words that make no sense: the usage says it all.
+std::optional<ScriptOptions> parseOptions(const Arguments& arguments, std::string& /*error*/) {
     ScriptOptions options;
     bool hasFile = false;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
@@ -58,32 +59,23 @@ void print(const std::string& text) {
     std::fwrite(text.data(), 1, text.size(), stdout);
 }
 
-}
-
-int runScript(const std::vector<std::string>& arguments) {
-    if (arguments.size() == 1 && arguments.front() == "--help") {
-        std::fputs(USAGE, stdout);
-        return DONE;
-    }
-    const auto options = parseOptions(arguments);
-    if (!options) {
-        std::fputs(USAGE, stderr);
-        return FAILED;
-    }
+std::string readScript(const std::string& file) {
+    if (file == STANDARD_INPUT)
+        return readStandardInput();
     std::string text;
     std::string error;
-    if (options->file == STANDARD_INPUT) {
-        text = readStandardInput();
-    } else if (!readInputFile(options->file, text, error)) {
-        std::fprintf(stderr, "%s: %s\n", options->file.c_str(), error.c_str());
-        return FAILED;
-    }
+    if (!readInputFile(file, text, error))
+        throw CommandError(file + ": " + error);
+    return text;
+}
 
+ExitStatus play(const ScriptOptions& options) {
+    const std::string text = readScript(options.file);
     std::optional<Platform::TemporaryFolder> ownFolder;
-    if (options->dataFolder.empty())
+    if (options.dataFolder.empty())
         ownFolder.emplace();
-    Backend::MirelUtils::useDataFolder(ownFolder ? ownFolder->getPath() : options->dataFolder);
-    ScriptDesk desk(options->tell);
+    Backend::MirelUtils::useDataFolder(ownFolder ? ownFolder->getPath() : options.dataFolder);
+    ScriptDesk desk(options.tell);
     ScriptReader reader(text);
     try {
         while (const auto line = reader.nextCommand()) {
@@ -91,12 +83,16 @@ int runScript(const std::vector<std::string>& arguments) {
             print(desk.takeOutput());
         }
     } catch (const ScriptError& failure) {
-        std::fflush(stdout);
-        std::fprintf(stderr, "%s:%d: %s\n", options->file.c_str(), failure.getLine(), failure.what());
-        return FAILED;
+        throw CommandError(options.file + ":" + std::to_string(failure.getLine()) + ": " + failure.what());
     }
     std::fflush(stdout);
     return DONE;
+}
+
+}
+
+int runScript(const std::vector<std::string>& arguments) {
+    return runWithOptions(USAGE, arguments, parseOptions, play);
 }
 
 }
