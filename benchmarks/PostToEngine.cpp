@@ -12,7 +12,7 @@ class PostToEngine : public Case {
 public:
     // A timed event takes the way over the heap.
     explicit PostToEngine(std::int32_t ppq)
-        : m_engine("<Layers/>"), m_event(MidiMessage::NoteOn, 60, 100, -1, -1, -1, -1, ppq) {}
+        : m_engine("<Layers/>"), m_event(MidiMessage::NoteOn, 60, 100, {}, {.ppq = ppq}) {}
 
     void run(std::int64_t operations) override {
         auto& manager = m_engine.engine().getMessageManager();

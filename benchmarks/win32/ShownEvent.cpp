@@ -19,7 +19,8 @@ int main() {
         const std::int64_t start = Platform::monotonicMicroseconds();
         for (int i = 0; i < EVENTS; ++i)
             window.gui().displayMidiOutputEvent(
-                MirelMidiMessage(i % 2 == 0 ? MidiMessage::NoteOn : MidiMessage::NoteOff, 60, 100, 0, 0, 0, -1, -1));
+                MirelMidiMessage(i % 2 == 0 ? MidiMessage::NoteOn : MidiMessage::NoteOff, 60, 100,
+                                 {.output = 0, .channel = 0, .zone = 0}));
         told.push_back(static_cast<double>(Platform::monotonicMicroseconds() - start) / EVENTS);
         desk.mirel().getDisplayMessageManager().postFlush();
         window.pumpUntilIdle();

@@ -31,8 +31,7 @@ void pour(BenchDesk& desk, std::int64_t start) {
     for (std::int64_t poured = 0; poured < LENGTH / SECOND * EVENTS_IN_SECOND;) {
         for (const std::int64_t due = (now() - start) * EVENTS_IN_SECOND / SECOND; poured < due; ++poured)
             manager.postPlayMidi(MirelMidiMessage(poured % 2 == 0 ? MidiMessage::NoteOn : MidiMessage::NoteOff,
-                                                  static_cast<char>(LOWEST + poured / 2 % NOTES), 100, -1, -1, -1, -1,
-                                                  -1));
+                                                  static_cast<char>(LOWEST + poured / 2 % NOTES), 100));
         Platform::sleepMilliseconds(1);
     }
 }

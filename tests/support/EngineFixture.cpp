@@ -46,9 +46,7 @@ void EngineFixture::post(const MirelMidiMessage& message) {
 }
 
 void EngineFixture::post(MidiMessage::MessageType status, int d1, int d2) {
-    post(MirelMidiMessage(status, static_cast<char>(d1), static_cast<char>(d2), MirelMidiMessage::DEFAULT_CHANNEL,
-                          MirelMidiMessage::DEFAULT_OUTPUT, MirelMidiMessage::DEFAULT_ZONE,
-                          MirelMidiMessage::DEFAULT_INPUT, -1));
+    post(MirelMidiMessage(status, static_cast<char>(d1), static_cast<char>(d2)));
 }
 
 }

@@ -144,7 +144,7 @@ TEST_F(WinMidiTest, PlayerPlaysToThePorts) {
     std::atomic<int> slices{0};
     player.start([&](std::int32_t, std::int32_t) {
         if (slices++ == 0)
-            player.playMidi({MidiMessage::NoteOn, 60, 100, 0, static_cast<char>(output), -1, -1, -1});
+            player.playMidi({MidiMessage::NoteOn, 60, 100, {.output = static_cast<char>(output), .channel = 0}});
     });
     EXPECT_TRUE(waitForEvents(1)[0].isNoteOn());
     EXPECT_TRUE(eventually([&slices] { return slices >= 100; }));

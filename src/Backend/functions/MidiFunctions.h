@@ -36,12 +36,10 @@ public:
 
 protected:
     static constexpr char NOT_SET = -1;
-    static constexpr std::int32_t AT_ONCE = -1;
 
     // Sends an event to this function's zone and output.
     void play(MidiMessage::MessageType status, char d1, char d2, char channel) {
-        this->mirel().playMidi(MidiEngine::MirelMidiMessage(status, d1, d2, channel, m_output, m_zone,
-                                                            MidiEngine::MirelMidiMessage::DEFAULT_INPUT, AT_ONCE));
+        this->mirel().playMidi({status, d1, d2, {.output = m_output, .channel = channel, .zone = m_zone}});
     }
 
     char m_zone = NOT_SET;

@@ -2,6 +2,7 @@
 
 #include "Backend/midi/Cell.h"
 #include "Backend/midi/MidiMessage.h"
+#include "Backend/midi/Routing.h"
 
 namespace Backend::MidiEngine {
 
@@ -24,6 +25,10 @@ public:
     MirelMidiMessage(MidiMessage::MessageType status, char d1, char d2, char channel, char output, char zone,
                      char input, std::int32_t ppq);
 
+    // The same by names: MirelMidiMessage(MidiMessage::NoteOn, 60, 100, {.output = 1, .zone = 2}, {.ppq = 960}).
+    MirelMidiMessage(MidiMessage::MessageType status, char d1, char d2, const Routing& routing = {},
+                     const Arrival& arrival = {});
+
     // From the two words of getWparam and getLparam.
     MirelMidiMessage(std::uint64_t wparam, std::int64_t lparam);
 
@@ -33,6 +38,7 @@ public:
     // An event made by a control or a key. A channel of 0 or more replaces the event's own, unchecked; a negative one
     // means the default channel.
     MirelMidiMessage(const MidiMessage& message, char output, char channel, char zone, const Cell& fromControl);
+    MirelMidiMessage(const MidiMessage& message, const Routing& routing, const Cell& fromControl);
 
     static MirelMidiMessage createAllSoundOffCC(char output, char channel);
     static MirelMidiMessage createAllControllersOffCC(char output, char channel);
@@ -57,21 +63,21 @@ public:
 
     // 0 or more is stored unchecked and is a channel of the event's own; a negative one means the default channel.
     void setChannel(char channel) {
-        m_routing.defaultChannel = channel < 0;
-        m_midiMessage.setChannel(m_routing.defaultChannel ? 0 : channel);
+        m_way.defaultChannel = channel < 0;
+        m_midiMessage.setChannel(m_way.defaultChannel ? 0 : channel);
     }
 
-    char getOutput() const { return m_routing.output; }
-    void setOutput(char output) { m_routing.output = output; }
-    char getZone() const { return m_routing.zone; }
-    void setZone(char zone) { m_routing.zone = zone; }
-    char getInput() const { return m_routing.input; }
+    char getOutput() const { return m_way.output; }
+    void setOutput(char output) { m_way.output = output; }
+    char getZone() const { return m_way.zone; }
+    void setZone(char zone) { m_way.zone = zone; }
+    char getInput() const { return m_way.input; }
     const Cell& getFromControl() const { return m_fromControl; }
     void setFromControl(const Cell& cell) { m_fromControl = cell; }
     std::int32_t getPpq() const { return m_timing.ppq; }
     void setPpq(std::int32_t ppq) { m_timing.ppq = ppq; }
-    void setDefaultChannel(bool defaultChannel) { m_routing.defaultChannel = defaultChannel; }
-    bool isDefaultChannel() const { return m_routing.defaultChannel; }
+    void setDefaultChannel(bool defaultChannel) { m_way.defaultChannel = defaultChannel; }
+    bool isDefaultChannel() const { return m_way.defaultChannel; }
     bool hasParameters() const { return m_midiMessage.hasParameters(); }
     void setToNoteOff() { m_midiMessage.setToNoteOff(); }
     void setToNoteOn() { m_midiMessage.setToNoteOn(); }
@@ -86,7 +92,7 @@ public:
     bool isSongSelect() const { return m_midiMessage.isSongSelect(); }
     bool isUnofficialBusSelect() const { return m_midiMessage.isUnofficialBusSelect(); }
     bool isTimingTick() const { return m_midiMessage.isTimingTick(); }
-    bool isDefaultOutput() const { return m_routing.output == DEFAULT_OUTPUT; }
+    bool isDefaultOutput() const { return m_way.output == DEFAULT_OUTPUT; }
     bool isMirelReset() const { return m_timing.type == MidiEngineMessageType::Reset; }
     bool isMirelHardReset() const { return m_timing.type == MidiEngineMessageType::HardReset; }
     bool isTimedEvent() const { return m_timing.ppq >= 0; }
@@ -103,7 +109,7 @@ private:
     explicit MirelMidiMessage(MidiEngineMessageType type) : m_timing{type, -1} {}
 
     // In pieces that a copy moves in one go each.
-    struct Routing {
+    struct Way {
         char zone = DEFAULT_ZONE;
         char output = DEFAULT_OUTPUT;
         char input = DEFAULT_INPUT;
@@ -114,7 +120,7 @@ private:
         std::int32_t ppq = -1;
     };
 
-    Routing m_routing;
+    Way m_way;
     MidiMessage m_midiMessage;
     Cell m_fromControl;
     Timing m_timing;

@@ -132,7 +132,7 @@ protected:
             {"controls follow",
              [this] {
                  m_controls.postUpdateControl(
-                     MirelMidiMessage(MidiMessage(MidiMessage::ControllerChange, 10, 55, 0), -1, -1, -1, Cell()));
+                     MirelMidiMessage(MidiMessage(MidiMessage::ControllerChange, 10, 55, 0), {}, Cell()));
              }},
             {"controls select",
              [this] {
@@ -214,7 +214,7 @@ protected:
     std::string play(const std::string& component) {
         if (component != "controls") {
             const char zone = component == "zones" ? char{1} : char{-1};
-            m_desk.mirel().playMidi(MirelMidiMessage(MidiMessage::NoteOn, 60, 100, -1, -1, zone, -1, -1));
+            m_desk.mirel().playMidi(MirelMidiMessage(MidiMessage::NoteOn, 60, 100, {.zone = zone}));
         }
         m_desk.settle();
         m_desk.playSlice(10, 10);

@@ -48,7 +48,7 @@ TEST(DeskLifeTest, FiveThreadsDoTheWork) {
     desk.mirel().getDisplayMessageManager().postSetListener(nullptr);
     desk.settle();
     std::thread player([&desk] {
-        desk.mirel().playMidi(MirelMidiMessage(MidiMessage::NoteOn, 60, 100, -1, -1, -1, -1, 5));
+        desk.mirel().playMidi(MirelMidiMessage(MidiMessage::NoteOn, 60, 100, {}, {.ppq = 5}));
         desk.mirel().getMidiEngineMessageManager().waitUntilIdle();
         desk.mirel().playTimeSlice(0, 10);
     });
@@ -82,7 +82,7 @@ TEST(DeskLifeTest, TheStartReadsTheSettingsAndHandsThemOn) {
     const MirelMidiMessage fromInput(MidiMessage::NoteOn, 60, 100, -1, -1, -1, 1, -1);
     desk.mirel().getMessageManager().postProcessMidiInputEvent(fromInput);
     desk.mirel().playMidi(fromInput);
-    desk.mirel().playMidi(MirelMidiMessage(MidiMessage::NoteOn, 64, 100, -1, -1, -1, -1, -1));
+    desk.mirel().playMidi(MirelMidiMessage(MidiMessage::NoteOn, 64, 100));
     desk.settle();
     desk.playSlice(0, 10);
     desk.playSlice(10, 20);
@@ -169,7 +169,7 @@ TEST(DeskLifeTest, WhatIsPostedWhileTheDeskEndsIsDisposedOf) {
         MirelMessageManager& manager = mirel.getMessageManager();
         for (int i = 0; i < 100; ++i) {
             manager.postChangeProgramName("late");
-            manager.postPlayMidi(MirelMidiMessage(MidiMessage::NoteOn, 60, 100, -1, -1, -1, -1, 5));
+            manager.postPlayMidi(MirelMidiMessage(MidiMessage::NoteOn, 60, 100, {}, {.ppq = 5}));
             mirel.displayString("late");
         }
     });

@@ -184,11 +184,13 @@ private:
 };
 
 MirelMidiMessage noteAt(std::int32_t ppq) {
-    return MirelMidiMessage(MidiMessage::NoteOn, 60, 100, 3, 2, 5, 1, ppq);
+    return MirelMidiMessage(MidiMessage::NoteOn, 60, 100, {.output = 2, .channel = 3, .zone = 5},
+                            {.input = 1, .ppq = ppq});
 }
 
 MirelMidiMessage eventOfControl() {
-    return MirelMidiMessage(MidiMessage(MidiMessage::ControllerChange, 7, 99, 0), 2, 3, 5, Cell(4, 15));
+    return MirelMidiMessage(MidiMessage(MidiMessage::ControllerChange, 7, 99, 0),
+                            {.output = 2, .channel = 3, .zone = 5}, Cell(4, 15));
 }
 
 ScreenState someScreens() {

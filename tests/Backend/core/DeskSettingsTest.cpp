@@ -186,7 +186,7 @@ TEST(DeskSettingsTest, TheTempoSourceIsAnInputOrNone) {
 
 // Which note comes through.
 bool passesThru(RunningDesk& desk) {
-    desk.mirel().playMidi(MirelMidiMessage(MidiMessage::NoteOn, 60, 100, 0, 0, -1, 0, -1));
+    desk.mirel().playMidi(MirelMidiMessage(MidiMessage::NoteOn, 60, 100, {.output = 0, .channel = 0}, {.input = 0}));
     desk.settle();
     desk.playSlice(0, 0);
     desk.playSlice(0, 1);
@@ -261,7 +261,7 @@ TEST(DeskSettingsTest, TheLiteSettingsReachTheFirstLayerIfThereIsOne) {
     EXPECT_EQ(layer.velocity, RelativeFixedValue(false, 33));
     EXPECT_EQ(layer.channel, 4);
     EXPECT_FALSE(layer.useNoteStack);
-    desk.mirel().playMidi(MirelMidiMessage(MidiMessage::NoteOn, 60, 100, -1, -1, -1, -1, -1));
+    desk.mirel().playMidi(MirelMidiMessage(MidiMessage::NoteOn, 60, 100));
     desk.settle();
     desk.playSlice(0, 0);
     desk.playSlice(0, 1);
@@ -320,7 +320,7 @@ TEST(DeskSettingsTest, TheLogShowsWhatIsPlayedAsItIsTold) {
     desk.start();
     const auto play = [&desk] {
         desk.mirel().getDisplayMessageManager().postAddOutputEvent(
-            MirelMidiMessage(MidiMessage::TimingTick, 0, 0, 0, 1, -1, -1, -1));
+            MirelMidiMessage(MidiMessage::TimingTick, 0, 0, {.output = 1, .channel = 0}));
         desk.settle();
     };
     play();
@@ -354,7 +354,7 @@ TEST(DeskSettingsTest, OnlyWhatComesFromAnEnabledInputIsLogged) {
     });
     for (const int input : {0, 1, 2, -1, 127, -128})
         desk.mirel().getMessageManager().postProcessMidiInputEvent(
-            MirelMidiMessage(MidiMessage::TimingTick, 0, 0, 0, -1, -1, static_cast<char>(input), -1));
+            MirelMidiMessage(MidiMessage::TimingTick, 0, 0, {.channel = 0}, {.input = static_cast<char>(input)}));
     desk.settle();
     EXPECT_EQ(desk.log(), "Mirel Console 3.2\r\n> In 0\t\tTiming Tick\r\n");
     EXPECT_EQ(desk.takePlayed(), Strings());

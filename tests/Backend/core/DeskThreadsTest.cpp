@@ -51,11 +51,11 @@ void postSettings(Mirel& mirel, int round) {
 void postEvents(Mirel& mirel, int round) {
     MirelMessageManager& manager = mirel.getMessageManager();
     const auto d1 = static_cast<char>(round);
-    manager.postPlayMidi(MirelMidiMessage(MidiMessage::NoteOn, d1, 100, -1, -1, -1, -1, -1));
-    manager.postPlayMidi(MirelMidiMessage(MidiMessage::ControllerChange, 7, d1, -1, -1, -1, 0, round));
-    manager.postProcessMidiInputEvent(MirelMidiMessage(MidiMessage::NoteOn, d1, 100, 3, -1, -1, 0, -1));
+    manager.postPlayMidi(MirelMidiMessage(MidiMessage::NoteOn, d1, 100));
+    manager.postPlayMidi(MirelMidiMessage(MidiMessage::ControllerChange, 7, d1, {}, {.input = 0, .ppq = round}));
+    manager.postProcessMidiInputEvent(MirelMidiMessage(MidiMessage::NoteOn, d1, 100, {.channel = 3}, {.input = 0}));
     mirel.getMidiEngineMessageManager().postPlayMidi(
-        MirelMidiMessage(MidiMessage::PitchBend, d1, d1, -1, -1, -1, 0, -1));
+        MirelMidiMessage(MidiMessage::PitchBend, d1, d1, {}, {.input = 0}));
     manager.postKeyDown(Key("Q"), false);
     manager.postKeyUp(Key("Q"));
     mirel.displayString("a line\r\n");
@@ -136,7 +136,7 @@ TEST(DeskThreadsTest, AFloodOfControllersHoldsNobodyUp) {
     auto& engine = desk.mirel().getMidiEngineMessageManager();
     for (int i = 0; i < COUNT; ++i)
         engine.postPlayMidi(
-            MirelMidiMessage(MidiMessage::ControllerChange, 7, static_cast<char>(i % 128), CHANNEL, -1, -1, -1, -1));
+            MirelMidiMessage(MidiMessage::ControllerChange, 7, static_cast<char>(i % 128), {.channel = CHANNEL}));
     engine.waitUntilIdle();
     desk.mirel().playTimeSlice(1, 2);
     desk.mirel().playTimeSlice(2, 3);

@@ -36,6 +36,33 @@ TEST(MirelMidiMessageTest, FullConstructorTakesEverything) {
     EXPECT_EQ(message.getFromControl(), Cell(-1, -1));
 }
 
+TEST(MirelMidiMessageTest, NamesSayTheSameAsTheirPlaces) {
+    const MirelMidiMessage message(MidiMessage::NoteOn, 60, 100, {.output = 4, .channel = 3, .zone = 5},
+                                   {.input = 6, .ppq = 700});
+    EXPECT_EQ(message.getMidiMessage(), MidiMessage(MidiMessage::NoteOn, 60, 100, 3));
+    EXPECT_EQ(message.getOutput(), 4);
+    EXPECT_EQ(message.getZone(), 5);
+    EXPECT_EQ(message.getInput(), 6);
+    EXPECT_EQ(message.getPpq(), 700);
+    EXPECT_FALSE(message.isDefaultChannel());
+
+    const MirelMidiMessage ofControl(MidiMessage(MidiMessage::ControllerChange, 7, 99, 0),
+                                     {.output = 1, .channel = 99, .zone = 2}, Cell(4, 5));
+    EXPECT_EQ(ofControl.getOutput(), 1);
+    EXPECT_EQ(ofControl.getChannel(), 99) << "unchecked";
+    EXPECT_EQ(ofControl.getZone(), 2);
+    EXPECT_EQ(ofControl.getFromControl(), Cell(4, 5));
+}
+
+TEST(MirelMidiMessageTest, WithoutNamesEverythingIsTheDefault) {
+    const MirelMidiMessage message(MidiMessage::NoteOn, 60, 100);
+    EXPECT_TRUE(message.isDefaultOutput());
+    EXPECT_TRUE(message.isDefaultChannel());
+    EXPECT_EQ(message.getZone(), MirelMidiMessage::DEFAULT_ZONE);
+    EXPECT_EQ(message.getInput(), MirelMidiMessage::DEFAULT_INPUT);
+    EXPECT_FALSE(message.isTimedEvent());
+}
+
 TEST(MirelMidiMessageTest, NegativeChannelIsTheDefaultChannelStoredAsZero) {
     const MirelMidiMessage message(MidiMessage::NoteOn, 60, 100, -1, -1, -1, -1, -1);
     EXPECT_TRUE(message.isDefaultChannel());

@@ -26,7 +26,8 @@ void sendEvent(const ControlEvent& event, MidiEngine::MidiEngineMessageManager& 
         case MidiMessage::ControllerChange: message.setD2(Text::lowByte(value)); break;
         default: message.setD1(Text::lowByte(value)); break;
     }
-    engine.postPlayMidi(MirelMidiMessage(message, event.output, event.channel, event.zone, cell));
+    engine.postPlayMidi(
+        MirelMidiMessage(message, {.output = event.output, .channel = event.channel, .zone = event.zone}, cell));
 }
 
 }

@@ -12,9 +12,7 @@ constexpr char INTERNAL_CLOCK = -1;
 
 void MidiEngine::reset() {
     m_noteCounts.takeAll([this](char output, char channel, char note) {
-        playMidiInternal(MirelMidiMessage(MidiMessage::NoteOff, note, RELEASE_VELOCITY, channel, output,
-                                          MirelMidiMessage::DEFAULT_ZONE, MirelMidiMessage::DEFAULT_INPUT, -1),
-                         false);
+        playMidiInternal({MidiMessage::NoteOff, note, RELEASE_VELOCITY, {.output = output, .channel = channel}}, false);
     });
     m_noteVelocities.clear();
     for (PlayingLayer& layer : m_layers)

@@ -58,9 +58,8 @@ void Renderer::addEvent(const MidiFileEvent& event, std::int32_t ppq) {
     const bool entersLayers = m_options.through.test(event.channel);
     const char channel = entersLayers ? MirelMidiMessage::DEFAULT_CHANNEL : static_cast<char>(event.channel);
     const int zone = !entersLayers ? -1 : m_options.zoneIsChannel ? event.channel : m_options.zone;
-    const MirelMidiMessage message(status, static_cast<char>(event.d1), static_cast<char>(event.d2), channel,
-                                   MirelMidiMessage::DEFAULT_OUTPUT, static_cast<char>(zone),
-                                   MirelMidiMessage::DEFAULT_INPUT, -1);
+    const MirelMidiMessage message(status, static_cast<char>(event.d1), static_cast<char>(event.d2),
+                                   {.channel = channel, .zone = static_cast<char>(zone)});
     if (entersLayers && !isTaken(message))
         ++m_counts.notTaken;
     m_events.push_back({ppq, message});

@@ -143,9 +143,11 @@ void runEvent(const ScriptContext& context) {
     while (context.arguments.hasMore())
         readEventOption(context.arguments.takeWord("an option"), context, options);
 
-    MirelMidiMessage event(static_cast<MidiMessage::MessageType>(status), d1, d2, static_cast<char>(options.channel),
-                           static_cast<char>(options.output), static_cast<char>(options.zone),
-                           static_cast<char>(options.input), options.ppq);
+    MirelMidiMessage event(static_cast<MidiMessage::MessageType>(status), d1, d2,
+                           {.output = static_cast<char>(options.output),
+                            .channel = static_cast<char>(options.channel),
+                            .zone = static_cast<char>(options.zone)},
+                           {.input = static_cast<char>(options.input), .ppq = options.ppq});
     event.setFromControl(options.fromControl);
     context.desk.postEvent(event);
 }

@@ -10,9 +10,7 @@ using Backend::MidiEngine::MidiMessage;
 using Backend::MidiEngine::MirelMidiMessage;
 
 MirelMidiMessage makeInputEvent(MidiMessage::MessageType status, char d1, char d2, char channel, char input) {
-    constexpr std::int32_t AT_ONCE = -1;
-    MirelMidiMessage event(status, d1, d2, channel, MirelMidiMessage::DEFAULT_OUTPUT, MirelMidiMessage::DEFAULT_ZONE,
-                           input, AT_ONCE);
+    MirelMidiMessage event(status, d1, d2, {.channel = channel}, {.input = input});
     if (event.isNoteOn() && d2 == 0)
         event.setToNoteOff();
     return event;

@@ -13,7 +13,6 @@ constexpr std::uint8_t NOTE_OFF = 0x80;
 constexpr std::uint8_t NOTE_ON = 0x90;
 constexpr std::uint8_t FIRST_SYSTEM = 0xf0;
 constexpr std::uint8_t RELEASE_VELOCITY = 64;
-constexpr std::int32_t AT_ONCE = -1;
 
 }
 
@@ -112,8 +111,8 @@ void InputTranslator::enter(std::uint8_t status, std::uint8_t d1, std::uint8_t d
         return;
     const auto channel = static_cast<char>(entry == Entry::OWN_CHANNEL ? static_cast<char>(status & 0x0f)
                                                                        : MirelMidiMessage::DEFAULT_CHANNEL);
-    m_sink(MirelMidiMessage(MidiMessage::fixStatus(status), static_cast<char>(d1), static_cast<char>(d2), channel,
-                            MirelMidiMessage::DEFAULT_OUTPUT, MirelMidiMessage::DEFAULT_ZONE, m_input, AT_ONCE));
+    m_sink(MirelMidiMessage(MidiMessage::fixStatus(status), static_cast<char>(d1), static_cast<char>(d2),
+                            {.channel = channel}, {.input = m_input}));
 }
 
 }

@@ -143,7 +143,7 @@ TEST(EventLineTest, EachStatusHasItsForm) {
     for (const Line& line : lines)
         EXPECT_EQ(describeEvent(MirelMidiMessage(static_cast<MidiMessage::MessageType>(line.status),
                                                  static_cast<char>(line.d1), static_cast<char>(line.d2),
-                                                 static_cast<char>(line.channel), -1, -1, -1, -1)),
+                                                 {.channel = static_cast<char>(line.channel)})),
                   line.text)
             << line.status;
 }
@@ -159,7 +159,7 @@ TEST(EventLineTest, WhatIsNoEventIsADash) {
 TEST(EventLineTest, BytesOutOfRangeDoNoHarm) {
     const auto describe = [](MidiMessage::MessageType status, int d1, int d2) {
         MidiMessage message(status, static_cast<char>(d1), static_cast<char>(d2), 0);
-        return describeEvent(MirelMidiMessage(message, -1, 0, -1, Cell()));
+        return describeEvent(MirelMidiMessage(message, {.channel = 0}, Cell()));
     };
     EXPECT_EQ(describe(MidiMessage::ControllerChange, 200, 0), "\t1\tController Change\t-56 (Undefined)\t0\r\n");
     EXPECT_EQ(describe(MidiMessage::ProgramChange, 128, 0), "\t1\tProgram Change\t-128 (Undefined)\r\n");
@@ -177,8 +177,8 @@ protected:
     }
 
     static MirelMidiMessage tick(int output, int input) {
-        return MirelMidiMessage(MidiMessage::TimingTick, 0, 0, 0, static_cast<char>(output), -1,
-                                static_cast<char>(input), -1);
+        return MirelMidiMessage(MidiMessage::TimingTick, 0, 0, {.output = static_cast<char>(output), .channel = 0},
+                                {.input = static_cast<char>(input)});
     }
 
     std::string log() {

@@ -23,7 +23,7 @@ protected:
     }
 
     static MirelMidiMessage event(const Cell& control, std::int32_t ppq) {
-        MirelMidiMessage message(MidiMessage::NoteOn, 60, 100, 3, 0, 2, -1, ppq);
+        MirelMidiMessage message(MidiMessage::NoteOn, 60, 100, {.output = 0, .channel = 3, .zone = 2}, {.ppq = ppq});
         message.setFromControl(control);
         return message;
     }

@@ -47,7 +47,7 @@ TEST_F(MidiEngineTest, ThruIsWhatItWasStartedWith) {
         engine->end();
         engine->initialize(0, thru);
         host.played.clear();
-        post(MirelMidiMessage(MidiMessage::NoteOn, 60, 100, 3, 0, -1, 0, -1));
+        post(MirelMidiMessage(MidiMessage::NoteOn, 60, 100, {.output = 0, .channel = 3}, {.input = 0}));
         engine->playTimeSlice(0, 1);
         engine->playTimeSlice(1, 2);
         EXPECT_EQ(host.played.size(), thru ? 1u : 0u);
@@ -204,7 +204,8 @@ TEST_F(MidiEngineTest, EventsOfManyThreadsAllArriveInTheOrderOfEach) {
             posters.emplace_back([this, thread] {
                 for (int i = 0; i < EVENTS; ++i) {
                     MirelMidiMessage event(MidiMessage::ControllerChange, static_cast<char>(i >> 7),
-                                           static_cast<char>(i & 127), static_cast<char>(thread), 0, -1, -1, -1);
+                                           static_cast<char>(i & 127),
+                                           {.output = 0, .channel = static_cast<char>(thread)});
                     if (i % 3 == 0)
                         event.setFromControl(Cell(1, 1));
                     manager().postPlayMidi(event);
@@ -235,10 +236,10 @@ TEST_F(MidiEngineTest, OnlyALayerWithoutAChannelPlaysOnTheDefaultChannel) {
     Window window;
     host.setWindow(window.handle());
     setLayers("<Layers><Layer channel='-1'/><Layer channel='0'/></Layers>");
-    post(MidiMessage::NoteOn, 60, 100);                                                 // Through the layers.
-    post(MirelMidiMessage(MidiMessage::NoteOn, 61, 100, -1, 1, -1, -1, -1));            // Past them by its output.
-    post(MirelMidiMessage(MidiMessage::NoteOn, 62, 100, 0, -1, -1, -1, -1));            // By its channel.
-    post(MirelMidiMessage(MidiMessage::ControllerChange, 7, 100, -1, -1, -1, -1, -1));  // Once for both layers.
+    post(MidiMessage::NoteOn, 60, 100);                                    // Through the layers.
+    post(MirelMidiMessage(MidiMessage::NoteOn, 61, 100, {.output = 1}));   // Past them by its output.
+    post(MirelMidiMessage(MidiMessage::NoteOn, 62, 100, {.channel = 0}));  // By its channel.
+    post(MirelMidiMessage(MidiMessage::ControllerChange, 7, 100));         // Once for both layers.
     engine->playTimeSlice(0, 1);
     engine->playTimeSlice(1, 2);
     const bool expected[] = {true, false, false, false, true};
@@ -282,7 +283,7 @@ TEST_F(MidiEngineTest, KeysThatNeverGoUpDoNotFillTheMemory) {
         "<Layers><Layer/><Layer><Arpeggio><ChordArpeggio/></Arpeggio></Layer>"
         "<Layer><Arpeggio><UpDownArpeggio/></Arpeggio></Layer></Layers>");
     for (int i = 0; i < 20000; ++i)
-        manager().postPlayMidi(MirelMidiMessage(MidiMessage::NoteOn, 60, 100, -1, -1, -1, -1, -1));
+        manager().postPlayMidi(MirelMidiMessage(MidiMessage::NoteOn, 60, 100));
     manager().waitUntilIdle();
     engine->playTimeSlice(0, 1);
     engine->playTimeSlice(1, 2);
@@ -293,7 +294,7 @@ TEST_F(MidiEngineTest, KeysThatNeverGoUpDoNotFillTheMemory) {
 TEST_F(MidiEngineTest, EventsThatNoSliceTakesAreDroppedAtTheLimitAndResetsAreNot) {
     {
         CriticalSectionLock lock(engine->getCriticalSection());
-        const MirelMidiMessage event(MidiMessage::NoteOn, 60, 100, 0, 0, -1, -1, -1);
+        const MirelMidiMessage event(MidiMessage::NoteOn, 60, 100, {.output = 0, .channel = 0});
         for (std::size_t i = 0; i < MidiEngine::MAX_PENDING_MESSAGES + 10; ++i)
             engine->postPlayMidi(event);
         engine->postPlayMidi(MirelMidiMessage::createMirelHardReset());
@@ -320,8 +321,8 @@ TEST_F(MidiEngineTest, ASliceInSteadyStateTakesNothingFromTheHeap) {
         for (int round = 0; round < 50; ++round) {
             const auto status = round % 2 == 0 ? MidiMessage::NoteOn : MidiMessage::NoteOff;
             for (int note = 60; note < 68; ++note)
-                engine->postPlayMidi(MirelMidiMessage(status, static_cast<char>(note), 100, -1, -1,
-                                                      static_cast<char>(round / 2 % 3), -1, -1));
+                engine->postPlayMidi(
+                    MirelMidiMessage(status, static_cast<char>(note), 100, {.zone = static_cast<char>(round / 2 % 3)}));
             engine->playTimeSlice(ppq, ppq + 15);
             ppq += 15;
         }

@@ -9,11 +9,8 @@ MirelMidiMessage note(int d1, int velocity, int channel = 0, int zone = -1, int 
     return {MidiMessage::NoteOn,
             static_cast<char>(d1),
             static_cast<char>(velocity),
-            static_cast<char>(channel),
-            MirelMidiMessage::DEFAULT_OUTPUT,
-            static_cast<char>(zone),
-            static_cast<char>(input),
-            -1};
+            {.channel = static_cast<char>(channel), .zone = static_cast<char>(zone)},
+            {.input = static_cast<char>(input)}};
 }
 
 TEST(NoteVelocitiesTest, TheLastVelocityOfEachNoteIsKept) {

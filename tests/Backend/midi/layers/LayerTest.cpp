@@ -221,8 +221,9 @@ TEST(ArpeggioTest, WithoutAnEngineNothingIsHeld) {
     for (int type = 0; type < 4; ++type) {
         const auto arpeggio = ArpeggioManagement::createArpeggio(12, 6, type);
         SequenceManagement::SequenceSetting sequence;
-        arpeggio->noteEvent(MidiEngine::MirelMidiMessage(MidiEngine::MidiMessage::NoteOn, 60, 100, 0, 0, -1, -1, -1),
-                            sequence);
+        arpeggio->noteEvent(
+            MidiEngine::MirelMidiMessage(MidiEngine::MidiMessage::NoteOn, 60, 100, {.output = 0, .channel = 0}),
+            sequence);
         EXPECT_TRUE(arpeggio->isIdle());
         arpeggio->timeEvent(0, sequence);
         arpeggio->reset(sequence);

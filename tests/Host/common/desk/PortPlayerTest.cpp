@@ -28,11 +28,7 @@ MirelMidiMessage event(MidiMessage::MessageType status, int d1, int d2, int chan
     return {status,
             static_cast<char>(d1),
             static_cast<char>(d2),
-            static_cast<char>(channel),
-            static_cast<char>(output),
-            MirelMidiMessage::DEFAULT_ZONE,
-            MirelMidiMessage::DEFAULT_INPUT,
-            -1};
+            {.output = static_cast<char>(output), .channel = static_cast<char>(channel)}};
 }
 
 class PortPlayerTest : public testing::Test {

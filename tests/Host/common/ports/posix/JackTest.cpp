@@ -387,7 +387,7 @@ TEST_F(JackTest, ServerThatHangsHoldsUpNeitherTheSlicesNorTheEnd) {
         PortPlayer player(ports);
         player.start([&](std::int32_t, std::int32_t) {
             for (int i = 0; i < 100; ++i)
-                player.playMidi({MidiMessage::NoteOn, 60, 100, 0, static_cast<char>(output), -1, -1, -1});
+                player.playMidi({MidiMessage::NoteOn, 60, 100, {.output = static_cast<char>(output), .channel = 0}});
             ++slices;
         });
         EXPECT_TRUE(eventually([&slices] { return slices > 200; }));
