@@ -125,7 +125,7 @@ bool measure(const std::string& folder, bool isExternal) {
     const auto output =
         std::find_if(outputs.begin(), outputs.end(), [](const Host::PortRow& row) { return row.id.name == OUTPUT; });
     auto& manager = desk.mirel().getMessageManager();
-    manager.postChangeDefaultMidiOutput(SelectType(SelectType::specific, static_cast<int>(output - outputs.begin())));
+    manager.postChangeDefaultMidiOutput(SelectType(SelectType::SPECIFIC, static_cast<int>(output - outputs.begin())));
     const XmlDocument document(LAYERS, false);
     Layers::LayerList layers;
     layers.readXml(document.getRootElement(), SequenceManagement::SequencePresetManager(""));

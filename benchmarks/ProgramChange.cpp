@@ -33,7 +33,7 @@ bool measure(const std::string& folder, BenchDesk::Slices slices, const char* na
         const int program = (i + 1) % PROGRAMS;
         const std::int64_t slicesBefore = desk.awaitedSlices();
         const std::int64_t start = Platform::monotonicMicroseconds();
-        desk.mirel().getMessageManager().postChangeProgram(SelectType(SelectType::specific, program));
+        desk.mirel().getMessageManager().postChangeProgram(SelectType(SelectType::SPECIFIC, program));
         desk.waitUntilIdle();
         milliseconds.push_back(static_cast<double>(Platform::monotonicMicroseconds() - start) / 1000);
         awaited.push_back(static_cast<double>(desk.awaitedSlices() - slicesBefore));

@@ -221,7 +221,7 @@ void MirelGui::takeLastMessages(HWND window) {
 }
 
 void MirelGui::buttonChanged(int id, bool state) {
-    const OnOffToggle toggle(state ? OnOffToggle::on : OnOffToggle::off);
+    const OnOffToggle toggle(state ? OnOffToggle::ON : OnOffToggle::OFF);
     switch (id) {
         case IDC_MAIN_RESET: getMirelMessageManager().postResetMirel(); break;
         case IDC_MAIN_THRU: getMirelMessageManager().postChangeMidiThru(toggle, true); break;

@@ -130,7 +130,7 @@ TEST_F(MirelGuiMessagesTest, FlagsGoIntoTheWindowsSettingsAndToTheHost) {
 TEST_F(MirelGuiMessagesTest, ThruIsShownByItsButtons) {
     for (const HWND button : {systemControl(1021), GetDlgItem(desk.window(), 118)})
         for (const bool thru : {false, true}) {
-            desk.mirel().getMessageManager().postChangeMidiThru(OnOffToggle(OnOffToggle::toggle), false);
+            desk.mirel().getMessageManager().postChangeMidiThru(OnOffToggle(OnOffToggle::TOGGLE), false);
             desk.tell(33265, thru);
             SendMessageA(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
             desk.settle();
@@ -455,7 +455,7 @@ TEST_F(MirelGuiHookTest, AControlKeyOfTheHookChangesSettingButtonAndHost) {
 
 TEST_F(MirelGuiHookTest, WithoutALibraryTheButtonStillChangesTheSetting) {
     open(TestSupport::RecordedHook::missingFolder());
-    desk.gui().getMirelMessageManager().postChangeGlobalKeyboard(OnOffToggle(OnOffToggle::toggle), true);
+    desk.gui().getMirelMessageManager().postChangeGlobalKeyboard(OnOffToggle(OnOffToggle::TOGGLE), true);
     desk.settle();
     EXPECT_TRUE(desk.gui().getRegistrySettings().getGlobalKeyboard());
     EXPECT_TRUE(desk.mirel().getRegistrySettings().getGlobalKeyboard());
@@ -472,7 +472,7 @@ TEST_F(MirelGuiHookTest, KeysThatSwitchTheHookAreHandedToIt) {
     key.setGlobal(false);
     auto toggle = std::make_unique<ChangeGlobalKeyboard>(desk.mirel());
     auto off = std::make_unique<ChangeGlobalKeyboard>(desk.mirel());
-    off->setOnOffToggle(OnOffToggle(OnOffToggle::off));
+    off->setOnOffToggle(OnOffToggle(OnOffToggle::OFF));
     key.setDownFunction(std::move(toggle), 0);
     key.setUpFunction(std::move(off), 0);
     hook.takeCalls();

@@ -322,7 +322,7 @@ TEST_F(WindowClosingTest, ClosesDuringALoadAndDuringAChangeOfTheBank) {
         switch (round % 3) {
             case 0: manager.postLoadProgram(program); break;
             case 1: manager.postLoadBank(bank); break;
-            default: manager.postChangeProgram(SelectType(SelectType::specific, round % 2)); break;
+            default: manager.postChangeProgram(SelectType(SelectType::SPECIFIC, round % 2)); break;
         }
         for (int i = 0; i < round / 3; ++i)  // Goes at another moment of the load each time.
             handOutOne();

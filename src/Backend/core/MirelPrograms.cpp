@@ -141,9 +141,9 @@ void Mirel::setDefaultBank(const std::string& path) {
 
 void Mirel::changeProgram(const SelectType& type) {
     std::int64_t index = type.getValue();
-    if (type.getMode() == SelectType::up)
+    if (type.getMode() == SelectType::UP)
         index = std::int64_t{m_currentProgram.getIndex()} + 1;
-    else if (type.getMode() == SelectType::down)
+    else if (type.getMode() == SelectType::DOWN)
         index = std::int64_t{m_currentProgram.getIndex()} - 1;
     if (index >= 0 && index < static_cast<std::int64_t>(m_currentBank.getProgramNames().size()))
         changeProgramFromBank(static_cast<int>(index));

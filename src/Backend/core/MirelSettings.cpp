@@ -191,8 +191,8 @@ void Mirel::changeDefaultMidiOutput(const SelectType& type) {
     };
     const auto count = static_cast<std::int64_t>(m_midiOutputPorts.size());
     std::int64_t index = type.getValue();
-    if (type.getMode() == SelectType::up || type.getMode() == SelectType::down) {
-        const int step = type.getMode() == SelectType::up ? 1 : -1;
+    if (type.getMode() == SelectType::UP || type.getMode() == SelectType::DOWN) {
+        const int step = type.getMode() == SelectType::UP ? 1 : -1;
         index = std::clamp<std::int64_t>(m_registrySettings.getDefaultMidiOutput(), -1, count) + step;
         while (index >= 0 && index < count && !isUsable(index))
             index += step;

@@ -30,7 +30,7 @@ protected:
 
 class SelectControl final : public ControlFunction<SelectControl> {
 public:
-    explicit SelectControl(MirelIF& mirel) : ControlFunction(mirel, SelectControlType::right) {}
+    explicit SelectControl(MirelIF& mirel) : ControlFunction(mirel, SelectControlType::RIGHT) {}
 
     void execute() override { mirel().selectControl(m_type); }
 
@@ -41,7 +41,7 @@ public:
 // Puts the keyboard's focus on a control.
 class SetWidgetFocus final : public ControlFunction<SetWidgetFocus> {
 public:
-    explicit SetWidgetFocus(MirelIF& mirel) : ControlFunction(mirel, SelectControlType::right) {}
+    explicit SetWidgetFocus(MirelIF& mirel) : ControlFunction(mirel, SelectControlType::RIGHT) {}
 
     void execute() override;
 
@@ -50,7 +50,7 @@ public:
 
 class ChangeControl final : public ControlFunction<ChangeControl> {
 public:
-    explicit ChangeControl(MirelIF& mirel) : ControlFunction(mirel, SelectControlType::selected) {}
+    explicit ChangeControl(MirelIF& mirel) : ControlFunction(mirel, SelectControlType::SELECTED) {}
 
     static auto attributes() {
         return std::tuple_cat(ControlFunction::attributes(), std::tuple(Attribute{"value", &ChangeControl::m_value}));
@@ -68,7 +68,7 @@ private:
 
 class SendControlData final : public ControlFunction<SendControlData> {
 public:
-    explicit SendControlData(MirelIF& mirel) : ControlFunction(mirel, SelectControlType::selected) {}
+    explicit SendControlData(MirelIF& mirel) : ControlFunction(mirel, SelectControlType::SELECTED) {}
 
     void execute() override { mirel().sendControlData(m_type); }
 

@@ -27,9 +27,9 @@ public:
 
     void execute() override {
         switch (this->m_type.getState()) {
-            case OnOffToggle::on: (this->mirel().*SHOW)(true); break;
-            case OnOffToggle::off: (this->mirel().*SHOW)(false); break;
-            case OnOffToggle::toggle: (this->mirel().*TOGGLE)(); break;
+            case OnOffToggle::ON: (this->mirel().*SHOW)(true); break;
+            case OnOffToggle::OFF: (this->mirel().*SHOW)(false); break;
+            case OnOffToggle::TOGGLE: (this->mirel().*TOGGLE)(); break;
         }
     }
 };

@@ -25,7 +25,7 @@ public:
     bool allowsAll() const override { return false; }
 
 protected:
-    SelectType m_type{SelectType::up};
+    SelectType m_type{SelectType::UP};
 };
 
 template <class Self, void (MirelIF::*OPERATION)(const SelectType&)>
@@ -64,7 +64,7 @@ public:
     bool allowsAll() const override { return true; }
 
 protected:
-    SelectType m_type{SelectType::selected};
+    SelectType m_type{SelectType::SELECTED};
     Value m_value;
 };
 

@@ -50,7 +50,7 @@ FunctionPointer makeSelect(const Record& record) {
 template <class Class, int AMOUNT>
 FunctionPointer makeTranspose(const Record& record) {
     auto function = std::make_unique<Class>(record.mirel);
-    function->setSelectType(SelectType(SelectType::selected));
+    function->setSelectType(SelectType(SelectType::SELECTED));
     function->setValue(RelativeFixedValue(true, AMOUNT));
     return function;
 }
@@ -66,8 +66,8 @@ FunctionPointer makeChangeControl(const Record& record) {
     auto function = std::make_unique<ChangeControl>(record.mirel);
     const bool hasCell = record.channel == 0;
     function->setSelectControlType(
-        hasCell ? SelectControlType(SelectControlType::specific, Cell(record.d1 & 15, record.d1 >> 4))
-                : SelectControlType(SelectControlType::selected, Cell(0, 0)));
+        hasCell ? SelectControlType(SelectControlType::SPECIFIC, Cell(record.d1 & 15, record.d1 >> 4))
+                : SelectControlType(SelectControlType::SELECTED, Cell(0, 0)));
     function->setValue(RelativeFixedValue(record.output == 0, record.d2));
     return function;
 }
@@ -95,20 +95,20 @@ FunctionPointer makeLoadPreset(const Record& record) {
 
 FunctionPointer makeSetFocus(const Record& record) {
     auto function = std::make_unique<SetWidgetFocus>(record.mirel);
-    function->setSelectControlType(SelectControlType(SelectControlType::specific, Cell(record.d1, record.d2)));
+    function->setSelectControlType(SelectControlType(SelectControlType::SPECIFIC, Cell(record.d1, record.d2)));
     return function;
 }
 
 FunctionPointer makeSendAll(const Record& record) {
     auto function = std::make_unique<SendControlData>(record.mirel);
-    function->setSelectControlType(SelectControlType(SelectControlType::all));
+    function->setSelectControlType(SelectControlType(SelectControlType::ALL));
     return function;
 }
 
 FunctionPointer makeProgram(const Record& record) {
     auto function = std::make_unique<ChangeProgram>(record.mirel);
     const std::int64_t program = static_cast<std::int64_t>(record.d1) - 1;
-    function->setSelectType(SelectType(SelectType::specific, static_cast<std::int32_t>(program)));
+    function->setSelectType(SelectType(SelectType::SPECIFIC, static_cast<std::int32_t>(program)));
     return function;
 }
 
@@ -135,13 +135,13 @@ constexpr std::array<Maker, 54> MAKERS = {
     /* 12 */ make<ShowOutput>,
     /* 13 */ make<ShowZone>,
     /* 14 */ make<ShowLayer>,
-    /* 15 */ makeSelect<ChangeDefaultMidiOutput, SelectType::up>,
-    /* 16 */ makeSelect<ChangeDefaultMidiOutput, SelectType::down>,
-    /* 17 */ makeSelect<ChangeProgram, SelectType::up>,
-    /* 18 */ makeSelect<ChangeProgram, SelectType::down>,
+    /* 15 */ makeSelect<ChangeDefaultMidiOutput, SelectType::UP>,
+    /* 16 */ makeSelect<ChangeDefaultMidiOutput, SelectType::DOWN>,
+    /* 17 */ makeSelect<ChangeProgram, SelectType::UP>,
+    /* 18 */ makeSelect<ChangeProgram, SelectType::DOWN>,
     /* 19 */ make<ShowHelp>,
-    /* 20 */ makeSelect<EditSelectLayer, SelectType::up>,
-    /* 21 */ makeSelect<EditSelectLayer, SelectType::down>,
+    /* 20 */ makeSelect<EditSelectLayer, SelectType::UP>,
+    /* 21 */ makeSelect<EditSelectLayer, SelectType::DOWN>,
     /* 22 */ makeTranspose<ChangeLayerTranspose, 1>,
     /* 23 */ makeTranspose<ChangeLayerTranspose, -1>,
     /* 24 */ makeTranspose<ChangeLayerTranspose, 12>,
@@ -150,15 +150,15 @@ constexpr std::array<Maker, 54> MAKERS = {
     /* 27 */ makeTranspose<ChangeZoneTranspose, -1>,
     /* 28 */ makeTranspose<ChangeZoneTranspose, 12>,
     /* 29 */ makeTranspose<ChangeZoneTranspose, -12>,
-    /* 30 */ makeSelect<SelectZone, SelectType::up>,
-    /* 31 */ makeSelect<SelectZone, SelectType::down>,
+    /* 30 */ makeSelect<SelectZone, SelectType::UP>,
+    /* 31 */ makeSelect<SelectZone, SelectType::DOWN>,
     /* 32 */ makeMidi<MidiSystemReset>,
     /* 33 */ makeNone,
     /* 34 */ makeChangeControl,
-    /* 35 */ makeSelectControl<SelectControlType::left>,
-    /* 36 */ makeSelectControl<SelectControlType::right>,
-    /* 37 */ makeSelectControl<SelectControlType::up>,
-    /* 38 */ makeSelectControl<SelectControlType::down>,
+    /* 35 */ makeSelectControl<SelectControlType::LEFT>,
+    /* 36 */ makeSelectControl<SelectControlType::RIGHT>,
+    /* 37 */ makeSelectControl<SelectControlType::UP>,
+    /* 38 */ makeSelectControl<SelectControlType::DOWN>,
     /* 39 */ makeNone,
     /* 40 */ make<ShowProgramMenu>,
     /* 41 */ make<ShowSaveDialog>,

@@ -6,7 +6,7 @@ MirelMidiMessage::MirelMidiMessage(MidiMessage::MessageType status, char d1, cha
                                    char zone, char input, std::int32_t ppq)
     : m_way{zone, output, input, channel < 0},
       m_midiMessage(status, d1, d2, channel),
-      m_timing{MidiEngineMessageType::Event, ppq} {}
+      m_timing{MidiEngineMessageType::EVENT, ppq} {}
 
 MirelMidiMessage::MirelMidiMessage(MidiMessage::MessageType status, char d1, char d2, const Routing& routing,
                                    const Arrival& arrival)
@@ -39,11 +39,11 @@ MirelMidiMessage MirelMidiMessage::createSystemReset(char output) {
 }
 
 MirelMidiMessage MirelMidiMessage::createMirelReset() {
-    return MirelMidiMessage(MidiEngineMessageType::Reset);
+    return MirelMidiMessage(MidiEngineMessageType::RESET);
 }
 
 MirelMidiMessage MirelMidiMessage::createMirelHardReset() {
-    return MirelMidiMessage(MidiEngineMessageType::HardReset);
+    return MirelMidiMessage(MidiEngineMessageType::HARD_RESET);
 }
 
 std::int64_t MirelMidiMessage::getLparam() const {

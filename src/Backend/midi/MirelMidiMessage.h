@@ -6,7 +6,7 @@
 
 namespace Backend::MidiEngine {
 
-enum class MidiEngineMessageType : std::uint32_t { Event = 0, Reset = 1, HardReset = 2 };
+enum class MidiEngineMessageType : std::uint32_t { EVENT = 0, RESET = 1, HARD_RESET = 2 };
 
 // A MIDI event with its routing through the desk. A value, copied freely.
 class MirelMidiMessage {
@@ -93,8 +93,8 @@ public:
     bool isUnofficialBusSelect() const { return m_midiMessage.isUnofficialBusSelect(); }
     bool isTimingTick() const { return m_midiMessage.isTimingTick(); }
     bool isDefaultOutput() const { return m_way.output == DEFAULT_OUTPUT; }
-    bool isMirelReset() const { return m_timing.type == MidiEngineMessageType::Reset; }
-    bool isMirelHardReset() const { return m_timing.type == MidiEngineMessageType::HardReset; }
+    bool isMirelReset() const { return m_timing.type == MidiEngineMessageType::RESET; }
+    bool isMirelHardReset() const { return m_timing.type == MidiEngineMessageType::HARD_RESET; }
     bool isTimedEvent() const { return m_timing.ppq >= 0; }
 
     // The two words that carry a message without its control, its time and a reset request.
@@ -116,7 +116,7 @@ private:
         bool defaultChannel = true;
     };
     struct Timing {
-        MidiEngineMessageType type = MidiEngineMessageType::Event;
+        MidiEngineMessageType type = MidiEngineMessageType::EVENT;
         std::int32_t ppq = -1;
     };
 

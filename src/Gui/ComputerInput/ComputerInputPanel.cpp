@@ -17,8 +17,8 @@ namespace {
 
 KeyboardHookProxy::Action actionOf(const OnOffToggle& state) {
     switch (state.getState()) {
-        case OnOffToggle::on: return KeyboardHookProxy::on;
-        case OnOffToggle::off: return KeyboardHookProxy::off;
+        case OnOffToggle::ON: return KeyboardHookProxy::on;
+        case OnOffToggle::OFF: return KeyboardHookProxy::off;
         default: return KeyboardHookProxy::toggle;
     }
 }

@@ -48,15 +48,15 @@ constexpr ButtonRow BUTTONS[] = {
 };
 
 SelectType next() {
-    return SelectType(SelectType::up);
+    return SelectType(SelectType::UP);
 }
 
 SelectType previous() {
-    return SelectType(SelectType::down);
+    return SelectType(SelectType::DOWN);
 }
 
 OnOffToggle onOrOff(bool state) {
-    return OnOffToggle(state ? OnOffToggle::on : OnOffToggle::off);
+    return OnOffToggle(state ? OnOffToggle::ON : OnOffToggle::OFF);
 }
 
 }
@@ -110,9 +110,9 @@ INT_PTR SystemPanel::dlgProc(HWND window, UINT message, WPARAM wParam, LPARAM lP
 bool SystemPanel::handleChoice(HWND window) {
     Backend::MirelMessageManager& desk = gui().getMirelMessageManager();
     if (window == m_outputs.getWindowHandle())
-        desk.postChangeDefaultMidiOutput(SelectType(SelectType::specific, m_outputs.getSelectedValue()));
+        desk.postChangeDefaultMidiOutput(SelectType(SelectType::SPECIFIC, m_outputs.getSelectedValue()));
     else if (window == m_programs.getWindowHandle())
-        desk.postChangeProgram(SelectType(SelectType::specific, m_programs.getSelectedValue()));
+        desk.postChangeProgram(SelectType(SelectType::SPECIFIC, m_programs.getSelectedValue()));
     else
         return false;
     return true;

@@ -22,7 +22,7 @@ constexpr std::array<TextOption, 4> TEXT_OPTIONS = {{
 
 // Takes the file over. False, with why in error, if the desk has no such files.
 bool addFile(const std::string& path, CommandLine& line, std::string& error) {
-    if (kindOfDeskFile(path) == DeskFileKind::none) {
+    if (kindOfDeskFile(path) == DeskFileKind::NONE) {
         error = "\"" + path + "\" is neither a bank (.bnk) nor a program (.prg)";
         return false;
     }
@@ -47,7 +47,7 @@ std::optional<CommandLine> CommandLine::parse(const std::vector<std::string>& ar
             continue;
         }
         if (argument == "--help" || argument == "--version") {
-            line.action = argument == "--help" ? Action::showHelp : Action::showVersion;
+            line.action = argument == "--help" ? Action::SHOW_HELP : Action::SHOW_VERSION;
             return line;
         }
         const std::size_t equals = argument.find('=');

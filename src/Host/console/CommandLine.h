@@ -19,9 +19,9 @@ struct CommandLine {
         "  --help     says this\n"
         "  FILE       a bank (.bnk) or a program (.prg) to open\n";
 
-    enum class Action { run, showHelp, showVersion };
+    enum class Action { RUN, SHOW_HELP, SHOW_VERSION };
 
-    Action action = Action::run;
+    Action action = Action::RUN;
     std::string bank;        // Empty: the one of the settings.
     std::string program;     // By name or by number from 1, or a program file; empty: the first.
     std::string dataFolder;  // Empty: the user's own.

@@ -30,7 +30,7 @@ std::string withLowerCaseExtension(const std::string& path) {
 
 DeskFileKind kindOfDeskFile(const std::string& path) {
     const std::string extension = withLowerCaseExtension(path).substr(findExtension(path));
-    return extension == ".bnk" ? DeskFileKind::bank : extension == ".prg" ? DeskFileKind::program : DeskFileKind::none;
+    return extension == ".bnk" ? DeskFileKind::BANK : extension == ".prg" ? DeskFileKind::PROGRAM : DeskFileKind::NONE;
 }
 
 }

@@ -4,7 +4,7 @@
 
 namespace Host::Console {
 
-enum class DeskFileKind { none, bank, program };
+enum class DeskFileKind { NONE, BANK, PROGRAM };
 
 // [any] What a file is by its extension, in which case doesn't count.
 DeskFileKind kindOfDeskFile(const std::string& path);

@@ -46,14 +46,14 @@ Rect FrameLayout::buttonFromRight(int index) const {
 
 FramePart FrameLayout::partAt(int x, int y) const {
     if (!contains({0, 0, m_width, m_height}, x, y))
-        return FramePart::outside;
+        return FramePart::OUTSIDE;
     if (contains(close(), x, y))
-        return FramePart::close;
+        return FramePart::CLOSE;
     if (contains(minimise(), x, y))
-        return FramePart::minimise;
+        return FramePart::MINIMISE;
     if (contains(icon(), x, y))
-        return FramePart::icon;
-    return contains(desk(), x, y) ? FramePart::desk : FramePart::caption;
+        return FramePart::ICON;
+    return contains(desk(), x, y) ? FramePart::DESK : FramePart::CAPTION;
 }
 
 }

@@ -5,7 +5,7 @@
 namespace Host::Console {
 
 // The parts of the frame that the mouse can be over.
-enum class FramePart { outside, desk, caption, icon, minimise, close };
+enum class FramePart { OUTSIDE, DESK, CAPTION, ICON, MINIMISE, CLOSE };
 
 // Where things are in a frame with the metallic border, in pixels from the top left corner of the window.
 class FrameLayout {

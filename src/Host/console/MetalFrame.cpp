@@ -104,7 +104,7 @@ double distanceToLine(double x, double y, double x1, double y1, double x2, doubl
 double signCoverage(FramePart part, double x, double y) {
     constexpr double REACH = 2.6;
     constexpr double STRENGTH = 0.8;
-    if (part == FramePart::minimise)
+    if (part == FramePart::MINIMISE)
         return coverage(distanceToLine(x, y, -REACH - 0.4, 1.5, REACH + 0.4, 1.5), STRENGTH);
     const double cross = std::min(distanceToLine(x, y, -REACH, -REACH, REACH, REACH),
                                   distanceToLine(x, y, -REACH, REACH, REACH, -REACH));
@@ -116,8 +116,8 @@ void drawButton(Picture& picture, const Rect& rect, FramePart part, const FrameL
     const double centreX = (rect.left + rect.right - 1) / 2.0;
     const double centreY = (rect.top + rect.bottom - 1) / 2.0;
     const bool isPressed = look.pressed == part && look.hovered == part;
-    const bool isLit = look.hovered == part && (look.pressed == part || look.pressed == FramePart::outside);
-    const Colour lamp = part == FramePart::close ? Colour{226, 74, 58} : Colour{98, 206, 92};
+    const bool isLit = look.hovered == part && (look.pressed == part || look.pressed == FramePart::OUTSIDE);
+    const Colour lamp = part == FramePart::CLOSE ? Colour{226, 74, 58} : Colour{98, 206, 92};
     for (int y = std::max(rect.top, 0); y < std::min(rect.bottom, picture.height); ++y) {
         for (int x = std::max(rect.left, 0); x < std::min(rect.right, picture.width); ++x) {
             const double dx = x - centreX;
@@ -153,8 +153,8 @@ Picture renderMetalFrame(const FrameLayout& layout, const FrameLook& look) {
                 picture.at(x, y) = pack(steel(lightAt(layout, x, y), look.isActive));
         }
     }
-    drawButton(picture, layout.minimise(), FramePart::minimise, look);
-    drawButton(picture, layout.close(), FramePart::close, look);
+    drawButton(picture, layout.minimise(), FramePart::MINIMISE, look);
+    drawButton(picture, layout.close(), FramePart::CLOSE, look);
     return picture;
 }
 

@@ -26,8 +26,8 @@ struct Picture {
 // What the border shows besides metal.
 struct FrameLook {
     bool isActive = true;
-    FramePart hovered = FramePart::outside;  // The button under the mouse.
-    FramePart pressed = FramePart::outside;
+    FramePart hovered = FramePart::OUTSIDE;  // The button under the mouse.
+    FramePart pressed = FramePart::OUTSIDE;
 
     bool operator==(const FrameLook&) const = default;
 };

@@ -93,7 +93,7 @@ protected:
     }
 
     void updateControls(std::int32_t value, bool guiFlag) {
-        m_controls.postUpdateControls({makeControl({0, 1}, ControlType::edit, "Controller Change,10", value)}, false,
+        m_controls.postUpdateControls({makeControl({0, 1}, ControlType::EDIT, "Controller Change,10", value)}, false,
                                       guiFlag);
     }
 
@@ -105,8 +105,8 @@ protected:
             list.add(makeLayer(-1, channel));
             return list;
         };
-        const Control nothing = makeControl({0, 0}, ControlType::none, "Pitch Bend", 0);
-        Control autoSender = makeControl({1, 1}, ControlType::knob, "Channel Pressure", 9);
+        const Control nothing = makeControl({0, 0}, ControlType::NONE, "Pitch Bend", 0);
+        Control autoSender = makeControl({1, 1}, ControlType::KNOB, "Channel Pressure", 9);
         autoSender.autoSend = true;
         return {
             {"controls update",
@@ -169,8 +169,8 @@ protected:
             {"zones transpose down", [this] { m_zones.postSetTranspose(1, -12); }},
             {"zones transpose far", [this] { m_zones.postSetTranspose(1, 300); }},
             {"zones transpose nowhere", [this] { m_zones.postSetTranspose(9, 5); }},
-            {"zones select one", [this] { m_zones.postSelectZone(SelectType(SelectType::specific, 1)); }},
-            {"zones select missing", [this] { m_zones.postSelectZone(SelectType(SelectType::specific, HUGE_ID)); }},
+            {"zones select one", [this] { m_zones.postSelectZone(SelectType(SelectType::SPECIFIC, 1)); }},
+            {"zones select missing", [this] { m_zones.postSelectZone(SelectType(SelectType::SPECIFIC, HUGE_ID)); }},
             {"zones select",
              [this] {
                  m_zones.postSelectZones({0, 1, -1});
@@ -279,7 +279,7 @@ TEST_F(DeskComponentsTest, EachPostHasItsNumberAndWordsAndItsEffect) {
 TEST_F(DeskComponentsTest, TheWindowGetsTheFlagsOfAnUpdateOfControls) {
     m_master.start();
     for (const bool flag : {false, true}) {
-        m_controls.postUpdateControls({makeControl({0, 1}, ControlType::edit, "Pitch Bend", 0)}, true, flag);
+        m_controls.postUpdateControls({makeControl({0, 1}, ControlType::EDIT, "Pitch Bend", 0)}, true, flag);
         m_master.waitUntilIdle();
         const auto posted = m_desk.takePosted();
         ASSERT_EQ(posted.size(), 1u);

@@ -93,9 +93,9 @@ struct Step {
 TEST(DeskSettingsTest, TheDefaultOutputMovesToWhatIsEnabledAndThere) {
     RunningDesk desk;
     desk.start({}, makeOutputs({"A", "B-", "C!", "D", "E-!", "F"}));
-    const SelectType up(SelectType::up);
-    const SelectType down(SelectType::down);
-    const auto specific = [](int index) { return SelectType(SelectType::specific, index); };
+    const SelectType up(SelectType::UP);
+    const SelectType down(SelectType::DOWN);
+    const auto specific = [](int index) { return SelectType(SelectType::SPECIFIC, index); };
     const Step steps[] = {
         {up, 0, 3},
         {up, 3, 5},
@@ -115,8 +115,8 @@ TEST(DeskSettingsTest, TheDefaultOutputMovesToWhatIsEnabledAndThere) {
         {specific(-1), 3, 3},
         {specific(INT_MAX), 3, 3},
         {specific(INT_MIN), 3, 3},
-        {SelectType(SelectType::all, 3), 0, 3},
-        {SelectType(SelectType::selected, 3), 0, 3},
+        {SelectType(SelectType::ALL, 3), 0, 3},
+        {SelectType(SelectType::SELECTED, 3), 0, 3},
     };
     for (const Step& step : steps) {
         desk.run([&step](Mirel& mirel) {
@@ -200,13 +200,13 @@ TEST(DeskSettingsTest, ThruAndTheGlobalKeyboardAreSetClearedAndInverted) {
     bool keyboard = false;
     bool thru = true;
     for (const auto state :
-         {OnOffToggle::off, OnOffToggle::off, OnOffToggle::on, OnOffToggle::on, OnOffToggle::toggle,
-          OnOffToggle::toggle, static_cast<OnOffToggle::State>(77), static_cast<OnOffToggle::State>(-1)}) {
+         {OnOffToggle::OFF, OnOffToggle::OFF, OnOffToggle::ON, OnOffToggle::ON, OnOffToggle::TOGGLE,
+          OnOffToggle::TOGGLE, static_cast<OnOffToggle::State>(77), static_cast<OnOffToggle::State>(-1)}) {
         desk.mirel().getMessageManager().postChangeMidiThru(OnOffToggle(state), true);
         desk.mirel().getMessageManager().postChangeGlobalKeyboard(OnOffToggle(state), true);
         desk.settle();
-        thru = state == OnOffToggle::on || (state != OnOffToggle::off && !thru);
-        keyboard = state == OnOffToggle::on || (state != OnOffToggle::off && !keyboard);
+        thru = state == OnOffToggle::ON || (state != OnOffToggle::OFF && !thru);
+        keyboard = state == OnOffToggle::ON || (state != OnOffToggle::OFF && !keyboard);
         EXPECT_EQ(desk.mirel().getRegistrySettings().getMidiThru(), thru) << state;
         EXPECT_EQ(passesThru(desk), thru) << state;
         EXPECT_EQ(desk.mirel().getRegistrySettings().getGlobalKeyboard(), keyboard) << state;

@@ -31,7 +31,7 @@ void postFiles(Mirel& mirel, int round) {
     MirelMessageManager& manager = mirel.getMessageManager();
     manager.postLoadProgram(round % 2 ? "no such file.prg" : "");
     manager.postLoadBank("no such bank.bnk");
-    manager.postChangeProgram(SelectType(SelectType::up));
+    manager.postChangeProgram(SelectType(SelectType::UP));
     manager.postChangeProgramName("name " + std::to_string(round));
 }
 
@@ -40,7 +40,7 @@ void postSettings(Mirel& mirel, int round) {
     manager.postChangeTempo(RelativeFixedValue(false, 20 + round), true);
     manager.postSetTempoSource(static_cast<char>(round % 2), true);
     manager.postChangeMidiThru(OnOffToggle(), true);
-    manager.postChangeDefaultMidiOutput(SelectType(round % 2 ? SelectType::up : SelectType::down));
+    manager.postChangeDefaultMidiOutput(SelectType(round % 2 ? SelectType::UP : SelectType::DOWN));
     manager.postSetDisplayNumbers(round % 2 == 0);
     manager.postSetLiteVelocity(round);
     manager.postSetMidiInputPorts(makePorts<MidiInputPort>({"A", "B", "C"}));
@@ -64,7 +64,7 @@ void postEvents(Mirel& mirel, int round) {
 void postComponents(Mirel& mirel, int round) {
     Control control;
     control.cell = Cell(9, round % 16);
-    control.type = ControlType(ControlType::edit);
+    control.type = ControlType(ControlType::EDIT);
     control.events.emplace_back(MidiMessage(MidiMessage::ControllerChange, 7));
     auto& controls = mirel.getControlMessageManager();
     controls.postUpdateControls({control}, true, false);
@@ -123,7 +123,7 @@ TEST(DeskThreadsTest, AFloodOfControllersHoldsNobodyUp) {
     desk.playSlice(0, 1);
     Control control;
     control.cell = Cell(9, 9);
-    control.type = ControlType(ControlType::edit);
+    control.type = ControlType(ControlType::EDIT);
     control.events.emplace_back(MidiMessage(MidiMessage::ControllerChange, 7));
     control.events.back().channel = CHANNEL;
     desk.mirel().getControlMessageManager().postUpdateControls({control}, false, false);

@@ -86,7 +86,7 @@ TEST_F(FunctionSettingsTest, SelectControlKindTellsWhatThereIsToChoose) {
 
 TEST_F(FunctionSettingsTest, SelectKindsTakeTypeAndValue) {
     forEach<SelectSettingsType>([](const std::string& name, SelectSettingsType& settings, Function& function) {
-        const SelectType type(SelectType::specific, 3);
+        const SelectType type(SelectType::SPECIFIC, 3);
         const RelativeFixedValue value(false, 9);
         settings.setSelectType(type);
         settings.setValue(value);
@@ -98,24 +98,24 @@ TEST_F(FunctionSettingsTest, SelectKindsTakeTypeAndValue) {
         EXPECT_EQ(write(function), "<" + function.getXmlTag() + attributes + "/>");
     });
     forEach<ChangeBooleanSettingsType>([](const auto&, ChangeBooleanSettingsType& settings, Function& function) {
-        settings.setSelectType(SelectType(SelectType::all));
-        settings.setValue(OnOffToggle(OnOffToggle::on));
-        EXPECT_EQ(settings.getSelectType(), SelectType(SelectType::all));
-        EXPECT_EQ(settings.getValue(), OnOffToggle(OnOffToggle::on));
+        settings.setSelectType(SelectType(SelectType::ALL));
+        settings.setValue(OnOffToggle(OnOffToggle::ON));
+        EXPECT_EQ(settings.getSelectType(), SelectType(SelectType::ALL));
+        EXPECT_EQ(settings.getValue(), OnOffToggle(OnOffToggle::ON));
         EXPECT_EQ(write(function), "<" + function.getXmlTag() + R"( type="all" value="on"/>)");
     });
     forEach<ChangeNoteToggleSettingsType>([](const auto&, ChangeNoteToggleSettingsType& settings, Function& function) {
-        settings.setSelectType(SelectType(SelectType::all));
-        settings.setValue(NoteToggle(NoteToggle::type1));
-        EXPECT_EQ(settings.getSelectType(), SelectType(SelectType::all));
-        EXPECT_EQ(settings.getValue(), NoteToggle(NoteToggle::type1));
+        settings.setSelectType(SelectType(SelectType::ALL));
+        settings.setValue(NoteToggle(NoteToggle::TYPE1));
+        EXPECT_EQ(settings.getSelectType(), SelectType(SelectType::ALL));
+        EXPECT_EQ(settings.getValue(), NoteToggle(NoteToggle::TYPE1));
         EXPECT_EQ(write(function), R"(<ChangeLayerNoteToggle type="all" value="type1"/>)");
     });
 }
 
 TEST_F(FunctionSettingsTest, SelectControlKindTakesTypeAndValue) {
     forEach<SelectControlSettingsType>([](const std::string& name, auto& settings, Function& function) {
-        const SelectControlType type(SelectControlType::specific, Cell(3, 4));
+        const SelectControlType type(SelectControlType::SPECIFIC, Cell(3, 4));
         const RelativeFixedValue value(true, -9);
         settings.setSelectControlType(type);
         settings.setValue(value);
@@ -133,9 +133,9 @@ TEST_F(FunctionSettingsTest, NewOnesOfControlsHaveNoCell) {
 
 TEST_F(FunctionSettingsTest, OtherKindsTakeTheirValues) {
     EXPECT_EQ(forEach<OnOffToggleSettingsType>([](const auto&, auto& settings, Function& function) {
-                  EXPECT_EQ(settings.getOnOffToggle(), OnOffToggle(OnOffToggle::toggle));
-                  settings.setOnOffToggle(OnOffToggle(OnOffToggle::off));
-                  EXPECT_EQ(settings.getOnOffToggle(), OnOffToggle(OnOffToggle::off));
+                  EXPECT_EQ(settings.getOnOffToggle(), OnOffToggle(OnOffToggle::TOGGLE));
+                  settings.setOnOffToggle(OnOffToggle(OnOffToggle::OFF));
+                  EXPECT_EQ(settings.getOnOffToggle(), OnOffToggle(OnOffToggle::OFF));
                   EXPECT_EQ(write(function), "<" + function.getXmlTag() + R"( type="off"/>)");
               }),
               14);

@@ -22,7 +22,7 @@ std::string errorOf(const Strings& arguments) {
 
 TEST(ConsoleCommandLine, WithoutArgumentsTheDeskRunsAsItWasLeft) {
     const CommandLine line = parse({});
-    EXPECT_EQ(line.action, CommandLine::Action::run);
+    EXPECT_EQ(line.action, CommandLine::Action::RUN);
     EXPECT_EQ(line.bank + line.program + line.dataFolder + line.recordFile, "");
     EXPECT_TRUE(line.files.empty());
 }
@@ -48,8 +48,8 @@ TEST(ConsoleCommandLine, AfterTwoDashesAllAreFiles) {
 }
 
 TEST(ConsoleCommandLine, HelpAndVersionWinOverWhatFollows) {
-    EXPECT_EQ(parse({"--help", "--bogus"}).action, CommandLine::Action::showHelp);
-    EXPECT_EQ(parse({"--version"}).action, CommandLine::Action::showVersion);
+    EXPECT_EQ(parse({"--help", "--bogus"}).action, CommandLine::Action::SHOW_HELP);
+    EXPECT_EQ(parse({"--version"}).action, CommandLine::Action::SHOW_VERSION);
 }
 
 TEST(ConsoleCommandLine, SaysWhatItCantUnderstand) {

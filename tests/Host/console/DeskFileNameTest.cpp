@@ -7,14 +7,14 @@ namespace {
 using namespace Host::Console;
 
 TEST(DeskFileName, KnowsBanksAndProgramsByTheirExtensions) {
-    EXPECT_EQ(kindOfDeskFile("C:\\My Music\\live.bnk"), DeskFileKind::bank);
-    EXPECT_EQ(kindOfDeskFile("live.BNK"), DeskFileKind::bank);
-    EXPECT_EQ(kindOfDeskFile("lead.Prg"), DeskFileKind::program);
+    EXPECT_EQ(kindOfDeskFile("C:\\My Music\\live.bnk"), DeskFileKind::BANK);
+    EXPECT_EQ(kindOfDeskFile("live.BNK"), DeskFileKind::BANK);
+    EXPECT_EQ(kindOfDeskFile("lead.Prg"), DeskFileKind::PROGRAM);
 }
 
 TEST(DeskFileName, TakesNothingElse) {
     for (const char* path : {"", "bnk", "a.bnk.txt", "a.prgx", "folder.bnk\\file", "folder.prg/file", ".", "a."})
-        EXPECT_EQ(kindOfDeskFile(path), DeskFileKind::none) << path;
+        EXPECT_EQ(kindOfDeskFile(path), DeskFileKind::NONE) << path;
 }
 
 TEST(DeskFileName, LowersTheExtensionAlone) {

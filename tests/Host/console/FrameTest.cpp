@@ -34,16 +34,16 @@ TEST(FrameLayout, KnowsWhatIsUnderTheMouse) {
         EXPECT_EQ(layout.partAt(rect.left, rect.top), layout.partAt(rect.right - 1, rect.bottom - 1));
         return layout.partAt(rect.left, rect.top);
     };
-    EXPECT_EQ(partIn(layout.desk()), FramePart::desk);
-    EXPECT_EQ(partIn(layout.icon()), FramePart::icon);
-    EXPECT_EQ(partIn(layout.title()), FramePart::caption);
-    EXPECT_EQ(partIn(layout.minimise()), FramePart::minimise);
-    EXPECT_EQ(partIn(layout.close()), FramePart::close);
-    EXPECT_EQ(layout.partAt(0, 100), FramePart::caption);
-    EXPECT_EQ(layout.partAt(300, 231), FramePart::caption);
-    EXPECT_EQ(layout.partAt(-1, 0), FramePart::outside);
-    EXPECT_EQ(layout.partAt(572, 0), FramePart::outside);
-    EXPECT_EQ(layout.partAt(0, 232), FramePart::outside);
+    EXPECT_EQ(partIn(layout.desk()), FramePart::DESK);
+    EXPECT_EQ(partIn(layout.icon()), FramePart::ICON);
+    EXPECT_EQ(partIn(layout.title()), FramePart::CAPTION);
+    EXPECT_EQ(partIn(layout.minimise()), FramePart::MINIMISE);
+    EXPECT_EQ(partIn(layout.close()), FramePart::CLOSE);
+    EXPECT_EQ(layout.partAt(0, 100), FramePart::CAPTION);
+    EXPECT_EQ(layout.partAt(300, 231), FramePart::CAPTION);
+    EXPECT_EQ(layout.partAt(-1, 0), FramePart::OUTSIDE);
+    EXPECT_EQ(layout.partAt(572, 0), FramePart::OUTSIDE);
+    EXPECT_EQ(layout.partAt(0, 232), FramePart::OUTSIDE);
 }
 
 TEST(FrameLayout, HasRoomForAllItsPartsAroundTheSmallestDesk) {
@@ -99,9 +99,9 @@ TEST(MetalFrame, CoversTheBorderAndLeavesTheDeskOut) {
     for (int y = 0; y < picture.height; ++y)
         for (int x = 0; x < picture.width; ++x) {
             const FramePart part = layout.partAt(x, y);
-            if (part == FramePart::desk) {
+            if (part == FramePart::DESK) {
                 ASSERT_EQ(picture.at(x, y), 0u) << x << ' ' << y;
-            } else if (part == FramePart::caption) {
+            } else if (part == FramePart::CAPTION) {
                 ASSERT_TRUE(isMetal(picture.at(x, y))) << x << ' ' << y << std::hex << picture.at(x, y);
             }
         }
@@ -123,17 +123,17 @@ TEST(MetalFrame, LightsTheButtonUnderTheMouse) {
     const FrameLayout layout = FrameLayout::around(120, 60);
     const Picture dark = renderMetalFrame(layout, {});
     FrameLook look;
-    look.hovered = FramePart::close;
+    look.hovered = FramePart::CLOSE;
     const Picture lit = renderMetalFrame(layout, look);
     for (int y = 0; y < lit.height; ++y)
         for (int x = 0; x < lit.width; ++x)
-            if (layout.partAt(x, y) != FramePart::close) {
+            if (layout.partAt(x, y) != FramePart::CLOSE) {
                 ASSERT_EQ(lit.at(x, y), dark.at(x, y));
             }
     const int x = layout.close().left + 7;
     const int y = layout.close().top + 4;
     EXPECT_GT(lit.at(x, y) >> 16, (lit.at(x, y) & 0xff) + 40);  // Red.
-    look.pressed = FramePart::minimise;                         // Another button holds the mouse.
+    look.pressed = FramePart::MINIMISE;                         // Another button holds the mouse.
     EXPECT_EQ(renderMetalFrame(layout, look).pixels, dark.pixels);
 }
 

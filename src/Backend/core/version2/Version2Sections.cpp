@@ -49,8 +49,8 @@ ComputerInput::KeyConfiguration readKey(Version2Fields& fields, MirelIF& mirel) 
 }
 
 Controls::ControlType readControlType(Version2Fields& fields) {
-    const int kind = fields.nextNumber(Controls::ControlType::none);
-    if (kind < Controls::ControlType::none || kind > Controls::ControlType::label)
+    const int kind = fields.nextNumber(Controls::ControlType::NONE);
+    if (kind < Controls::ControlType::NONE || kind > Controls::ControlType::LABEL)
         return Controls::ControlType();
     return Controls::ControlType(static_cast<Controls::ControlType::Kind>(kind));
 }
@@ -78,8 +78,8 @@ Controls::Control readControl(Version2Fields& fields) {
 }
 
 NoteToggle readToggle(Version2Fields& fields) {
-    const int state = fields.nextNumber(NoteToggle::off);
-    return state == NoteToggle::type1 || state == NoteToggle::type2 ? NoteToggle(static_cast<NoteToggle::State>(state))
+    const int state = fields.nextNumber(NoteToggle::OFF);
+    return state == NoteToggle::TYPE1 || state == NoteToggle::TYPE2 ? NoteToggle(static_cast<NoteToggle::State>(state))
                                                                     : NoteToggle();
 }
 

@@ -8,22 +8,22 @@
 // What happens to a flag.
 class OnOffToggle : public Backend::XmlItem {
 public:
-    enum State : std::int32_t { on = 0, off = 1, toggle = 2 };
+    enum State : std::int32_t { ON = 0, OFF = 1, TOGGLE = 2 };
 
     OnOffToggle() = default;
     explicit OnOffToggle(State state) : m_state(state) {}
 
     // "on" and "off", exactly; anything else is toggle.
-    explicit OnOffToggle(std::string_view text) : m_state(text == "on" ? on : text == "off" ? off : toggle) {}
+    explicit OnOffToggle(std::string_view text) : m_state(text == "on" ? ON : text == "off" ? OFF : TOGGLE) {}
 
     State getState() const { return m_state; }
 
-    bool applyTo(bool present) const { return m_state == on || (m_state != off && !present); }
+    bool applyTo(bool present) const { return m_state == ON || (m_state != OFF && !present); }
 
-    std::string toXmlString() const override { return m_state == on ? "on" : m_state == off ? "off" : "toggle"; }
+    std::string toXmlString() const override { return m_state == ON ? "on" : m_state == OFF ? "off" : "toggle"; }
 
     bool operator==(const OnOffToggle& other) const { return m_state == other.m_state; }
 
 private:
-    State m_state = toggle;
+    State m_state = TOGGLE;
 };

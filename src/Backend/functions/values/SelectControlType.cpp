@@ -10,12 +10,12 @@ struct ModeName {
 };
 
 constexpr std::array<ModeName, 6> MODE_NAMES = {{
-    {SelectControlType::up, "up"},
-    {SelectControlType::down, "down"},
-    {SelectControlType::left, "left"},
-    {SelectControlType::right, "right"},
-    {SelectControlType::selected, "selected"},
-    {SelectControlType::all, "all"},
+    {SelectControlType::UP, "up"},
+    {SelectControlType::DOWN, "down"},
+    {SelectControlType::LEFT, "left"},
+    {SelectControlType::RIGHT, "right"},
+    {SelectControlType::SELECTED, "selected"},
+    {SelectControlType::ALL, "all"},
 }};
 
 }
@@ -27,7 +27,7 @@ SelectControlType::SelectControlType(std::string_view text) : m_cell(-1, -1) {
             return;
         }
     }
-    m_mode = specific;
+    m_mode = SPECIFIC;
     m_cell = Cell(text);
 }
 

@@ -10,13 +10,13 @@
 class SelectControlType : public Backend::XmlItem {
 public:
     enum Mode : std::int32_t {
-        up = 0,  // The next control above the selected one; the same for the three other directions.
-        down = 1,
-        left = 2,
-        right = 3,
-        selected = 4,
-        specific = 5,  // The control in the cell of getCell.
-        all = 6,
+        UP = 0,  // The next control above the selected one; the same for the three other directions.
+        DOWN = 1,
+        LEFT = 2,
+        RIGHT = 3,
+        SELECTED = 4,
+        SPECIFIC = 5,  // The control in the cell of getCell.
+        ALL = 6,
     };
 
     SelectControlType() = default;
@@ -35,6 +35,6 @@ public:
     bool operator==(const SelectControlType& other) const { return m_mode == other.m_mode && m_cell == other.m_cell; }
 
 private:
-    Mode m_mode = up;
+    Mode m_mode = UP;
     Cell m_cell = Cell(0, 0);
 };

@@ -9,11 +9,11 @@
 class SelectType : public Backend::XmlItem {
 public:
     enum Mode : std::int32_t {
-        up = 0,        // The next item.
-        down = 1,      // The previous item.
-        selected = 2,  // The items selected on the screen.
-        specific = 3,  // The item with the index of getValue.
-        all = 4,
+        UP = 0,        // The next item.
+        DOWN = 1,      // The previous item.
+        SELECTED = 2,  // The items selected on the screen.
+        SPECIFIC = 3,  // The item with the index of getValue.
+        ALL = 4,
     };
 
     SelectType() = default;
@@ -32,6 +32,6 @@ public:
     bool operator==(const SelectType& other) const { return m_mode == other.m_mode && m_value == other.m_value; }
 
 private:
-    Mode m_mode = up;
+    Mode m_mode = UP;
     std::int32_t m_value = 0;
 };

@@ -71,7 +71,7 @@ void ControlManager::deletePreset(const std::string& name) {
 
 void ControlManager::updateControls(const std::vector<Control>& controls, bool notifyGui, bool guiFlag) {
     for (const Control& control : controls) {
-        if (control.type.getKind() == ControlType::none)
+        if (control.type.getKind() == ControlType::NONE)
             m_controls.remove(control.cell);
         else
             m_controls.set(control);
@@ -208,10 +208,10 @@ bool ControlManager::follows(const Control& control, const MirelMidiMessage& mes
 }
 
 void ControlManager::selectControl(const SelectControlType& type) {
-    if (type.getMode() == SelectControlType::selected || type.getMode() == SelectControlType::all)
+    if (type.getMode() == SelectControlType::SELECTED || type.getMode() == SelectControlType::ALL)
         return;
     Control* current = findSelected();
-    Control* target = type.getMode() == SelectControlType::specific ? m_controls.find(type.getCell())
+    Control* target = type.getMode() == SelectControlType::SPECIFIC ? m_controls.find(type.getCell())
                                                                     : findNext(type.getMode(), current);
     if (current)
         select(*current, false);
@@ -220,16 +220,16 @@ void ControlManager::selectControl(const SelectControlType& type) {
 }
 
 Control* ControlManager::findNext(SelectControlType::Mode mode, const Control* from) {
-    const Cell start = mode == SelectControlType::down ? Cell(-1, 0) : Cell(0, -1);
+    const Cell start = mode == SelectControlType::DOWN ? Cell(-1, 0) : Cell(0, -1);
     const Cell& cell = from ? from->cell : start;
     // A cell far outside the grid is as good as one beside it.
     int row = std::clamp(cell.getRow(), -2, GRID_SIZE + 1);
     int column = std::clamp(cell.getColumn(), -2, GRID_SIZE + 1);
     for (;;) {
         switch (mode) {
-            case SelectControlType::up: --row; break;
-            case SelectControlType::down: ++row; break;
-            case SelectControlType::left: --column; break;
+            case SelectControlType::UP: --row; break;
+            case SelectControlType::DOWN: ++row; break;
+            case SelectControlType::LEFT: --column; break;
             default: ++column; break;
         }
         if (row < 0 || row >= GRID_SIZE)
@@ -259,14 +259,14 @@ void ControlManager::changeControlValue(const SelectControlType& type, const Rel
 }
 
 void ControlManager::sendControlData(const SelectControlType& type) {
-    if (type.getMode() == SelectControlType::all)
+    if (type.getMode() == SelectControlType::ALL)
         sendAll(false);
     else if (const Control* control = findTarget(type))
         control->sendEvents(m_mirel.getMidiEngineMessageManager());
 }
 
 Control* ControlManager::findTarget(const SelectControlType& type) {
-    return type.getMode() == SelectControlType::specific ? m_controls.find(type.getCell()) : findSelected();
+    return type.getMode() == SelectControlType::SPECIFIC ? m_controls.find(type.getCell()) : findSelected();
 }
 
 Control* ControlManager::findSelected() {

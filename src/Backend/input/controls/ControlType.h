@@ -11,7 +11,7 @@ namespace Backend::Controls {
 // What a control looks like.
 class ControlType : public XmlItem {
 public:
-    enum Kind : std::int32_t { none = 0, edit = 1, verticalFader = 2, horizontalFader = 3, knob = 4, label = 5 };
+    enum Kind : std::int32_t { NONE = 0, EDIT = 1, VERTICAL_FADER = 2, HORIZONTAL_FADER = 3, KNOB = 4, LABEL = 5 };
 
     ControlType() = default;
     explicit ControlType(Kind kind) : m_kind(kind) {}
@@ -22,14 +22,14 @@ public:
     Kind getKind() const { return m_kind; }
 
     // Whether it has a value to send.
-    bool hasValue() const { return m_kind != none && m_kind != label; }
+    bool hasValue() const { return m_kind != NONE && m_kind != LABEL; }
 
     std::string toXmlString() const override;
 
     bool operator==(const ControlType& other) const { return m_kind == other.m_kind; }
 
 private:
-    Kind m_kind = none;
+    Kind m_kind = NONE;
 };
 
 }

@@ -8,14 +8,14 @@ namespace Backend::ArpeggioManagement {
 class ArpeggioNote : public MidiEngine::MirelMidiMessage {
 public:
     enum State : std::int32_t {
-        Held = 0,      // Not played yet (a chord's notes keep this state while they are held).
-        Released = 1,  // Its key is up.
-        Played = 2,    // Played at least once.
+        HELD = 0,      // Not played yet (a chord's notes keep this state while they are held).
+        RELEASED = 1,  // Its key is up.
+        PLAYED = 2,    // Played at least once.
     };
 
     explicit ArpeggioNote(const MidiEngine::MirelMidiMessage& message) : MirelMidiMessage(message) {}
 
-    State state = Held;
+    State state = HELD;
     std::int32_t lastPpq = -1;  // When the note was last touched.
     bool playing = false;       // A Note On was sent and its Note Off was not.
     bool finished = false;      // Ready to be removed.

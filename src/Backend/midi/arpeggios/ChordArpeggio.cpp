@@ -18,7 +18,7 @@ void ChordArpeggio::noteEvent(const MidiEngine::MirelMidiMessage& message, Seque
     }
     for (ArpeggioNote& note : m_notes)
         if (note.getD1() == message.getD1())
-            note.state = ArpeggioNote::Released;
+            note.state = ArpeggioNote::RELEASED;
 }
 
 void ChordArpeggio::timeEvent(std::int32_t ppq, SequenceSetting& sequence) {
@@ -38,7 +38,7 @@ void ChordArpeggio::timeEvent(std::int32_t ppq, SequenceSetting& sequence) {
 
 void ChordArpeggio::endNotes(std::int32_t ppq, SequenceSetting& sequence) {
     for (ArpeggioNote& note : m_notes) {
-        const bool released = note.state == ArpeggioNote::Released;
+        const bool released = note.state == ArpeggioNote::RELEASED;
         if (note.playing) {
             note.lastPpq = ppq;
             sendNoteOff(note, sequence);
@@ -56,7 +56,7 @@ bool ChordArpeggio::startNotes(std::int32_t ppq, bool onBeat, SequenceSetting& s
     for (ArpeggioNote& note : m_notes) {
         if (note.lastPpq < 0)
             note.lastPpq = ppq;
-        if (note.state == ArpeggioNote::Released)
+        if (note.state == ArpeggioNote::RELEASED)
             continue;
         allReleased = false;
         if (firstOfAll) {
@@ -76,7 +76,7 @@ bool ChordArpeggio::startNotes(std::int32_t ppq, bool onBeat, SequenceSetting& s
 
 bool ChordArpeggio::areAllReleased() const {
     return std::all_of(m_notes.begin(), m_notes.end(),
-                       [](const ArpeggioNote& note) { return note.state == ArpeggioNote::Released; });
+                       [](const ArpeggioNote& note) { return note.state == ArpeggioNote::RELEASED; });
 }
 
 bool ChordArpeggio::isAnySounding() const {

@@ -37,7 +37,7 @@ void SteppingArpeggio::releaseNote(char d1, SequenceSetting& sequence) {
     if (note == m_notes.end())
         return;
     if (note->playing) {
-        note->state = ArpeggioNote::Released;
+        note->state = ArpeggioNote::RELEASED;
         return;
     }
     const auto index = static_cast<std::size_t>(note - m_notes.begin());
@@ -81,7 +81,7 @@ void SteppingArpeggio::timeEvent(std::int32_t ppq, SequenceSetting& sequence) {
 }
 
 void SteppingArpeggio::endCurrentNote(SequenceSetting& sequence) {
-    if (m_notes[m_current].state == ArpeggioNote::Released) {
+    if (m_notes[m_current].state == ArpeggioNote::RELEASED) {
         const std::size_t ended = m_current;
         sendNoteOff(m_notes[ended], sequence);
         advance(sequence);
@@ -90,7 +90,7 @@ void SteppingArpeggio::endCurrentNote(SequenceSetting& sequence) {
     if (m_current == AT_END)
         return;
     ArpeggioNote& note = m_notes[m_current];
-    if (note.state == ArpeggioNote::Played && note.playing) {
+    if (note.state == ArpeggioNote::PLAYED && note.playing) {
         sendNoteOff(note, sequence);
         note.playing = false;
         advance(sequence);
@@ -99,11 +99,11 @@ void SteppingArpeggio::endCurrentNote(SequenceSetting& sequence) {
 
 void SteppingArpeggio::startCurrentNote(std::int32_t ppq, bool onBeat, SequenceSetting& sequence) {
     ArpeggioNote& note = m_notes[m_current];
-    const bool startsTheGrid = note.state == ArpeggioNote::Held && m_midiEngine->getStartTime() < 0;
-    if (!startsTheGrid && (note.state == ArpeggioNote::Released || !onBeat))
+    const bool startsTheGrid = note.state == ArpeggioNote::HELD && m_midiEngine->getStartTime() < 0;
+    if (!startsTheGrid && (note.state == ArpeggioNote::RELEASED || !onBeat))
         return;
     sendNoteOn(note, ppq, sequence);
-    note.state = ArpeggioNote::Played;
+    note.state = ArpeggioNote::PLAYED;
     startRunning(ppq);
 }
 
@@ -118,7 +118,7 @@ void SteppingArpeggio::advance(SequenceSetting& sequence) {
 
 bool SteppingArpeggio::areAllReleased() const {
     return std::all_of(m_notes.begin(), m_notes.end(),
-                       [](const ArpeggioNote& note) { return note.state == ArpeggioNote::Released; });
+                       [](const ArpeggioNote& note) { return note.state == ArpeggioNote::RELEASED; });
 }
 
 bool SteppingArpeggio::isAnySounding() const {

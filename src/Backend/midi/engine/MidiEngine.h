@@ -148,7 +148,7 @@ public:
     HWND getGuiWindowHandle() const;
 
 private:
-    enum class ResetKind { Soft, Hard };
+    enum class ResetKind { SOFT, HARD };
 
     // The steps of a slice.
     void postWaitingUpdates();

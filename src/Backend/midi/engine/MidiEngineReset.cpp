@@ -31,13 +31,13 @@ void MidiEngine::hardReset() {
 
 void MidiEngine::sendReset() {
     ++m_resetCallers;
-    sendResetOfKind(ResetKind::Soft);
+    sendResetOfKind(ResetKind::SOFT);
     --m_resetCallers;
 }
 
 void MidiEngine::sendHardReset() {
     ++m_resetCallers;
-    sendResetOfKind(ResetKind::Hard);
+    sendResetOfKind(ResetKind::HARD);
     --m_resetCallers;
 }
 
@@ -46,14 +46,14 @@ void MidiEngine::sendResetOfKind(ResetKind kind) {
     if (!m_midiPlayerRunning) {
         CriticalSectionLock lock(m_criticalSection);
         if (!m_midiPlayerRunning) {
-            kind == ResetKind::Hard ? hardReset() : reset();
+            kind == ResetKind::HARD ? hardReset() : reset();
             return;
         }
     }
     // A silent external clock would stop the slices, and with them this.
     const char tempoSource = getTempoSource();
     setTempoSource(INTERNAL_CLOCK);
-    if (kind == ResetKind::Hard) {
+    if (kind == ResetKind::HARD) {
         m_isSliceAwaited = true;
         m_hardResetRequested = true;
         m_hardResetEvent.wait();

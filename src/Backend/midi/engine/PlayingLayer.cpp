@@ -48,7 +48,7 @@ PlayingLayer::PlayingLayer(const Layers::Layer& layer, MidiEngine& engine)
 void PlayingLayer::noteOn(const MirelMidiMessage& message) {
     if (!acceptsNote(message))
         return;
-    if (m_layer.toggle.getState() != NoteToggle::off)
+    if (m_layer.toggle.getState() != NoteToggle::OFF)
         startToggledNote(message);
     else if (m_layer.mono)
         startMonoNote(message);
@@ -68,7 +68,7 @@ void PlayingLayer::startMonoNote(const MirelMidiMessage& message) {
 
 void PlayingLayer::startToggledNote(const MirelMidiMessage& message) {
     const char note = message.getD1();
-    if (isToggled(note) && m_layer.toggle.getState() != NoteToggle::type2) {
+    if (isToggled(note) && m_layer.toggle.getState() != NoteToggle::TYPE2) {
         setToggled(note, false);
         sendNoteOff(message);
         m_heldNotes.remove(note);
@@ -113,7 +113,7 @@ void PlayingLayer::sendNoteOff(const MirelMidiMessage& message) {
 
 void PlayingLayer::noteOff(const MirelMidiMessage& message) {
     // A toggled note does not end when its key goes up.
-    if (m_layer.toggle.getState() != NoteToggle::off || !acceptsNote(message))
+    if (m_layer.toggle.getState() != NoteToggle::OFF || !acceptsNote(message))
         return;
     if (!m_layer.mono) {
         playNote(message);

@@ -46,9 +46,9 @@ std::string Layer::describe(const std::string& outputName) const {
         text += "  V:" + velocity.toXmlString();
     if (compress != Fraction())
         text += "  Comp:" + compress.toString();
-    if (toggle.getState() == NoteToggle::type1)
+    if (toggle.getState() == NoteToggle::TYPE1)
         text += "  TOGGLE1";
-    if (toggle.getState() == NoteToggle::type2)
+    if (toggle.getState() == NoteToggle::TYPE2)
         text += "  TOGGLE2";
     if (mono)
         text += "  MONO";

@@ -109,9 +109,9 @@ void LayerManager::dataSelectLayer(const SelectType& type) {
     const std::int64_t from = current == m_layers.end() ? -1 : current->id;
     std::int64_t to = -1;
     switch (type.getMode()) {
-        case SelectType::up: to = from + 1; break;
-        case SelectType::down: to = from - 1; break;
-        case SelectType::specific: to = type.getValue(); break;
+        case SelectType::UP: to = from + 1; break;
+        case SelectType::DOWN: to = from - 1; break;
+        case SelectType::SPECIFIC: to = type.getValue(); break;
         default: return;
     }
     if (to < 0 || to >= static_cast<std::int64_t>(m_layers.size()))
@@ -173,9 +173,9 @@ void LayerManager::changeFlag(const SelectType& type, const OnOffToggle& value, 
 
 void LayerManager::changeLayers(const SelectType& type, const std::function<void(Layer&)>& change) {
     for (Layer& layer : m_layers) {
-        const bool isPicked = type.getMode() == SelectType::all ||
-                              (type.getMode() == SelectType::selected && layer.selected) ||
-                              (type.getMode() == SelectType::specific && type.getValue() == layer.id);
+        const bool isPicked = type.getMode() == SelectType::ALL ||
+                              (type.getMode() == SelectType::SELECTED && layer.selected) ||
+                              (type.getMode() == SelectType::SPECIFIC && type.getValue() == layer.id);
         if (isPicked)
             change(layer);
     }

@@ -38,11 +38,11 @@ void ZoneManager::setTranspose(ZoneId id, char transpose) {
 void ZoneManager::selectZone(const SelectType& type) {
     Zone* current = findSelected();
     Zone* target = nullptr;
-    if (type.getMode() == SelectType::specific) {
+    if (type.getMode() == SelectType::SPECIFIC) {
         if (type.getValue() == Text::lowByte(type.getValue()))
             target = m_zones.find(Text::lowByte(type.getValue()));
-    } else if (type.getMode() == SelectType::up || type.getMode() == SelectType::down) {
-        const int step = type.getMode() == SelectType::up ? 1 : -1;
+    } else if (type.getMode() == SelectType::UP || type.getMode() == SelectType::DOWN) {
+        const int step = type.getMode() == SelectType::UP ? 1 : -1;
         int id = current ? current->id : -1;
         while (!target) {
             id += step;
@@ -65,13 +65,13 @@ void ZoneManager::selectZones(const std::vector<ZoneId>& ids) {
 }
 
 void ZoneManager::changeZoneTranspose(const SelectType& type, const RelativeFixedValue& value) {
-    if (type.getMode() == SelectType::all) {
+    if (type.getMode() == SelectType::ALL) {
         for (Zone* zone : m_zones.inOrder())
             changeTranspose(*zone, value);
         return;
     }
     Zone* zone = findSelected();
-    if (type.getMode() == SelectType::specific)
+    if (type.getMode() == SelectType::SPECIFIC)
         zone =
             type.getValue() == Text::lowByte(type.getValue()) ? m_zones.find(Text::lowByte(type.getValue())) : nullptr;
     if (zone)

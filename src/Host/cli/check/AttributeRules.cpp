@@ -150,14 +150,14 @@ std::string judgeCell(const std::string& text, const std::string&, const Attribu
 
 std::string judgeSelectType(const std::string& text, const std::string& missing, const AttributeRule&) {
     const SelectType type{std::string_view(text)};
-    if (type.getMode() != SelectType::specific)
+    if (type.getMode() != SelectType::SPECIFIC)
         return {};
     return judgeNumber(text, missing, {judgeNumber, {0, INT32_MAX}});
 }
 
 std::string judgeSelectControlType(const std::string& text, const std::string& missing, const AttributeRule& rule) {
     const SelectControlType type{std::string_view(text)};
-    if (type.getMode() != SelectControlType::specific || text == Cell().toXmlString())
+    if (type.getMode() != SelectControlType::SPECIFIC || text == Cell().toXmlString())
         return {};  // The desk writes a cell that nobody has chosen yet as well.
     return judgeCell(text, missing, rule);
 }

@@ -189,7 +189,7 @@ private:
         m_desk.waitUntilIdle();
         const int present = m_desk.mirel().getRegistrySettings().getDefaultMidiOutput();
         if (const int output = wanted.empty() ? findBetterOutput(outputs, present) : wanted.front(); output >= 0)
-            manager().postChangeDefaultMidiOutput(SelectType(SelectType::specific, output));
+            manager().postChangeDefaultMidiOutput(SelectType(SelectType::SPECIFIC, output));
     }
 
     void loadPrograms() {
@@ -218,7 +218,7 @@ private:
         const int index = findProgram(m_desk.mirel().getCurrentBank().getProgramNames(), wanted);
         if (index < 0)
             throw RunError("the bank has no program \"" + wanted + "\"");
-        manager().postChangeProgram(SelectType(SelectType::specific, index));
+        manager().postChangeProgram(SelectType(SelectType::SPECIFIC, index));
     }
 
     void chooseClock() {

@@ -136,10 +136,10 @@ void runProgram(const ScriptContext& context) {
 
 void runSelect(const ScriptContext& context) {
     const std::string word = context.arguments.takeWord("next, previous or a number");
-    const SelectType type = word == "next" ? SelectType(SelectType::up)
+    const SelectType type = word == "next" ? SelectType(SelectType::UP)
                             : word == "previous"
-                                ? SelectType(SelectType::down)
-                                : SelectType(SelectType::specific, context.arguments.toNumber(word, "the program"));
+                                ? SelectType(SelectType::DOWN)
+                                : SelectType(SelectType::SPECIFIC, context.arguments.toNumber(word, "the program"));
     context.arguments.expectEnd();
     context.desk.post([&](MirelIF& mirel) { mirel.getMessageManager().postChangeProgram(type); });
 }
@@ -198,7 +198,7 @@ void runTempoSource(const ScriptContext& context) {
 }
 
 void runOutput(const ScriptContext& context) {
-    const SelectType type(SelectType::specific, takeOnlyNumber(context, "the output"));
+    const SelectType type(SelectType::SPECIFIC, takeOnlyNumber(context, "the output"));
     context.desk.post([&](MirelIF& mirel) { mirel.getMessageManager().postChangeDefaultMidiOutput(type); });
 }
 

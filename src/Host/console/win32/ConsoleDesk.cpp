@@ -149,7 +149,7 @@ void ConsoleDesk::chooseOutputs() {
     const int output =
         findBetterOutput(m_desk.ports().outputs(), m_desk.mirel().getRegistrySettings().getDefaultMidiOutput());
     if (output >= 0)
-        manager().postChangeDefaultMidiOutput(SelectType(SelectType::specific, output));
+        manager().postChangeDefaultMidiOutput(SelectType(SelectType::SPECIFIC, output));
 }
 
 void ConsoleDesk::loadFirstPrograms() {
@@ -165,9 +165,9 @@ void ConsoleDesk::loadFirstPrograms() {
 
 void ConsoleDesk::openFile(const std::string& path) {
     switch (kindOfDeskFile(path)) {
-        case DeskFileKind::bank: return openBank(path);
-        case DeskFileKind::program: return openProgram(path);
-        case DeskFileKind::none: return tell(path + ": is neither a bank (.bnk) nor a program (.prg).");
+        case DeskFileKind::BANK: return openBank(path);
+        case DeskFileKind::PROGRAM: return openProgram(path);
+        case DeskFileKind::NONE: return tell(path + ": is neither a bank (.bnk) nor a program (.prg).");
     }
 }
 
@@ -181,7 +181,7 @@ void ConsoleDesk::openBank(const std::string& path) {
 }
 
 void ConsoleDesk::openProgram(const std::string& wanted) {
-    if (kindOfDeskFile(wanted) == DeskFileKind::program) {
+    if (kindOfDeskFile(wanted) == DeskFileKind::PROGRAM) {
         if (!Platform::Files::size(wanted))
             tell(wanted + ": can't be read.");
         else if (Backend::BankFile::readProgramNames(wanted).empty())
@@ -195,7 +195,7 @@ void ConsoleDesk::openProgram(const std::string& wanted) {
         return;
     const int index = findProgram(m_desk.mirel().getCurrentBank().getProgramNames(), wanted);
     if (index >= 0)
-        manager().postChangeProgram(SelectType(SelectType::specific, index));
+        manager().postChangeProgram(SelectType(SelectType::SPECIFIC, index));
     else
         tell("The bank has no program \"" + wanted + "\".");
 }

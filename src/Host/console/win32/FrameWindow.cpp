@@ -225,7 +225,7 @@ void FrameWindow::setSkinBorder(bool useSkinBorder) {
     ClientToScreen(m_window, &before);
     const std::int32_t bottom = position().bottom;
     m_options.useSkinBorder = useSkinBorder;
-    m_look = {GetActiveWindow() == m_window, FramePart::outside, FramePart::outside};
+    m_look = {GetActiveWindow() == m_window, FramePart::OUTSIDE, FramePart::OUTSIDE};
     const DWORD visible = static_cast<DWORD>(GetWindowLongPtrA(m_window, GWL_STYLE)) & (WS_VISIBLE | WS_MINIMIZE);
     SetWindowLongPtrA(m_window, GWL_STYLE, static_cast<LONG_PTR>(style() | visible));
     SetWindowPos(m_window, nullptr, 0, 0, 0, 0,

@@ -28,12 +28,12 @@ bool FrameWindow::handleBorderMessage(UINT message, WPARAM wParam, LPARAM lParam
         }
         case WM_NCHITTEST:
             switch (partAtScreenPoint(lParam)) {
-                case FramePart::desk: result = HTCLIENT; break;
-                case FramePart::caption: result = HTCAPTION; break;
-                case FramePart::icon: result = HTSYSMENU; break;
-                case FramePart::minimise: result = HTMINBUTTON; break;
-                case FramePart::close: result = HTCLOSE; break;
-                case FramePart::outside: result = HTNOWHERE; break;
+                case FramePart::DESK: result = HTCLIENT; break;
+                case FramePart::CAPTION: result = HTCAPTION; break;
+                case FramePart::ICON: result = HTSYSMENU; break;
+                case FramePart::MINIMISE: result = HTMINBUTTON; break;
+                case FramePart::CLOSE: result = HTCLOSE; break;
+                case FramePart::OUTSIDE: result = HTNOWHERE; break;
             }
             return true;
         case WM_NCRBUTTONUP:
@@ -51,21 +51,21 @@ bool FrameWindow::handleBorderMessage(UINT message, WPARAM wParam, LPARAM lParam
 
 // The two buttons light up under the mouse, and act when they are let go where they were pressed.
 bool FrameWindow::handleBorderButtons(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
-    const auto isButton = [](FramePart part) { return part == FramePart::minimise || part == FramePart::close; };
+    const auto isButton = [](FramePart part) { return part == FramePart::MINIMISE || part == FramePart::CLOSE; };
     FrameLook look = m_look;
     result = 0;
     switch (message) {
         case WM_NCMOUSEMOVE: {
             const FramePart part = partAtScreenPoint(lParam);
-            look.hovered = isButton(part) ? part : FramePart::outside;
+            look.hovered = isButton(part) ? part : FramePart::OUTSIDE;
             setLook(look);
             TRACKMOUSEEVENT track{sizeof track, TME_LEAVE | TME_NONCLIENT, m_window, 0};
             TrackMouseEvent(&track);
             return false;
         }
         case WM_NCMOUSELEAVE:
-            if (look.pressed == FramePart::outside) {
-                look.hovered = FramePart::outside;
+            if (look.pressed == FramePart::OUTSIDE) {
+                look.hovered = FramePart::OUTSIDE;
                 setLook(look);
             }
             return false;
@@ -87,30 +87,30 @@ bool FrameWindow::handleBorderButtons(UINT message, WPARAM wParam, LPARAM lParam
             return true;
         }
         case WM_MOUSEMOVE: {
-            if (look.pressed == FramePart::outside)
+            if (look.pressed == FramePart::OUTSIDE)
                 return false;
             POINT point{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
             ClientToScreen(m_window, &point);
             const FramePart part = partAtScreenPoint(MAKELPARAM(point.x, point.y));
-            look.hovered = part == look.pressed ? part : FramePart::outside;
+            look.hovered = part == look.pressed ? part : FramePart::OUTSIDE;
             setLook(look);
             return true;
         }
         case WM_LBUTTONUP: {
-            if (look.pressed == FramePart::outside)
+            if (look.pressed == FramePart::OUTSIDE)
                 return false;
-            const FramePart chosen = look.hovered == look.pressed ? look.pressed : FramePart::outside;
-            look.pressed = look.hovered = FramePart::outside;
+            const FramePart chosen = look.hovered == look.pressed ? look.pressed : FramePart::OUTSIDE;
+            look.pressed = look.hovered = FramePart::OUTSIDE;
             setLook(look);
             ReleaseCapture();
-            if (chosen == FramePart::close)
+            if (chosen == FramePart::CLOSE)
                 PostMessageA(m_window, WM_SYSCOMMAND, SC_CLOSE, 0);
-            else if (chosen == FramePart::minimise)
+            else if (chosen == FramePart::MINIMISE)
                 PostMessageA(m_window, WM_SYSCOMMAND, SC_MINIMIZE, 0);
             return true;
         }
         case WM_CAPTURECHANGED:
-            look.pressed = look.hovered = FramePart::outside;
+            look.pressed = look.hovered = FramePart::OUTSIDE;
             setLook(look);
             return false;
         default: return false;

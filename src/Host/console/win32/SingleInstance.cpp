@@ -53,7 +53,7 @@ SingleInstance::Result SingleInstance::enter(const OpenRequest& request, std::ch
         const DWORD wait = WaitForSingleObject(m_mutex, STEP);
         if (wait == WAIT_OBJECT_0 || wait == WAIT_ABANDONED) {
             m_isOwner = true;
-            return Result::first;
+            return Result::FIRST;
         }
         const HWND other = findOther();
         if (!other)
@@ -66,9 +66,9 @@ SingleInstance::Result SingleInstance::enter(const OpenRequest& request, std::ch
         if (SendMessageTimeoutA(other, WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&data), SMTO_NORMAL, ANSWER_LIMIT,
                                 &answer) &&
             answer == TRUE)
-            return Result::handedOver;
+            return Result::HANDED_OVER;
     } while (std::chrono::steady_clock::now() < end);
-    return Result::failed;
+    return Result::FAILED;
 }
 
 void SingleInstance::announce(HWND window) const {

@@ -15,7 +15,7 @@ public:
     // A desk that starts or ends holds the others up for this long.
     static constexpr std::chrono::milliseconds WAIT_LIMIT{15000};
 
-    enum class Result { first, handedOver, failed };
+    enum class Result { FIRST, HANDED_OVER, FAILED };
 
     explicit SingleInstance(const std::string& dataFolder);
     ~SingleInstance();

@@ -52,7 +52,7 @@ std::string makeFull(const std::string& path) {
 
 OpenRequest makeRequest(const CommandLine& line) {
     OpenRequest request{line.bank.empty() ? "" : makeFull(line.bank), line.program, {}};
-    if (kindOfDeskFile(request.program) == DeskFileKind::program)
+    if (kindOfDeskFile(request.program) == DeskFileKind::PROGRAM)
         request.program = makeFull(request.program);
     for (const std::string& file : line.files)
         request.files.push_back(makeFull(file));
@@ -67,11 +67,11 @@ int runDesk(const CommandLine& line, int showCommand) {
     }
     SingleInstance instance(Backend::MirelUtils::getMirelAppDataDir());
     switch (instance.enter(makeRequest(line))) {
-        case SingleInstance::Result::handedOver:
+        case SingleInstance::Result::HANDED_OVER:
             return line.recordFile.empty() ? DONE
                                            : fail("a desk runs with these data already, so --record does nothing");
-        case SingleInstance::Result::failed: return fail("a desk runs with these data already, and does not answer");
-        case SingleInstance::Result::first: break;
+        case SingleInstance::Result::FAILED: return fail("a desk runs with these data already, and does not answer");
+        case SingleInstance::Result::FIRST: break;
     }
     if (!line.recordFile.empty() && !Host::canRecordTo(line.recordFile))
         return fail(line.recordFile + ": can't be written");
@@ -91,11 +91,11 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int showCommand) {
     if (!line)
         return fail(error + "; MirelConsole --help tells more");
     switch (line->action) {
-        case CommandLine::Action::showHelp: tell(STD_OUTPUT_HANDLE, CommandLine::USAGE); return DONE;
-        case CommandLine::Action::showVersion:
+        case CommandLine::Action::SHOW_HELP: tell(STD_OUTPUT_HANDLE, CommandLine::USAGE); return DONE;
+        case CommandLine::Action::SHOW_VERSION:
             tell(STD_OUTPUT_HANDLE, MIREL_PRODUCT " " MIREL_VERSION "\n");
             return DONE;
-        case CommandLine::Action::run: break;
+        case CommandLine::Action::RUN: break;
     }
     try {
         return runDesk(*line, showCommand);

@@ -85,7 +85,7 @@ protected:
     }
 
     void select(int index) {
-        m_desk.run([index](Mirel& mirel) { mirel.changeProgram(SelectType(SelectType::specific, index)); });
+        m_desk.run([index](Mirel& mirel) { mirel.changeProgram(SelectType(SelectType::SPECIFIC, index)); });
     }
 
     void rename(const std::string& name) {
@@ -421,7 +421,7 @@ TEST_F(ProgramFilesTest, AnyNameOfAControlComesBackAndNoneBreaksTheBank) {
         m_desk.run([&name](Mirel& mirel) {
             Controls::Control control;
             control.cell = Cell(1, 2);
-            control.type = Controls::ControlType(Controls::ControlType::label);
+            control.type = Controls::ControlType(Controls::ControlType::LABEL);
             control.name = name;
             mirel.getControls().updateControls({control}, false, false);
         });

@@ -18,21 +18,21 @@ TEST(SelectTypeTest, EachModeHasItsText) {
         EXPECT_EQ(parsed.getValue(), 0);
         EXPECT_EQ(parsed.toXmlString(), names[mode]);
     }
-    EXPECT_EQ(SelectType(std::string_view("7")), SelectType(SelectType::specific, 7));
+    EXPECT_EQ(SelectType(std::string_view("7")), SelectType(SelectType::SPECIFIC, 7));
     EXPECT_EQ(SelectType(std::string_view("7")).toXmlString(), "7");
 }
 
 TEST(SelectTypeTest, AnythingElseIsAnIndex) {
     for (const char* text : {"", "Up", " up", "abc"})
-        EXPECT_EQ(SelectType(std::string_view(text)), SelectType(SelectType::specific, 0)) << text;
+        EXPECT_EQ(SelectType(std::string_view(text)), SelectType(SelectType::SPECIFIC, 0)) << text;
     EXPECT_EQ(SelectType(std::string_view("")).toXmlString(), "0");
     EXPECT_EQ(SelectType(std::string_view("-3x")).getValue(), -3);
 }
 
 TEST(SelectTypeTest, EqualityComparesModeAndIndex) {
-    EXPECT_EQ(SelectType(SelectType::specific, 7), SelectType(SelectType::specific, 7));
-    EXPECT_NE(SelectType(SelectType::specific, 7), SelectType(SelectType::specific, 8));
-    EXPECT_NE(SelectType(SelectType::up), SelectType(SelectType::down));
+    EXPECT_EQ(SelectType(SelectType::SPECIFIC, 7), SelectType(SelectType::SPECIFIC, 7));
+    EXPECT_NE(SelectType(SelectType::SPECIFIC, 7), SelectType(SelectType::SPECIFIC, 8));
+    EXPECT_NE(SelectType(SelectType::UP), SelectType(SelectType::DOWN));
 }
 
 TEST(SelectControlTypeTest, EachModeHasItsText) {
@@ -49,7 +49,7 @@ TEST(SelectControlTypeTest, EachModeHasItsText) {
 
 TEST(SelectControlTypeTest, AnythingElseIsACell) {
     const SelectControlType cell{std::string_view("2,5")};
-    EXPECT_EQ(cell.getMode(), SelectControlType::specific);
+    EXPECT_EQ(cell.getMode(), SelectControlType::SPECIFIC);
     EXPECT_EQ(cell.toXmlString(), "2,5");
     EXPECT_EQ(SelectControlType(std::string_view("3")).getCell(), Cell(3, -1));
     EXPECT_EQ(SelectControlType(std::string_view(" 2 , 5 ")).toXmlString(), "2,5");
@@ -104,7 +104,7 @@ TEST(OnOffToggleTest, ADefaultOneToggles) {
 }
 
 TEST(OnOffToggleTest, EqualityComparesTheState) {
-    constexpr OnOffToggle::State STATES[] = {OnOffToggle::on, OnOffToggle::off, OnOffToggle::toggle};
+    constexpr OnOffToggle::State STATES[] = {OnOffToggle::ON, OnOffToggle::OFF, OnOffToggle::TOGGLE};
     for (const auto left : STATES)
         for (const auto right : STATES)
             EXPECT_EQ(OnOffToggle(left) == OnOffToggle(right), left == right) << left << ' ' << right;
@@ -121,9 +121,9 @@ TEST(OnOffToggleTest, AnythingButOnAndOffToggles) {
 
 TEST(OnOffToggleTest, AppliesToAFlag) {
     for (const bool flag : {false, true}) {
-        EXPECT_TRUE(OnOffToggle(OnOffToggle::on).applyTo(flag));
-        EXPECT_FALSE(OnOffToggle(OnOffToggle::off).applyTo(flag));
-        EXPECT_EQ(OnOffToggle(OnOffToggle::toggle).applyTo(flag), !flag);
+        EXPECT_TRUE(OnOffToggle(OnOffToggle::ON).applyTo(flag));
+        EXPECT_FALSE(OnOffToggle(OnOffToggle::OFF).applyTo(flag));
+        EXPECT_EQ(OnOffToggle(OnOffToggle::TOGGLE).applyTo(flag), !flag);
         EXPECT_EQ(OnOffToggle(static_cast<OnOffToggle::State>(7)).applyTo(flag), !flag);
     }
 }
@@ -133,7 +133,7 @@ TEST(NoteToggleTest, ADefaultOneIsOff) {
 }
 
 TEST(NoteToggleTest, EqualityComparesTheState) {
-    constexpr NoteToggle::State STATES[] = {NoteToggle::off, NoteToggle::type1, NoteToggle::type2};
+    constexpr NoteToggle::State STATES[] = {NoteToggle::OFF, NoteToggle::TYPE1, NoteToggle::TYPE2};
     for (const auto left : STATES)
         for (const auto right : STATES)
             EXPECT_EQ(NoteToggle(left) == NoteToggle(right), left == right) << left << ' ' << right;

@@ -33,9 +33,9 @@ TEST(ControlTypeTest, EachKindHasItsText) {
 }
 
 TEST(ControlTypeTest, TextsAreTrimmedAndCaseCounts) {
-    EXPECT_EQ(ControlType(" knob\t").getKind(), ControlType::knob);
+    EXPECT_EQ(ControlType(" knob\t").getKind(), ControlType::KNOB);
     for (const char* text : {"Knob", "KNOB", "fader", "edit,", "0", " "})
-        EXPECT_EQ(ControlType(text).getKind(), ControlType::none) << text;
+        EXPECT_EQ(ControlType(text).getKind(), ControlType::NONE) << text;
 }
 
 Control readControl(const std::string& xml) {
@@ -53,7 +53,7 @@ TEST(ControlTest, WhatIsMissingTakesItsDefault) {
     const Control control = readControl("<Control><Function/><Other/></Control>");
     EXPECT_EQ(control.cell, Cell());
     EXPECT_EQ(control.name, "");
-    EXPECT_EQ(control.type.getKind(), ControlType::none);
+    EXPECT_EQ(control.type.getKind(), ControlType::NONE);
     EXPECT_EQ(control.value, 0);
     EXPECT_EQ(control.min, 0);
     EXPECT_EQ(control.max, 127);

@@ -57,7 +57,7 @@ TEST(LayerTest, MissingAttributesTakeTheirDefaults) {
     EXPECT_EQ(layer.key.getNumber(), 255);
     EXPECT_EQ(layer.velocity, RelativeFixedValue(true, 0));
     EXPECT_EQ(layer.compress, Fraction(1, 1));
-    EXPECT_EQ(layer.toggle.getState(), NoteToggle::off);
+    EXPECT_EQ(layer.toggle.getState(), NoteToggle::OFF);
     EXPECT_EQ(layer.arpeggio, nullptr);
     EXPECT_FALSE(layer.sequenceSetting.getSequence().hasNodes());
     EXPECT_EQ(Layer().id, -1);

@@ -111,7 +111,7 @@ TEST_F(PortDeskTest, RecordsWhatGoesToAnotherOutput) {
         const int synth = findOutput(*desk, "Synth");
         ASSERT_GE(synth, 0);
         const std::size_t sent = system->sent("Synth").size();
-        desk->mirel().getMessageManager().postChangeDefaultMidiOutput(SelectType(SelectType::specific, synth));
+        desk->mirel().getMessageManager().postChangeDefaultMidiOutput(SelectType(SelectType::SPECIFIC, synth));
         desk->waitUntilIdle();
         play(*desk, synth, MidiMessage::NoteOn, 60);
         play(*desk, synth, MidiMessage::NoteOff, 60);

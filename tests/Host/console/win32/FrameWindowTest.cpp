@@ -410,10 +410,10 @@ SingleInstance::Result startAgain(HWND window, const std::string& data, const Op
                                   const std::string& sameData,
                                   std::chrono::milliseconds limit = SingleInstance::WAIT_LIMIT) {
     SingleInstance first(data);
-    EXPECT_EQ(first.enter({}), SingleInstance::Result::first);
+    EXPECT_EQ(first.enter({}), SingleInstance::Result::FIRST);
     first.announce(window);
     std::atomic<bool> done = false;
-    auto result = SingleInstance::Result::first;
+    auto result = SingleInstance::Result::FIRST;
     {
         // Locks know threads, so another one can stand for another process.
         const TestSupport::OtherThread other([&] {
@@ -429,7 +429,7 @@ TEST_F(FrameWindowTest, TakesTheRequestsOfAnotherStart) {
     open();
     const OpenRequest request{"C:\\b.bnk", "Lead", {"C:\\x.prg"}};
     EXPECT_EQ(startAgain(window(), "frame window test", request, "FRAME window TEST\\"),
-              SingleInstance::Result::handedOver);
+              SingleInstance::Result::HANDED_OVER);
     EXPECT_EQ(listener.requests, std::vector<OpenRequest>{request});
 }
 
@@ -438,7 +438,7 @@ TEST_F(FrameWindowTest, AClosingDeskTakesNoRequests) {
     listener.opens = false;
     EXPECT_EQ(
         startAgain(window(), "closing frame", {"C:\\b.bnk", "", {}}, "closing frame", std::chrono::milliseconds(100)),
-        SingleInstance::Result::failed)
+        SingleInstance::Result::FAILED)
         << "it would have started when this one is gone";
     EXPECT_TRUE(listener.requests.empty());
 }
@@ -465,37 +465,37 @@ TEST(SingleInstance, AnotherFolderIsAnotherDesk) {
     EXPECT_EQ(SingleInstance::keyOf("C:\\Data"), SingleInstance::keyOf("c:\\data\\"));
     EXPECT_NE(SingleInstance::keyOf("C:\\Data"), SingleInstance::keyOf("C:\\Data2"));
     SingleInstance first("C:\\one");
-    EXPECT_EQ(first.enter({}), SingleInstance::Result::first);
+    EXPECT_EQ(first.enter({}), SingleInstance::Result::FIRST);
     SingleInstance second("C:\\two");
-    EXPECT_EQ(second.enter({}), SingleInstance::Result::first);
+    EXPECT_EQ(second.enter({}), SingleInstance::Result::FIRST);
 }
 
 TEST(SingleInstance, ADeskThatDoesNotAnswerIsNotWaitedForForEver) {
     SingleInstance first("C:\\silent");
-    ASSERT_EQ(first.enter({}), SingleInstance::Result::first);
-    auto result = SingleInstance::Result::first;
+    ASSERT_EQ(first.enter({}), SingleInstance::Result::FIRST);
+    auto result = SingleInstance::Result::FIRST;
     {
         const TestSupport::OtherThread other([&result] {
             SingleInstance second("C:\\silent");
             result = second.enter({}, std::chrono::milliseconds(100));
         });
     }
-    EXPECT_EQ(result, SingleInstance::Result::failed);
+    EXPECT_EQ(result, SingleInstance::Result::FAILED);
 }
 
 TEST(SingleInstance, TheNextDeskStartsWhenTheFirstHasEnded) {
     {
         SingleInstance first("C:\\next");
-        ASSERT_EQ(first.enter({}), SingleInstance::Result::first);
+        ASSERT_EQ(first.enter({}), SingleInstance::Result::FIRST);
     }
-    auto result = SingleInstance::Result::failed;
+    auto result = SingleInstance::Result::FAILED;
     {
         const TestSupport::OtherThread other([&result] {
             SingleInstance second("C:\\next");
             result = second.enter({});
         });
     }
-    EXPECT_EQ(result, SingleInstance::Result::first);
+    EXPECT_EQ(result, SingleInstance::Result::FIRST);
 }
 
 }

@@ -228,9 +228,9 @@ TEST_F(MirelConsoleTest, SaysThatAFileIsNoneOfTheDesks) {
     const HWND frame = program.waitForFrame();
     ASSERT_NE(frame, nullptr) << readOutput();
     SingleInstance other(folder.file("data"));
-    EXPECT_EQ(other.enter({"", "", {"C:\\notes.txt"}}), SingleInstance::Result::handedOver);
+    EXPECT_EQ(other.enter({"", "", {"C:\\notes.txt"}}), SingleInstance::Result::HANDED_OVER);
     EXPECT_EQ(program.answerBox(), "C:\\notes.txt: is neither a bank (.bnk) nor a program (.prg).");
-    EXPECT_EQ(other.enter({"", "nothing", {}}), SingleInstance::Result::handedOver);
+    EXPECT_EQ(other.enter({"", "nothing", {}}), SingleInstance::Result::HANDED_OVER);
     EXPECT_EQ(program.answerBox(), "The bank has no program \"nothing\".");
     PostMessageA(frame, WM_CLOSE, 0, 0);
     EXPECT_EQ(program.wait(), 0u);
