@@ -32,27 +32,10 @@ private:
 
 }
 
-class RunningDesk::Calls : public MessageManager {
-public:
-    using Action = std::function<void()>;
-
-    using MessageManager::MessageManager;
-
-    void post(const Action& action) { MessageManager::post(CALL, action); }
-    bool wantMessage(unsigned int message) override { return message == CALL.NUMBER; }
-    void handleMessage(const MSG& message) override {
-        CALL.open(message.wParam, message.lParam, [](const Action& action) { action(); });
-    }
-    void disposeMessage(const MSG& message) override { CALL.dispose(message.wParam, message.lParam); }
-
-private:
-    static constexpr Message<40000, Heap<Action>> CALL{};  // Outside of all families.
-};
-
 RunningDesk::RunningDesk() {
     MirelUtils::useDataFolder(m_folder.path());
     m_mirel = std::make_unique<Mirel>(NAME, *this);
-    m_backendCalls = std::make_unique<Calls>(m_mirel->getMessageManagerMaster());
+    m_backendCalls = std::make_unique<Host::Cli::BackendCalls>(m_mirel->getMessageManagerMaster());
     m_mirel->getMessageManagerMaster().addMessageManager(m_backendCalls.get());
 }
 

@@ -2,6 +2,7 @@
 
 #include "Backend/core/Mirel.h"
 #include "Backend/midi/MidiPlayer.h"
+#include "Host/cli/script/BackendCalls.h"
 #include "Platform/MessageThread.h"
 #include "Platform/WindowSink.h"
 #include "tests/support/TemporaryFolder.h"
@@ -80,8 +81,6 @@ public:
     std::atomic<DWORD> playerThread = 0;  // That played.
 
 private:
-    class Calls;
-
     void playMidi(const Backend::MidiEngine::MirelMidiMessage& message) override;
     void enableMidiInput(int port, bool enable) override;
     void enableMidiOutput(int port, bool enable) override;
@@ -103,7 +102,7 @@ private:
     std::vector<std::string> m_played;
     std::vector<std::string> m_calls;
     std::unique_ptr<Backend::Mirel> m_mirel;
-    std::unique_ptr<Calls> m_backendCalls;
+    std::unique_ptr<Host::Cli::BackendCalls> m_backendCalls;
     bool m_isRunning = false;
     std::int32_t m_clock = 0;
     bool m_hasPlayed = false;

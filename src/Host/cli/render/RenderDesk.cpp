@@ -16,7 +16,8 @@ constexpr std::int32_t ENGINE_ORIGIN = 50000000;
 }
 
 RenderDesk::RenderDesk(const Layers::LayerList& layers, const Zones::ZoneMap& zones)
-    : m_mirel(new ObservedMirel("", *this, [](const MirelMidiMessage&) { return false; })),
+    : m_mirel(std::make_unique<ObservedMirel>("", static_cast<MidiEngine::MidiPlayer&>(*this),
+                                              [](const MirelMidiMessage&) { return false; })),
       m_engine(m_mirel->getMidiEngine()),
       m_threadId(Platform::currentThreadId()) {
     m_engine.initialize(0, false);

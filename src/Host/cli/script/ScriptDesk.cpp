@@ -47,25 +47,6 @@ void setSoloOf(Layers::LayerList& list, const std::vector<std::int32_t>& layers)
 
 }
 
-// Runs actions of the script on the backend thread.
-class ScriptDesk::BackendCalls : public MessageManager {
-public:
-    using Action = std::function<void()>;
-
-    using MessageManager::MessageManager;
-
-    void post(const Action& action) { MessageManager::post(CALL, action); }
-
-    bool wantMessage(unsigned int message) override { return message == CALL.NUMBER; }
-    void handleMessage(const MSG& message) override {
-        CALL.open(message.wParam, message.lParam, [](const Action& action) { action(); });
-    }
-    void disposeMessage(const MSG& message) override { CALL.dispose(message.wParam, message.lParam); }
-
-private:
-    static constexpr Message<40000, Heap<Action>> CALL{};  // Outside of all families of the desk.
-};
-
 ScriptDesk::ScriptDesk(ScriptPlayer::Options options) : m_player(options), m_mirel(createMirel()) {
     m_mirel->setGuiWindowHandle(m_player.getWindowHandle());
     m_mirel->getMidiEngine().initialize(0, false);
@@ -85,11 +66,15 @@ ScriptDesk::~ScriptDesk() {
 
 std::unique_ptr<ObservedMirel> ScriptDesk::createMirel() {
     return std::make_unique<ObservedMirel>(MIREL_PRODUCT, m_player, [this](const MirelMidiMessage& message) {
-        m_player.tellUpdate(message);
-        if (m_isStarted)
-            m_updates.push_back(message);
+        keepUpdate(message);
         return false;
     });
+}
+
+void ScriptDesk::keepUpdate(const MirelMidiMessage& message) {
+    m_player.tellUpdate(message);
+    if (m_isStarted)
+        m_updates.push_back(message);
 }
 
 void ScriptDesk::start() {
@@ -193,8 +178,13 @@ void ScriptDesk::playTimeSlice(std::int32_t from, std::int32_t to) {
     m_player.setSliceFrom(from);
     m_mirel->playTimeSlice(from, to);
     // During the slice they would be heard of between its events, or after them, as it happens.
-    for (const MirelMidiMessage& update : std::exchange(m_updates, {}))
-        m_mirel->getControls().getMessageManager().postUpdateControl(update);
+    postUpdates();
+}
+
+void ScriptDesk::postUpdates() {
+    auto& controls = m_mirel->getControls().getMessageManager();
+    while (!m_updates.empty() && controls.postUpdateControl(m_updates.front()))
+        m_updates.pop_front();
 }
 
 void ScriptDesk::reset() {
@@ -241,7 +231,7 @@ std::string ScriptDesk::getLog() {
 // Work comes to the backend from here and from slices, to the engine also from the backend, and to the display from
 // the backend. In this order, what rests stays so.
 bool ScriptDesk::isResting() {
-    return (!m_isStarted || m_mirel->getMessageManagerMaster().isIdle()) && engine().isIdle() &&
+    return m_updates.empty() && (!m_isStarted || m_mirel->getMessageManagerMaster().isIdle()) && engine().isIdle() &&
            (!m_isStarted || m_mirel->getDisplayMessageManager().isIdle());
 }
 
@@ -264,6 +254,7 @@ void ScriptDesk::playUntil(int ownCallers, Condition isDone) {
     while (!isDone()) {
         if (isSliceNeeded(ownCallers))
             playTimeSlice(m_clock, m_clock);
+        postUpdates();
         std::this_thread::yield();
     }
 }

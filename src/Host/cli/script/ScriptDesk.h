@@ -2,11 +2,13 @@
 
 #include "Backend/core/MirelIF.h"
 #include "Backend/midi/layers/LayerList.h"
+#include "Host/cli/script/BackendCalls.h"
 #include "Host/cli/script/ScriptPlayer.h"
 #include "Host/common/desk/ObservedMirel.h"
 
 #include <atomic>
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <string>
@@ -69,15 +71,20 @@ public:
     std::string takeOutput() { return m_player.takeOutput(); }
 
 private:
-    class BackendCalls;
+    [[nodiscard]] std::unique_ptr<ObservedMirel> createMirel();
 
-    std::unique_ptr<ObservedMirel> createMirel();
+    // During a slice, an event that the controls hear of after it.
+    void keepUpdate(const Backend::MidiEngine::MirelMidiMessage& message);
+
     Backend::MidiEngine::MidiEngineMessageManager& engine() { return m_mirel->getMidiEngineMessageManager(); }
     bool isResting();
     void waitUntilResting();
 
     // A slice alone. What the controls hear of they hear after it, so that a script always finds the same order.
     void playTimeSlice(std::int32_t from, std::int32_t to);
+
+    // As many as the controls take.
+    void postUpdates();
 
     bool isSliceNeeded(int ownCallers);
 
@@ -92,9 +99,9 @@ private:
     std::vector<Backend::MidiEngine::MidiInputPort> m_inputs;
     std::vector<Backend::MidiEngine::MidiOutputPort> m_outputs;
     std::unique_ptr<ObservedMirel> m_mirel;
-    std::unique_ptr<BackendCalls> m_calls;                         // Of the desk that was started.
-    Backend::Layers::LayerList m_layers;                           // Of the engine alone.
-    std::vector<Backend::MidiEngine::MirelMidiMessage> m_updates;  // Of the slice that plays, on its thread.
+    std::unique_ptr<BackendCalls> m_calls;                        // Of the desk that was started.
+    Backend::Layers::LayerList m_layers;                          // Of the engine alone.
+    std::deque<Backend::MidiEngine::MirelMidiMessage> m_updates;  // That the controls have not heard of yet.
     std::atomic<bool> m_isStarted = false;
     std::int32_t m_clock = 0;
 };
