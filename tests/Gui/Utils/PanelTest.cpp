@@ -47,6 +47,21 @@ LONG_PTR styleOf(const Panel& panel) {
 }
 
 // A window with a root panel, and three dialogs below it of 100, 50 and 70 pixels.
+// Where a panel is in its parent.
+struct Place {
+    long y;
+    long windowHeight;
+    int height;  // As the panel says it, with the free space above.
+
+    bool operator==(const Place&) const = default;
+};
+
+using Places = std::vector<Place>;
+
+void PrintTo(const Place& place, std::ostream* stream) {
+    *stream << "{y " << place.y << ", window " << place.windowHeight << ", height " << place.height << "}";
+}
+
 class PanelTest : public testing::Test {
 protected:
     PanelTest() {
@@ -58,20 +73,18 @@ protected:
         }
     }
 
-    // "y:windowHeight:height" for each.
-    std::string places(const std::vector<const Panel*>& panels) {
-        std::string text;
+    static Places places(const std::vector<const Panel*>& panels) {
+        Places places;
         for (const Panel* panel : panels) {
             const RECT rect = rectInParent(panel->getWindowHandle());
             EXPECT_EQ(rect.left, 0);
             EXPECT_EQ(rect.right, panel->getWidth());
-            text += (text.empty() ? "" : " ") + std::to_string(rect.top) + ":" +
-                    std::to_string(rect.bottom - rect.top) + ":" + std::to_string(panel->getHeight());
+            places.push_back({rect.top, rect.bottom - rect.top, panel->getHeight()});
         }
-        return text;
+        return places;
     }
 
-    std::string abc() { return places({&a, &b, &c}); }
+    Places abc() { return places({&a, &b, &c}); }
 
     static SIZE sizeOf(HWND window) {
         RECT rect{};
@@ -87,7 +100,7 @@ protected:
 };
 
 TEST_F(PanelTest, StartsHiddenAtTheTopLeftWithNoHeightToShow) {
-    EXPECT_EQ(abc(), "0:100:100 0:50:50 0:70:70");
+    EXPECT_EQ(abc(), (Places{{0, 100, 100}, {0, 50, 50}, {0, 70, 70}}));
     EXPECT_EQ(root.getHeight(), 0);
     for (const Panel* panel : {&root, &a, &b, &c})
         EXPECT_FALSE(panel->isVisible());
@@ -99,16 +112,21 @@ TEST_F(PanelTest, FlowsThroughAnySequenceOfShowingAndHiding) {
     struct Step {
         char panel;
         bool show;
-        const char* places;
+        Places places;
         int rootHeight;
     };
     const Step steps[] = {
-        {'b', true, "0:100:100 0:50:50 50:70:70", 50},      {'a', true, "0:100:100 105:50:55 155:70:70", 155},
-        {'a', false, "0:100:100 0:50:50 50:70:70", 50},     {'c', true, "0:100:100 0:50:50 55:70:75", 125},
-        {'a', true, "0:100:100 105:50:55 160:70:75", 230},  {'b', false, "0:100:100 100:50:50 105:70:75", 175},
-        {'b', false, "0:100:100 100:50:50 105:70:75", 175}, {'a', false, "0:100:100 0:50:50 0:70:70", 70},
-        {'b', true, "0:100:100 0:50:50 55:70:75", 125},     {'c', false, "0:100:100 0:50:50 50:70:70", 50},
-        {'b', false, "0:100:100 0:50:50 0:70:70", 0},
+        {'b', true, {{0, 100, 100}, {0, 50, 50}, {50, 70, 70}}, 50},
+        {'a', true, {{0, 100, 100}, {105, 50, 55}, {155, 70, 70}}, 155},
+        {'a', false, {{0, 100, 100}, {0, 50, 50}, {50, 70, 70}}, 50},
+        {'c', true, {{0, 100, 100}, {0, 50, 50}, {55, 70, 75}}, 125},
+        {'a', true, {{0, 100, 100}, {105, 50, 55}, {160, 70, 75}}, 230},
+        {'b', false, {{0, 100, 100}, {100, 50, 50}, {105, 70, 75}}, 175},
+        {'b', false, {{0, 100, 100}, {100, 50, 50}, {105, 70, 75}}, 175},
+        {'a', false, {{0, 100, 100}, {0, 50, 50}, {0, 70, 70}}, 70},
+        {'b', true, {{0, 100, 100}, {0, 50, 50}, {55, 70, 75}}, 125},
+        {'c', false, {{0, 100, 100}, {0, 50, 50}, {50, 70, 70}}, 50},
+        {'b', false, {{0, 100, 100}, {0, 50, 50}, {0, 70, 70}}, 0},
     };
     for (const Step& step : steps) {
         (step.panel == 'a' ? a : step.panel == 'b' ? b : c).showWnd(step.show);
@@ -122,9 +140,9 @@ TEST_F(PanelTest, ShowingWhatShowsChangesNothing) {
     a.showWnd(true);
     b.showWnd(true);
     b.showWnd(true);
-    EXPECT_EQ(abc(), "0:100:100 105:50:55 155:70:70");
+    EXPECT_EQ(abc(), (Places{{0, 100, 100}, {105, 50, 55}, {155, 70, 70}}));
     c.showWnd(false);
-    EXPECT_EQ(abc(), "0:100:100 105:50:55 155:70:70");
+    EXPECT_EQ(abc(), (Places{{0, 100, 100}, {105, 50, 55}, {155, 70, 70}}));
 }
 
 TEST_F(PanelTest, TopWindowFollowsOnceTheRootShows) {
@@ -157,10 +175,10 @@ TEST_F(PanelTest, HeightChangeMovesWhatLiesBelowAndGrowsTheTop) {
     a.showWnd(true);
     b.showWnd(true);
     b.modifyHeight(80);
-    EXPECT_EQ(abc(), "0:100:100 105:80:85 185:70:70");
+    EXPECT_EQ(abc(), (Places{{0, 100, 100}, {105, 80, 85}, {185, 70, 70}}));
     EXPECT_EQ(sizeOf(top.handle()).cy, 30 + 185);
     a.modifyHeight(10);
-    EXPECT_EQ(abc(), "0:10:10 15:80:85 95:70:70");
+    EXPECT_EQ(abc(), (Places{{0, 10, 10}, {15, 80, 85}, {95, 70, 70}}));
     EXPECT_EQ(sizeOf(top.handle()).cy, 30 + 95);
 }
 
@@ -168,9 +186,9 @@ TEST_F(PanelTest, HeightChangeOfAHiddenPanelMovesNothing) {
     root.showWnd(true);
     b.showWnd(true);
     a.modifyHeight(10);
-    EXPECT_EQ(abc(), "0:10:10 0:50:50 50:70:70");
+    EXPECT_EQ(abc(), (Places{{0, 10, 10}, {0, 50, 50}, {50, 70, 70}}));
     a.showWnd(true);
-    EXPECT_EQ(abc(), "0:10:10 15:50:55 65:70:70");
+    EXPECT_EQ(abc(), (Places{{0, 10, 10}, {15, 50, 55}, {65, 70, 70}}));
 }
 
 TEST_F(PanelTest, PanelOfNoHeightIsVisibleButNobodysNeighbour) {
@@ -200,20 +218,20 @@ TEST_F(PanelTest, ContainerTakesPartWithWhatItHolds) {
 
     // Nothing shows in it.
     box.showWnd(true);
-    EXPECT_EQ(places({&a, &box}), "0:100:100 100:0:0");
+    EXPECT_EQ(places({&a, &box}), (Places{{0, 100, 100}, {100, 0, 0}}));
     inner.showWnd(true);
-    EXPECT_EQ(places({&a, &box, &inner}), "0:100:100 105:40:45 0:40:40");
+    EXPECT_EQ(places({&a, &box, &inner}), (Places{{0, 100, 100}, {105, 40, 45}, {0, 40, 40}}));
     EXPECT_EQ(root.getHeight(), 145);
     EXPECT_EQ(sizeOf(top.handle()).cy, 30 + 145);
     a.showWnd(false);
-    EXPECT_EQ(places({&box, &inner}), "0:40:40 0:40:40");
+    EXPECT_EQ(places({&box, &inner}), (Places{{0, 40, 40}, {0, 40, 40}}));
     a.showWnd(true);
     box.showWnd(false);
-    EXPECT_EQ(places({&box, &inner}), "100:40:40 0:40:40");
+    EXPECT_EQ(places({&box, &inner}), (Places{{100, 40, 40}, {0, 40, 40}}));
     box.showWnd(true);
-    EXPECT_EQ(places({&box, &inner}), "105:40:45 0:40:40");
+    EXPECT_EQ(places({&box, &inner}), (Places{{105, 40, 45}, {0, 40, 40}}));
     inner.showWnd(false);
-    EXPECT_EQ(places({&box, &inner}), "100:0:0 0:40:40");
+    EXPECT_EQ(places({&box, &inner}), (Places{{100, 0, 0}, {0, 40, 40}}));
     EXPECT_EQ(root.getHeight(), 100);
 }
 
@@ -231,11 +249,11 @@ TEST_F(PanelTest, ContainerThatFillsFirstGivesSpacingToTheNext) {
     otherRoot.showWnd(true);
     before.showWnd(true);
     after.showWnd(true);
-    EXPECT_EQ(places({&before, &after}), "0:0:0 0:60:60");
+    EXPECT_EQ(places({&before, &after}), (Places{{0, 0, 0}, {0, 60, 60}}));
     inner.showWnd(true);
-    EXPECT_EQ(places({&before, &after}), "0:40:40 45:60:65");
+    EXPECT_EQ(places({&before, &after}), (Places{{0, 40, 40}, {45, 60, 65}}));
     inner.showWnd(false);
-    EXPECT_EQ(places({&before, &after}), "0:0:0 0:60:60");
+    EXPECT_EQ(places({&before, &after}), (Places{{0, 0, 0}, {0, 60, 60}}));
 }
 
 TEST_F(PanelTest, ChangeInsideAHiddenContainerStopsThere) {
@@ -255,11 +273,12 @@ TEST_F(PanelTest, ChangeInsideAHiddenContainerStopsThere) {
     last.showWnd(true);
     first.showWnd(true);
     second.showWnd(true);
-    EXPECT_EQ(places({&first, &second, &box, &last}), "0:20:20 25:30:35 100:55:55 105:10:15");
+    EXPECT_EQ(places({&first, &second, &box, &last}),
+              (Places{{0, 20, 20}, {25, 30, 35}, {100, 55, 55}, {105, 10, 15}}));
     EXPECT_EQ(root.getHeight(), 115);
     EXPECT_EQ(sizeOf(top.handle()).cy, 30 + 115);
     box.showWnd(true);
-    EXPECT_EQ(places({&box, &last}), "105:55:60 165:10:15");
+    EXPECT_EQ(places({&box, &last}), (Places{{105, 55, 60}, {165, 10, 15}}));
     EXPECT_EQ(root.getHeight(), 175);
 }
 
@@ -275,16 +294,16 @@ TEST_F(PanelTest, PanelWithoutSpacingStaysWhereItIs) {
         panel->modifyHeight(20);
     }
     close.showWnd(true);
-    EXPECT_EQ(places({&close}), "0:20:20");
+    EXPECT_EQ(places({&close}), (Places{{0, 20, 20}}));
     first.showWnd(true);
-    EXPECT_EQ(places({&first, &close}), "0:20:20 20:20:20");
+    EXPECT_EQ(places({&first, &close}), (Places{{0, 20, 20}, {20, 20, 20}}));
     first.showWnd(false);
-    EXPECT_EQ(places({&first, &close}), "0:20:20 0:20:20");
+    EXPECT_EQ(places({&first, &close}), (Places{{0, 20, 20}, {0, 20, 20}}));
     last.showWnd(true);
-    EXPECT_EQ(places({&close, &last}), "0:20:20 25:20:25");
+    EXPECT_EQ(places({&close, &last}), (Places{{0, 20, 20}, {25, 20, 25}}));
     // Its coming and going is nothing to the others.
     close.showWnd(false);
-    EXPECT_EQ(places({&last}), "5:20:25");
+    EXPECT_EQ(places({&last}), (Places{{5, 20, 25}}));
 }
 
 TEST_F(PanelTest, SpacingStopsAtAContainerWithoutIt) {
@@ -298,10 +317,10 @@ TEST_F(PanelTest, SpacingStopsAtAContainerWithoutIt) {
     a.showWnd(true);
     box.showWnd(true);
     inner.showWnd(true);
-    EXPECT_EQ(places({&box, &inner}), "100:40:40 0:40:40");
+    EXPECT_EQ(places({&box, &inner}), (Places{{100, 40, 40}, {0, 40, 40}}));
     EXPECT_EQ(root.getHeight(), 140);
     inner.showWnd(false);
-    EXPECT_EQ(places({&box, &inner}), "100:0:0 0:40:40");
+    EXPECT_EQ(places({&box, &inner}), (Places{{100, 0, 0}, {0, 40, 40}}));
 }
 
 TEST_F(PanelTest, HoldsTwoHundred) {

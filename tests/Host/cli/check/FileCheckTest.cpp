@@ -257,13 +257,28 @@ struct ValueCase {
     std::string said;  // Empty: nothing.
 };
 
-TEST(FileCheck, JudgesValues) {
-    const std::vector<ValueCase> cases = {
-        // Flags
+void expectEach(const std::vector<ValueCase>& cases) {
+    for (const ValueCase& row : cases) {
+        const Said said = check(row.content);
+        if (row.said.empty()) {
+            EXPECT_EQ(said, Said()) << row.content;
+        } else {
+            ASSERT_EQ(said.size(), 1u) << row.content;
+            EXPECT_EQ(said.front().substr(said.front().find(' ') + 1), row.said);
+        }
+    }
+}
+
+TEST(FileCheck, JudgesFlags) {
+    expectEach({
         {layerWith("mute=\"false\"", "mute=\"YES\""), ""},
         {layerWith("mute=\"false\"", "mute=\"True\""),
          "mute=\"True\" of Layer is neither true nor false, so \"false\" is taken"},
-        // Numbers
+    });
+}
+
+TEST(FileCheck, JudgesNumbers) {
+    expectEach({
         {layerWith("minVelocity=\"0\"", "minVelocity=\" +7\""), ""},
         {layerWith("minVelocity=\"0\"", "minVelocity=\"7x\""), "minVelocity=\"7x\" of Layer is read as \"7\""},
         {layerWith("minVelocity=\"0\"", "minVelocity=\"128\""), "minVelocity=\"128\" of Layer is outside 0 to 127"},
@@ -273,7 +288,11 @@ TEST(FileCheck, JudgesValues) {
         {layerWith("channel=\"0\"", "channel=\"16\""), "channel=\"16\" of Layer is outside -1 to 15"},
         {layerWith("zone=\"-1\"", "zone=\"-2\""), "zone=\"-2\" of Layer is outside -1 to 127"},
         {layerWith("output=\"-1\"", "output=\"128\""), "output=\"128\" of Layer is outside -1 to 127"},
-        // Notes
+    });
+}
+
+TEST(FileCheck, JudgesNotes) {
+    expectEach({
         {layerWith("minNote=\"C-1\"", "minNote=\"eb2\""), ""},
         {layerWith("minNote=\"C-1\"", "minNote=\"60\""), ""},
         {layerWith("minNote=\"C-1\"", "minNote=\"C\""), ""},
@@ -288,13 +307,22 @@ TEST(FileCheck, JudgesValues) {
         {layerWith("maxNote=\"G9\"", "maxNote=\"\""), "maxNote=\"\" of Layer is no note, so \"G9\" is taken"},
         {layerWith("key=\"\"", "key=\"A\""), ""},
         {layerWith("key=\"\"", "key=\"x\""), "key=\"x\" of Layer is no note from C-1 to G9; it is read as \"C4\""},
-        // Amounts, ratios and selectors
+    });
+}
+
+TEST(FileCheck, JudgesAmountsRatiosAndSelectors) {
+    expectEach({
         {layerWith("transpose=\"\"", "transpose=\"-12\""), ""},
         {layerWith("transpose=\"\"", "transpose=\"up\""), "transpose=\"up\" of Layer is no amount such as +5, -5 or 5"},
         {layerWith("compress=\"1_1\"", "compress=\"3/4\""), ""},
         {layerWith("compress=\"1_1\"", "compress=\"3\""), ""},
         {layerWith("compress=\"1_1\"", "compress=\"0_500\""), "compress=\"0_500\" of Layer is read as \"1_99\""},
         {layerWith("toggle=\"off\"", "toggle=\"type3\""), "toggle=\"type3\" of Layer is read as \"off\""},
+    });
+}
+
+TEST(FileCheck, JudgesAttributesOfControls) {
+    expectEach({
         {controlWith("type=\"knob\"", "type=\"\""), ""},
         {controlWith("type=\"knob\"", "type=\"Knob\""), "type=\"Knob\" of Control is read as \"\""},
         {controlWith("cell=\"0,0\"", "cell=\" 15, 15\""), ""},
@@ -305,11 +333,20 @@ TEST(FileCheck, JudgesValues) {
         {controlWith("value=\"0\"", "value=\"128\""), "value=\"128\" of Control is outside its own 0 to 127"},
         {controlWith("min=\"0\" max=\"127\"", "min=\"127\" max=\"0\""), ""},
         {controlWith("release=\"-1\"", "release=\"200\""), "release=\"200\" of Control is outside its own 0 to 127"},
+    });
+}
+
+TEST(FileCheck, JudgesZones) {
+    expectEach({
         {"<Zones merge=\"true\"/>", "merge=\"true\" of Zones has no effect; the desk takes it for false"},
         {"<Zones merge=\"false\"><Zone id=\"128\" transpose=\"0\"/></Zones>", "id=\"128\" of Zone is outside 0 to 127"},
         {"<Zones merge=\"false\"><Zone id=\"1\" transpose=\"-129\"/></Zones>",
          "transpose=\"-129\" of Zone is outside -128 to 127"},
-        // Functions
+    });
+}
+
+TEST(FileCheck, JudgesValuesOfFunctions) {
+    expectEach({
         {keyWith("<MidiNoteOn note=\"C4\" velocity=\"128\"/>"), "velocity=\"128\" of MidiNoteOn is outside 0 to 127"},
         {keyWith("<MidiNoteOn channel=\"16\" note=\"C4\" velocity=\"1\"/>"),
          "channel=\"16\" of MidiNoteOn is outside -1 to 15"},
@@ -326,7 +363,11 @@ TEST(FileCheck, JudgesValues) {
         {keyWith("<SelectControl type=\"2,16\"/>"), "type=\"2,16\" of SelectControl is no cell from 0,0 to 15,15"},
         {keyWith("<ChangeTempo value=\"++1\"/>"), "value=\"++1\" of ChangeTempo is no amount such as +5, -5 or 5"},
         {keyWith("<NoFunction/>"), ""},
-        // Keys
+    });
+}
+
+TEST(FileCheck, JudgesNamesOfKeys) {
+    expectEach({
         {keys("<Key id=\"\" global=\"true\"/>"), ""},
         {keys("<Key id=\"Unknown\" global=\"true\"/>"), ""},
         {keys("<Key id=\"Shift Control Alt Win Numpad Enter\" global=\"true\"/>"), ""},
@@ -334,22 +375,17 @@ TEST(FileCheck, JudgesValues) {
          "id=\"Left Shift\" of Key is no key's name, so that no key reaches it"},
         {keys("<Key id=\"shift F1\" global=\"true\"/>"),
          "id=\"shift F1\" of Key is no key's name, so that no key reaches it"},
-        // Sequences
+    });
+}
+
+TEST(FileCheck, JudgesSequences) {
+    expectEach({
         {"<Sequence>0 V10 L240,12|7, -,,v-3</Sequence>", ""},
         {"<Sequence>0,a,12</Sequence>", "the sequence holds \"a\", which can't be read"},
         {"<Sequence>0 Vx</Sequence>", "the sequence holds \"Vx\", which can't be read"},
         {"<Sequence>1 2 3 4</Sequence>",
          "the sequence holds more than three offsets in one item; those behind are ignored"},
-    };
-    for (const ValueCase& row : cases) {
-        const Said said = check(row.content);
-        if (row.said.empty()) {
-            EXPECT_EQ(said, Said()) << row.content;
-        } else {
-            ASSERT_EQ(said.size(), 1u) << row.content;
-            EXPECT_EQ(said.front().substr(said.front().find(' ') + 1), row.said);
-        }
-    }
+    });
 }
 
 TEST(FileCheck, JudgesEventsOfControls) {
