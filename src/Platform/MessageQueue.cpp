@@ -2,6 +2,8 @@
 
 #include "Platform/AddressWait.h"
 
+#include <thread>
+
 namespace Platform {
 
 namespace {
@@ -10,79 +12,89 @@ thread_local MessageQueue* currentQueue = nullptr;
 
 }
 
-MessageQueue::MessageQueue(std::size_t capacity)
-    : m_capacity(capacity), m_slots(std::make_unique_for_overwrite<Slot[]>(capacity)) {}
+// All that is counted or marked is in one order that all threads agree on, as reader, posters and waiters each write
+// one word and then look at another's.
+MessageQueue::MessageQueue(std::size_t capacity) : m_capacity(capacity), m_slots(std::make_unique<Slot[]>(capacity)) {}
 
 void MessageQueue::open() {
-    const std::lock_guard lock(m_mutex);
-    m_first = 0;
-    m_count = 0;
-    m_readerAsleep = false;
-    m_open = true;
+    for (MSG old; tryGet(old);) {
+    }
+    m_readerAsleep.store(false);
+    m_in.fetch_and(~CLOSED);
 }
 
 void MessageQueue::close() {
-    const std::lock_guard lock(m_mutex);
-    m_open = false;
-    m_readerAsleep = false;
+    m_in.fetch_or(CLOSED);
     tellIdleWaiters();
 }
 
 bool MessageQueue::isOpen() const {
-    const std::lock_guard lock(m_mutex);
-    return m_open;
+    return (m_in.load() & CLOSED) == 0;
 }
 
 bool MessageQueue::post(UINT message, WPARAM wParam, LPARAM lParam) {
-    {
-        const std::lock_guard lock(m_mutex);
-        if (!m_open || m_count == m_capacity)
+    std::uint64_t in = m_in.load();
+    do {
+        // The reader may have gone on since m_in was read; then the exchange fails.
+        const auto waiting = static_cast<std::int64_t>(postsOf(in) - m_out.load());
+        if ((in & CLOSED) != 0 || waiting >= static_cast<std::int64_t>(m_capacity))
             return false;
-        m_slots[(m_first + m_count) % m_capacity] = {message, wParam, lParam};
-        ++m_count;
-        if (!m_readerAsleep)
-            return true;
-        m_readerAsleep = false;
-        m_posted.fetch_add(1);
-    }
-    wakeOne(m_posted);
+    } while (!m_in.compare_exchange_weak(in, in + 2));
+    Slot& slot = slotOf(postsOf(in));
+    slot.message = message;
+    slot.wParam = wParam;
+    slot.lParam = lParam;
+    slot.filled.store(postsOf(in) + 1);
+    wakeReader();
     return true;
 }
 
+void MessageQueue::wakeReader() {
+    if (!m_readerAsleep.load() || !m_readerAsleep.exchange(false))
+        return;
+    m_posted.fetch_add(1);
+    wakeOne(m_posted);
+}
+
 bool MessageQueue::get(MSG& message) {
-    std::unique_lock lock(m_mutex);
     while (!takeOldest(message)) {
-        m_readerAsleep = true;
-        tellIdleWaiters();
         const std::uint32_t seen = m_posted.load();
-        lock.unlock();
-        waitWhileEqual(m_posted, seen);
-        lock.lock();
+        m_readerAsleep.store(true);
+        if (!isOldestFilled()) {
+            tellIdleWaiters();
+            waitWhileEqual(m_posted, seen);
+        }
+        m_readerAsleep.store(false);
     }
-    m_readerAsleep = false;
     return message.message != WM_QUIT;
 }
 
 bool MessageQueue::tryGet(MSG& message) {
-    const std::lock_guard lock(m_mutex);
-    return takeOldest(message);
+    while (!takeOldest(message)) {
+        if (m_out.load() == postsOf(m_in.load()))
+            return false;
+        std::this_thread::yield();  // A post is at work on the oldest message.
+    }
+    return true;
 }
 
 bool MessageQueue::isIdle() const {
-    const std::lock_guard lock(m_mutex);
-    return isIdleLocked();
+    const std::uint64_t in = m_in.load();
+    if ((in & CLOSED) != 0)
+        return true;
+    // With no post between the two looks at m_in, the queue was empty when the reader was seen asleep.
+    return m_out.load() == postsOf(in) && m_readerAsleep.load() && m_in.load() == in;
 }
 
 void MessageQueue::waitUntilIdle() {
-    std::unique_lock lock(m_mutex);
-    ++m_idleWaiters;
-    while (!isIdleLocked()) {
+    m_idleWaiters.fetch_add(1);
+    for (;;) {
         const std::uint32_t seen = m_idled.load();
-        lock.unlock();
+        if (isIdle())
+            break;
         waitWhileEqual(m_idled, seen);
-        lock.lock();
     }
-    --m_idleWaiters;
+    m_idleWaiters.fetch_sub(1);
 }
 
 MessageQueue* MessageQueue::ofCurrentThread() {
@@ -93,25 +105,26 @@ void MessageQueue::setOfCurrentThread(MessageQueue* queue) {
     currentQueue = queue;
 }
 
+bool MessageQueue::isOldestFilled() const {
+    const std::uint64_t out = m_out.load();
+    return slotOf(out).filled.load() == out + 1;
+}
+
 bool MessageQueue::takeOldest(MSG& message) {
-    if (m_count == 0)
+    if (!isOldestFilled())
         return false;
-    const Slot& slot = m_slots[m_first];
+    const std::uint64_t out = m_out.load();
+    const Slot& slot = slotOf(out);
     message = MSG();
     message.message = slot.message;
     message.wParam = slot.wParam;
     message.lParam = slot.lParam;
-    m_first = (m_first + 1) % m_capacity;
-    --m_count;
+    m_out.store(out + 1);
     return true;
 }
 
-bool MessageQueue::isIdleLocked() const {
-    return !m_open || (m_count == 0 && m_readerAsleep);
-}
-
 void MessageQueue::tellIdleWaiters() {
-    if (m_idleWaiters == 0)
+    if (m_idleWaiters.load() == 0)
         return;
     m_idled.fetch_add(1);
     wakeAll(m_idled);

@@ -6,12 +6,14 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <mutex>
 
 namespace Platform {
 
-// The queue of one thread: a ring of messages that is allocated once. Posting and taking allocate nothing, and a post
-// to a reader that is not asleep costs no system call.
+// The queue of one thread: a ring of messages that is allocated once. It has no lock, so no post waits for another one
+// or for the reader, and a post to a reader that is not asleep costs no system call.
+//
+// A post claims a place by counting m_in up, writes its message there and marks the place as filled. The reader takes
+// the oldest message once its place is filled, and frees the place by counting m_out up.
 class MessageQueue {
 public:
     // A closed queue for this many messages.
@@ -26,20 +28,20 @@ public:
     // [any] Refuses posts from now on. What is in the queue stays. A closed queue is idle.
     void close();
 
-    // [any]
-    bool isOpen() const;
+    // [any, rt]
+    [[nodiscard]] bool isOpen() const;
 
-    // [any] Appends. False, and nothing is kept, if the queue is closed or full.
-    bool post(UINT message, WPARAM wParam, LPARAM lParam);
+    // [any, rt] Appends. False, and nothing is kept, if the queue is closed or full.
+    [[nodiscard]] bool post(UINT message, WPARAM wParam, LPARAM lParam);
 
     // [reader] Blocks until a message comes and takes it. False for WM_QUIT. There is one reader at a time.
-    bool get(MSG& message);
+    [[nodiscard]] bool get(MSG& message);
 
-    // [any] Takes the oldest message if there is one.
-    bool tryGet(MSG& message);
+    // [reader, or whoever is left when it has gone] Takes the oldest message if there is one.
+    [[nodiscard]] bool tryGet(MSG& message);
 
-    // [any] Whether the queue is closed, or empty with its reader asleep in get().
-    bool isIdle() const;
+    // [any, rt] Whether the queue is closed, or empty with its reader asleep in get().
+    [[nodiscard]] bool isIdle() const;
 
     // [any but the reader] Blocks until isIdle.
     void waitUntilIdle();
@@ -52,28 +54,34 @@ public:
 
 private:
     struct Slot {
+        std::atomic<std::uint64_t> filled{0};  // The count of the post that filled it last, from 1.
         UINT message;
         WPARAM wParam;
         LPARAM lParam;
     };
 
+    // m_in is twice the count of posts, plus this while the queue is closed: so no post gets in past a close.
+    static constexpr std::uint64_t CLOSED = 1;
+    static std::uint64_t postsOf(std::uint64_t in) { return in / 2; }
+
+    Slot& slotOf(std::uint64_t post) const { return m_slots[post % m_capacity]; }
+    bool isOldestFilled() const;
     bool takeOldest(MSG& message);
-    bool isIdleLocked() const;
+    void wakeReader();
     void tellIdleWaiters();
 
     const std::size_t m_capacity;
     const std::unique_ptr<Slot[]> m_slots;
-    mutable std::mutex m_mutex;
-    std::size_t m_first = 0;
-    std::size_t m_count = 0;
-    bool m_open = false;
+    alignas(64) std::atomic<std::uint64_t> m_in{CLOSED};
+    alignas(64) std::atomic<std::uint64_t> m_out{0};  // How many messages were taken.
 
     // Set by the reader before it sleeps and cleared by whoever gives it a reason to wake, so that only the first post
-    // of a burst pays for waking it, and so that a message on its way to the reader never looks like an idle queue.
-    bool m_readerAsleep = false;
-    unsigned m_idleWaiters = 0;
+    // of a burst pays for waking it. The reader clears it before it takes a message, so that one that it is at work on
+    // never looks like an idle queue.
+    std::atomic<bool> m_readerAsleep{false};
+    std::atomic<unsigned> m_idleWaiters{0};
 
-    // Words to sleep on. Each is changed under the mutex before its sleepers are woken.
+    // Words to sleep on, counted up before their sleepers are woken.
     std::atomic<std::uint32_t> m_posted{0};
     std::atomic<std::uint32_t> m_idled{0};
 };

@@ -1,14 +1,18 @@
 #include "Platform/AutoResetEvent.h"
 
-#include <condition_variable>
-#include <mutex>
+#include "Platform/AddressWait.h"
+
+#include <atomic>
+#include <cstdint>
 
 namespace Platform {
 
+// Without a lock, as the player's thread sets events: whoever is about to wait for one never holds it up.
 struct AutoResetEvent::State {
-    std::mutex mutex;
-    std::condition_variable changed;
-    bool isSet = false;
+    static constexpr std::uint32_t UNSET = 0;
+    static constexpr std::uint32_t SET = 1;
+
+    std::atomic<std::uint32_t> word{UNSET};
 };
 
 AutoResetEvent::AutoResetEvent() : m_state(std::make_unique<State>()) {}
@@ -16,15 +20,13 @@ AutoResetEvent::AutoResetEvent() : m_state(std::make_unique<State>()) {}
 AutoResetEvent::~AutoResetEvent() = default;
 
 void AutoResetEvent::set() {
-    const std::lock_guard lock(m_state->mutex);
-    m_state->isSet = true;
-    m_state->changed.notify_one();
+    if (m_state->word.exchange(State::SET) == State::UNSET)
+        wakeOne(m_state->word);
 }
 
 void AutoResetEvent::wait() {
-    std::unique_lock lock(m_state->mutex);
-    m_state->changed.wait(lock, [this] { return m_state->isSet; });
-    m_state->isSet = false;
+    while (m_state->word.exchange(State::UNSET) == State::UNSET)
+        waitWhileEqual(m_state->word, State::UNSET);
 }
 
 void AutoResetEvent::waitAnsweringWindows() {
