@@ -9,10 +9,10 @@ namespace Platform {
 // [any] Sleeps while the word holds this value. May also return early, so callers look again.
 void waitWhileEqual(const std::atomic<std::uint32_t>& word, std::uint32_t value);
 
-// [any] Wakes one sleeper, after the word was changed. Costs a system call.
+// [any, rt] Wakes one sleeper, after the word was changed. Costs a system call.
 void wakeOne(std::atomic<std::uint32_t>& word);
 
-// [any] Wakes all sleepers, after the word was changed. Costs a system call.
+// [any, rt] Wakes all sleepers, after the word was changed. Costs a system call.
 void wakeAll(std::atomic<std::uint32_t>& word);
 
 }

@@ -12,7 +12,7 @@ public:
     AutoResetEvent(const AutoResetEvent&) = delete;
     AutoResetEvent& operator=(const AutoResetEvent&) = delete;
 
-    // [any] Lets one present or future waiter through. Setting a set event changes nothing.
+    // [any, rt] Lets one present or future waiter through. Setting a set event changes nothing.
     void set();
 
     // [any] Blocks without a time limit until the event is set, and unsets it.

@@ -8,7 +8,7 @@
 
 namespace Platform {
 
-// [any] The id by which the system knows the calling thread.
+// [any, rt] The id by which the system knows the calling thread.
 DWORD currentThreadId();
 
 // A thread with a queue of messages, each a number and two machine words. What one thread posts arrives in the order
@@ -31,31 +31,31 @@ public:
     // an empty queue.
     void start(const char* name, std::function<void()> body);
 
-    // [any] 0 before the first start; kept after the end.
+    // [any, rt] 0 before the first start; kept after the end.
     DWORD id() const;
 
-    // [any] True between start and join.
+    // [any, rt] True between start and join.
     bool isRunning() const;
 
-    // [any] Appends to the queue. False, and nothing is kept, while the thread does not run or its queue is full.
-    bool post(UINT message, WPARAM wParam, LPARAM lParam);
+    // [any, rt] Appends to the queue. False, and nothing is kept, while the thread does not run or its queue is full.
+    [[nodiscard]] bool post(UINT message, WPARAM wParam, LPARAM lParam);
 
     // [any] Posts, and while that fails sleeps 10 milliseconds and tries again, for ever. Windows of the calling thread
     // answer what is sent to them meanwhile.
     void postUntilAccepted(UINT message, WPARAM wParam, LPARAM lParam);
 
     // [this thread] Blocks until a message comes and takes it. False for WM_QUIT.
-    bool get(MSG& message);
+    [[nodiscard]] bool get(MSG& message);
 
     // [any] Takes the oldest message if there is one, without blocking. For leftovers after join.
-    bool tryGet(MSG& message);
+    [[nodiscard]] bool tryGet(MSG& message);
 
     // [another thread] Waits without a time limit until the queue is empty and the thread is back in get(), or until
     // the thread has ended.
     void waitUntilIdle();
 
-    // [any] Whether the queue is empty and the thread waits in get(), or does not run.
-    bool isIdle() const;
+    // [any, rt] Whether the queue is empty and the thread waits in get(), or does not run.
+    [[nodiscard]] bool isIdle() const;
 
     // [another thread] Waits without a time limit for the body to return.
     void join();

@@ -15,10 +15,10 @@ public:
     PreciseWait& operator=(const PreciseWait&) = delete;
 
     // [the waiter] Sleeps until monotonicMicroseconds() reaches this, or until wake(); a wake() since the last wait
-    // counts. Takes nothing from the heap. A moment that has passed returns at once.
+    // counts. Allocates nothing. A moment that has passed returns at once.
     void waitUntil(std::int64_t microseconds);
 
-    // [any] Ends the present wait, or the next one.
+    // [any, rt] Ends the present wait, or the next one.
     void wake();
 
 private:

@@ -28,7 +28,7 @@ bool isFree(CriticalSection& section) {
         if (entered)
             section.leave();
     });
-    thread.post(WM_QUIT, 0, 0);
+    EXPECT_TRUE(thread.post(WM_QUIT, 0, 0));
     quitPosted.set();
     thread.join();
     return entered;
@@ -159,7 +159,7 @@ TEST(CriticalSectionTest, FreeSectionIsEnteredBeforeAnyMessageIsTaken) {
         entered = section.waitWithMessageLoop();
         section.leave();
     });
-    thread.post(WM_QUIT, 0, 0);
+    EXPECT_TRUE(thread.post(WM_QUIT, 0, 0));
     quitPosted.set();
     thread.join();
     EXPECT_TRUE(entered);

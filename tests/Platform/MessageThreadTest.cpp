@@ -42,7 +42,7 @@ public:
     void end() {
         if (!m_thread.isRunning())
             return;
-        m_thread.post(END_MESSAGE, 0, 0);
+        EXPECT_TRUE(m_thread.post(END_MESSAGE, 0, 0));
         m_thread.join();
     }
 
@@ -182,7 +182,7 @@ TEST(MessageThreadTest, JoinedThreadStartsAgainWithAnEmptyQueue) {
         recorder.start();
         EXPECT_TRUE(recorder.m_thread.post(FIRST_MESSAGE, round, 0));
         EXPECT_TRUE(recorder.m_thread.post(WM_QUIT, 0, 0));
-        recorder.m_thread.post(FIRST_MESSAGE, 1000, 0);
+        EXPECT_TRUE(recorder.m_thread.post(FIRST_MESSAGE, 1000, 0));
         recorder.m_thread.join();
         const std::vector<Received> expected = {{FIRST_MESSAGE, round, 0}};
         ASSERT_EQ(recorder.m_received, expected);
@@ -204,13 +204,13 @@ TEST(MessageThreadTest, ThreadIsBusyUntilItsHandlerHasReturned) {
     });
     thread.waitUntilIdle();
     EXPECT_TRUE(thread.isIdle());
-    thread.post(FIRST_MESSAGE, 0, 0);
+    EXPECT_TRUE(thread.post(FIRST_MESSAGE, 0, 0));
     entered.wait();
     EXPECT_FALSE(thread.isIdle()) << "the queue is empty, but the message is being handled";
     leave.set();
     thread.waitUntilIdle();
     EXPECT_TRUE(handled);
-    thread.post(WM_QUIT, 0, 0);
+    EXPECT_TRUE(thread.post(WM_QUIT, 0, 0));
     thread.join();
     thread.waitUntilIdle();
 }
@@ -219,7 +219,7 @@ TEST(MessageThreadTest, WaitUntilIdleReturnsWhenTheThreadEnds) {
     MessageThread thread;
     AutoResetEvent end;
     thread.start("ending", [&] { end.wait(); });
-    thread.post(FIRST_MESSAGE, 0, 0);
+    EXPECT_TRUE(thread.post(FIRST_MESSAGE, 0, 0));
     std::thread waiter([&] { thread.waitUntilIdle(); });
     end.set();
     waiter.join();
@@ -236,7 +236,7 @@ TEST(MessageThreadTest, DestructorJoins) {
             }
             ended.store(true);
         });
-        thread.post(WM_QUIT, 0, 0);
+        EXPECT_TRUE(thread.post(WM_QUIT, 0, 0));
     }
     EXPECT_TRUE(ended.load());
 }
@@ -252,7 +252,7 @@ TEST(MessageThreadTest, StopPostsTheEndMessageAndJoins) {
     Recorder recorder;
     recorder.m_thread.stop(END_MESSAGE);
     recorder.start();
-    recorder.m_thread.post(FIRST_MESSAGE, 1, 2);
+    EXPECT_TRUE(recorder.m_thread.post(FIRST_MESSAGE, 1, 2));
     recorder.m_thread.stop(END_MESSAGE);
     EXPECT_FALSE(recorder.m_thread.isRunning());
     const std::vector<Received> expected = {{FIRST_MESSAGE, 1, 2}};
@@ -314,7 +314,7 @@ TEST(MessageThreadTest, ManyPostersLoseNothingAndKeepTheirOrders) {
     thread.waitUntilIdle();
     EXPECT_TRUE(inOrder);
     EXPECT_EQ(next, std::vector<LPARAM>(POSTERS, POSTS));
-    thread.post(WM_QUIT, 0, 0);
+    EXPECT_TRUE(thread.post(WM_QUIT, 0, 0));
     thread.join();
 }
 
@@ -338,7 +338,7 @@ TEST(MessageThreadTest, EveryIdleWaitSeesAllThatWasPostedBefore) {
     postAndWait(3000);
     other.join();
     EXPECT_EQ(handled.load(), 6000);
-    thread.post(WM_QUIT, 0, 0);
+    EXPECT_TRUE(thread.post(WM_QUIT, 0, 0));
     thread.join();
 }
 
@@ -359,7 +359,7 @@ TEST(MessageThreadTest, EndWhilePostingKeepsOrRefusesEachPost) {
                     accepted.fetch_add(thread.post(FIRST_MESSAGE, 0, 0) ? 1 : 0);
             });
         }
-        thread.post(WM_QUIT, 0, 0);
+        EXPECT_TRUE(thread.post(WM_QUIT, 0, 0));
         for (std::thread& poster : posters)
             poster.join();
         thread.join();

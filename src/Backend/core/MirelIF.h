@@ -191,7 +191,7 @@ public:
     virtual const Bank& getCurrentBank() = 0;
     virtual const Program& getCurrentProgram() = 0;
 
-    // [player] See MidiEngine::playTimeSlice.
+    // [player, rt] See MidiEngine::playTimeSlice.
     virtual void playTimeSlice(std::int32_t from, std::int32_t to) = 0;
 
     virtual RegistrySettings& getRegistrySettings() = 0;

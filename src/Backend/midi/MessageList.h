@@ -2,13 +2,15 @@
 
 #include "Backend/midi/MirelMidiMessage.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 namespace Backend::MidiEngine {
 
 // Messages in the order in which they were added. It keeps the room that it once needed, and adding to it copies a
-// message over an old one, which costs less than making one.
+// message over an old one, which costs less than making one. [locked, rt] unless it says otherwise.
 class MessageList {
 public:
     MessageList() : m_messages(USUAL_COUNT) {}
@@ -18,10 +20,16 @@ public:
     MirelMidiMessage* begin() { return m_messages.data(); }
     MirelMidiMessage* end() { return m_messages.data() + m_count; }
 
+    // [locked] Allocates if there is no room for one more.
     void add(const MirelMidiMessage& message) {
-        if (m_count == m_messages.size())
-            m_messages.resize(2 * m_count);
+        makeRoomFor(m_count + 1);
         m_messages[m_count++] = message;
+    }
+
+    // [locked] Allocates, so that adding does not until there are this many.
+    void makeRoomFor(std::size_t count) {
+        if (count > m_messages.size())
+            m_messages.resize(std::max(count, 2 * m_messages.size()));
     }
 
     // Drops what stands from here on.

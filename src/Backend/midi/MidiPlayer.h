@@ -10,8 +10,8 @@ class MidiPlayer {
 public:
     virtual ~MidiPlayer() = default;
 
-    // [player; before the first time slice whoever asked for a reset] Sends one event now to message.getOutput(). The
-    // engine's lock is held: nothing that waits for it may be called.
+    // [player, rt; before the first time slice whoever asked for a reset] Sends one event now to message.getOutput().
+    // The engine's lock is held: nothing that waits for it may be called.
     virtual void playMidi(const MirelMidiMessage& message) = 0;
 
     // [engine] Opens or closes a port, by index from 0.

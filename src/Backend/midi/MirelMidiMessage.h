@@ -8,7 +8,7 @@ namespace Backend::MidiEngine {
 
 enum class MidiEngineMessageType : std::uint32_t { EVENT = 0, RESET = 1, HARD_RESET = 2 };
 
-// A MIDI event with its routing through the desk. A value, copied freely.
+// A MIDI event with its routing through the desk. A value, copied freely; all but its texts is [rt].
 class MirelMidiMessage {
 public:
     static constexpr char DEFAULT_CHANNEL = -1;

@@ -9,9 +9,9 @@ class PassingEvents {
 public:
     virtual ~PassingEvents() = default;
 
-    // [player, under the engine's lock] An event that is not a note passed, with the output and channel that it came
-    // with. It never waits; false, and nothing is kept, while the receiver takes no more.
-    virtual bool postUpdateControl(const MirelMidiMessage& message) = 0;
+    // [player, rt, under the engine's lock] An event that is not a note passed, with the output and channel that it
+    // came with. False, and nothing is kept, while the receiver takes no more.
+    [[nodiscard]] virtual bool postUpdateControl(const MirelMidiMessage& message) = 0;
 };
 
 }

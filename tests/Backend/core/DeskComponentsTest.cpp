@@ -131,8 +131,8 @@ protected:
             {"controls send auto", [this] { m_controls.postSendAll(true); }},
             {"controls follow",
              [this] {
-                 m_controls.postUpdateControl(
-                     MirelMidiMessage(MidiMessage(MidiMessage::ControllerChange, 10, 55, 0), {}, Cell()));
+                 EXPECT_TRUE(m_controls.postUpdateControl(
+                     MirelMidiMessage(MidiMessage(MidiMessage::ControllerChange, 10, 55, 0), {}, Cell())));
              }},
             {"controls select",
              [this] {

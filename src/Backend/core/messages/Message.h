@@ -5,6 +5,7 @@
 #include "Backend/core/messages/MessageContent.h"
 #include "Platform/WindowTypes.h"
 
+#include <memory>
 #include <type_traits>
 #include <utility>
 
@@ -33,6 +34,17 @@ struct Message {
         else if (!post(NUMBER, content.wParam(), content.lParam()))
             return false;
         content.release();
+        return true;
+    }
+
+    // [any, rt if post is] The same for an object that is on the heap already, which stays the caller's if the message
+    // was not taken.
+    template <class Post, class T>
+    requires std::is_same_v<W, Heap<T>> && std::is_same_v<L, Nothing>
+    static bool postOwned(Post&& post, std::unique_ptr<T>& object) {
+        if (!post(NUMBER, Carried<W>::template wordOf<WPARAM>(object.get()), LPARAM{0}))
+            return false;
+        static_cast<void>(object.release());
         return true;
     }
 

@@ -3,6 +3,8 @@
 #include "Backend/core/messages/Message.h"
 #include "Platform/WindowTypes.h"
 
+#include <memory>
+
 namespace Backend {
 
 class MessageManagerMaster;
@@ -36,13 +38,12 @@ protected:
         row.post([this](UINT number, WPARAM wParam, LPARAM lParam) { postWords(number, wParam, lParam); }, values...);
     }
 
-    // [any] The same without waiting. Returns false, and posts nothing, while the queue takes nothing.
-    template <class Row, class... Values>
-    bool tryPost(Row row, const Values&... values) {
-        static_assert(!Row::IS_SENT, "this message is to be sent");
-        return row.post(
-            [this](UINT number, WPARAM wParam, LPARAM lParam) { return tryPostWords(number, wParam, lParam); },
-            values...);
+    // [any, rt] Posts an object that is on the heap already, without waiting. Returns false while the queue takes
+    // nothing; the object then stays the caller's.
+    template <class Row, class T>
+    [[nodiscard]] bool tryPostOwned(Row row, std::unique_ptr<T>& object) {
+        return row.postOwned(
+            [this](UINT number, WPARAM wParam, LPARAM lParam) { return tryPostWords(number, wParam, lParam); }, object);
     }
 
     // [any but backend] Posts a message and waits until it has been handled.

@@ -30,9 +30,9 @@ public:
     // milliseconds and tries again, for ever.
     void postMessage(unsigned int message, WPARAM wParam, LPARAM lParam);
 
-    // [any] Posts without waiting. False, and what the words bring is still the caller's, while the queue takes
+    // [any, rt] Posts without waiting. False, and what the words bring is still the caller's, while the queue takes
     // nothing.
-    bool tryPostMessage(unsigned int message, WPARAM wParam, LPARAM lParam);
+    [[nodiscard]] bool tryPostMessage(unsigned int message, WPARAM wParam, LPARAM lParam);
 
     // [any, before start] Appends a manager, which must outlive the worker. The first that wants a message gets it.
     void addMessageManager(MessageManager* manager);

@@ -93,8 +93,14 @@ struct Carried<Heap<T>> {
 
     template <class Word>
     static Word put(const T& value) {
+        return wordOf<Word>(std::make_unique<T>(value).release());
+    }
+
+    // The word for an object that is on the heap already.
+    template <class Word>
+    static Word wordOf(T* object) {
         static_assert(sizeof(Word) == sizeof(T*));
-        return reinterpret_cast<Word>(std::make_unique<T>(value).release());
+        return reinterpret_cast<Word>(object);
     }
 
     template <class Word>

@@ -72,7 +72,7 @@ void ControlMessageManager::postSendAll(bool autoSendOnly) {
 }
 
 bool ControlMessageManager::postUpdateControl(const MirelMidiMessage& message) {
-    return tryPost(UPDATE_CONTROL, message);
+    return m_spareUpdates.give(message, [this](auto& spare) { return tryPostOwned(UPDATE_CONTROL, spare); });
 }
 
 void ControlMessageManager::postSelectControls(const std::vector<Cell>& cells) {
@@ -84,10 +84,14 @@ bool ControlMessageManager::wantMessage(unsigned int message) {
 }
 
 void ControlMessageManager::handleMessage(const MSG& message) {
+    if (message.message == UPDATE_CONTROL.NUMBER)
+        m_spareUpdates.refill();
     ROWS.handle(m_controls, message);
 }
 
 void ControlMessageManager::disposeMessage(const MSG& message) {
+    if (message.message == UPDATE_CONTROL.NUMBER)
+        m_spareUpdates.refill();
     FAMILY.dispose(message);
 }
 

@@ -3,6 +3,7 @@
 #include "Backend/core/messages/MessageManager.h"
 #include "Backend/midi/Cell.h"
 #include "Backend/midi/PassingEvents.h"
+#include "Backend/midi/SpareMessages.h"
 
 #include <cstdint>
 #include <string>
@@ -36,8 +37,8 @@ public:
     void postSendAll(bool autoSendOnly);
     void postSelectControls(const std::vector<Cell>& cells);
 
-    // [player, under the engine's lock] Controls that send this event follow it.
-    bool postUpdateControl(const MidiEngine::MirelMidiMessage& message) override;
+    // [player, rt, under the engine's lock] Controls that send this event follow it.
+    [[nodiscard]] bool postUpdateControl(const MidiEngine::MirelMidiMessage& message) override;
 
     bool wantMessage(unsigned int message) override;
     void handleMessage(const MSG& message) override;
@@ -45,6 +46,7 @@ public:
 
 private:
     ControlManager& m_controls;
+    MidiEngine::SpareMessages m_spareUpdates;
 };
 
 }

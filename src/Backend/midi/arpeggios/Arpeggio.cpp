@@ -9,15 +9,9 @@ namespace Backend::ArpeggioManagement {
 
 using SequenceManagement::SequenceSetting;
 
-namespace {
-
-constexpr std::size_t USUAL_NOTES = 64;
-
-}
-
 void Arpeggio::setMidiEngine(MidiEngine::ArpeggioTarget* engine) {
     m_midiEngine = engine;
-    m_notes.reserve(USUAL_NOTES);
+    m_notes.reserve(MAX_NOTES);
 }
 
 void Arpeggio::writeXml(std::ostream& stream, int indent) const {

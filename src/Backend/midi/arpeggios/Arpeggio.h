@@ -26,7 +26,7 @@ public:
     static constexpr std::int32_t DEFAULT_PPQ = 480;
 
     // A note beyond this many is not taken, so that keys that never go up can't fill the memory.
-    static constexpr std::size_t MAX_NOTES = 8192;
+    static constexpr std::size_t MAX_NOTES = 1024;
 
     static auto attributes() {
         return std::tuple{
@@ -38,7 +38,7 @@ public:
     virtual ~Arpeggio() = default;
 
     // A deep copy with the same settings and held notes.
-    virtual std::unique_ptr<Arpeggio> clone() const = 0;
+    [[nodiscard]] virtual std::unique_ptr<Arpeggio> clone() const = 0;
 
     // The time between two steps. 0 or less never comes.
     TimeInterval getBeat() const { return TimeInterval(m_beat); }
@@ -57,20 +57,20 @@ public:
     // Its element on one line, indent tabs deep.
     void writeXml(std::ostream& stream, int indent) const;
 
-    // [player] A note of the layer.
+    // [player, rt] A note of the layer.
     virtual void noteEvent(const MidiEngine::MirelMidiMessage& message,
                            SequenceManagement::SequenceSetting& sequence) = 0;
 
-    // [player] This ppq has come.
+    // [player, rt] This ppq has come.
     virtual void timeEvent(std::int32_t ppq, SequenceManagement::SequenceSetting& sequence) = 0;
 
-    // [player] Ends what sounds and forgets all notes.
+    // [player, rt] Ends what sounds and forgets all notes.
     virtual void reset(SequenceManagement::SequenceSetting& sequence) = 0;
 
     // When it began to play; -1 if it doesn't.
     std::int32_t getRunningSince() const { return m_runningSince; }
 
-    // [engine] Also makes room for as many notes as hands hold, so that taking them allocates nothing.
+    // [engine] Also allocates room for all notes that it may hold, so that taking them does not.
     void setMidiEngine(MidiEngine::ArpeggioTarget* engine);
 
     // Whether it holds no notes, so that time passes without effect.

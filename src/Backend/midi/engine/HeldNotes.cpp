@@ -4,17 +4,6 @@
 
 namespace Backend::MidiEngine {
 
-namespace {
-
-// More than two hands hold; up to here adding a note allocates nothing.
-constexpr std::size_t USUAL_NOTES = 64;
-
-}
-
-HeldNotes::HeldNotes() {
-    m_notes.reserve(USUAL_NOTES);
-}
-
 void HeldNotes::add(char note, char velocity) {
     if (m_notes.size() >= MAX_NOTES) {
         --count(m_notes.front().note);

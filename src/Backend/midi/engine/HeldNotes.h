@@ -7,7 +7,8 @@
 
 namespace Backend::MidiEngine {
 
-// The notes that are held in a layer, oldest first. The same note may be held more than once.
+// The notes that are held in a layer, oldest first. The same note may be held more than once. [locked,
+// rt] unless it says otherwise.
 class HeldNotes {
 public:
     struct HeldNote {
@@ -16,9 +17,10 @@ public:
     };
 
     // When more are held the oldest is forgotten, so that keys that never go up can't fill the memory.
-    static constexpr std::size_t MAX_NOTES = 65536;
+    static constexpr std::size_t MAX_NOTES = 4096;
 
-    HeldNotes();
+    // [engine] Allocates room for all of them, so that nothing else does.
+    void makeRoom() { m_notes.reserve(MAX_NOTES); }
 
     bool isEmpty() const { return m_notes.empty(); }
 

@@ -95,24 +95,27 @@ bool MidiEngine::isMidiPlayerThread() const {
 
 void MidiEngine::postPlayMidi(const MirelMidiMessage& message) {
     const bool isFull = m_pendingMessages.size() >= MAX_PENDING_MESSAGES;
-    if (!isFull || message.isMirelReset() || message.isMirelHardReset())
-        m_pendingMessages.add(message);
+    if (isFull && !message.isMirelReset() && !message.isMirelHardReset())
+        return;
+    m_pendingMessages.add(message);
+    // So that the next slice allocates nothing, whether it plays all of these or none.
+    const std::size_t waiting = m_timedMessages.size() + m_pendingMessages.size();
+    m_timedMessages.makeRoomFor(waiting);
+    m_noteVelocities.makeRoomForMore(waiting);
 }
 
 // The backend may wait for the engine at this moment, so nobody waits for the backend here.
 void MidiEngine::postUpdateControl(const MirelMidiMessage& message) {
     if (!m_passingEvents)
         return;
-    if (m_waitingUpdates.empty() && m_passingEvents->postUpdateControl(message))
+    if (m_waitingUpdates.isEmpty() && m_passingEvents->postUpdateControl(message))
         return;
-    if (m_waitingUpdates.size() == MAX_WAITING_UPDATES)
-        m_waitingUpdates.pop_front();  // What comes last is what a control shows in the end.
-    m_waitingUpdates.push_back(message);
+    m_waitingUpdates.pushBack(message);  // What comes last is what a control shows in the end.
 }
 
 void MidiEngine::postWaitingUpdates() {
-    while (!m_waitingUpdates.empty() && m_passingEvents->postUpdateControl(m_waitingUpdates.front()))
-        m_waitingUpdates.pop_front();
+    while (!m_waitingUpdates.isEmpty() && m_passingEvents->postUpdateControl(m_waitingUpdates.front()))
+        m_waitingUpdates.popFront();
 }
 
 void MidiEngine::setStartTime(std::int32_t ppq) {

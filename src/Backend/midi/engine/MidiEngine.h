@@ -2,6 +2,7 @@
 
 #include "Backend/midi/ArpeggioTarget.h"
 #include "Backend/midi/MessageList.h"
+#include "Backend/midi/MessageRing.h"
 #include "Backend/midi/MidiPlayer.h"
 #include "Backend/midi/MidiPort.h"
 #include "Backend/midi/MirelMidiMessage.h"
@@ -15,7 +16,6 @@
 
 #include <array>
 #include <atomic>
-#include <deque>
 #include <memory>
 #include <mutex>
 #include <vector>
@@ -50,7 +50,7 @@ public:
     static constexpr std::size_t MAX_PENDING_MESSAGES = 1 << 20;
 
     // What the controls may have to hear of later, at most.
-    static constexpr std::size_t MAX_WAITING_UPDATES = 1 << 16;
+    static constexpr std::size_t MAX_WAITING_UPDATES = 1 << 13;
 
     // Both must outlive the engine.
     MidiEngine(MirelIF& mirel, MidiPlayer& midiPlayer);
@@ -71,12 +71,12 @@ public:
     // [backend] Stops it. A request that comes later waits for another start.
     void end();
 
-    // [player] Plays what is due from one time up to, but not including, another, in ppq. A window that runs backwards
-    // plays a few ticks at both of its ends; one of 5000 ppq or more plays nothing.
+    // [player, rt] Plays what is due from one time up to, but not including, another, in ppq. A window that runs
+    // backwards plays a few ticks at both of its ends; one of 5000 ppq or more plays nothing.
     void playTimeSlice(std::int32_t from, std::int32_t to);
 
-    // [any] The ppq time of a host clock at a tempo in beats per minute. Far above 0, as negative times mean none; a
-    // clock so far off that its time fits no 32 bits, or is negative, gives the last time or 0.
+    // [any, rt] The ppq time of a host clock at a tempo in beats per minute. Far above 0, as negative times mean none;
+    // a clock so far off that its time fits no 32 bits, or is negative, gives the last time or 0.
     static std::int32_t milliseconds2Ppq(double milliseconds, int tempo);
 
     MidiEngineMessageManager& getMessageManager() { return m_messageManager; }
@@ -94,8 +94,10 @@ public:
     void setMidiInputPorts(std::vector<MidiInputPort> ports) { m_midiInputPorts = std::move(ports); }
     void setMidiOutputPorts(std::vector<MidiOutputPort> ports);
 
-    // [locked] False for an output that does not exist.
-    bool isOutputEnabled(char output) const { return m_enabledOutputs[static_cast<unsigned char>(output)]; }
+    // [locked, rt] False for an output that does not exist.
+    [[nodiscard]] bool isOutputEnabled(char output) const {
+        return m_enabledOutputs[static_cast<unsigned char>(output)];
+    }
 
     // [locked] Takes over a new set of layers or zones. What the old ones held is forgotten, so a reset goes before.
     void setLayerList(const Layers::LayerList& layers);
@@ -112,7 +114,7 @@ public:
     void setTempoSource(char input) { m_midiPlayer.setTempoSource(input); }
     char getTempoSource() { return m_midiPlayer.getTempoSource(); }
 
-    // [any] Whether this is the thread that runs the time slices; true for all until the first slice.
+    // [any, rt] Whether this is the thread that runs the time slices; true for all until the first slice.
     bool isMidiPlayerThread() const;
 
     // [any; not locked] Ends all sounding notes and all playing arpeggios, and returns when that is done. It waits for
@@ -122,26 +124,27 @@ public:
     // [any; not locked] The same, and then silences the default output.
     void sendHardReset();
 
-    // [any] Whether a reset waits for a slice at this moment, and how many threads are in a call that resets.
+    // [any, rt] Whether a reset waits for a slice at this moment, and how many threads are in a call that resets.
     bool isSliceAwaited() const { return m_isSliceAwaited; }
     int getResetCallers() const { return m_resetCallers; }
 
-    // [locked] Queues an event for the next slice.
+    // [locked] Queues an event for the next slice, and allocates what that slice may need for it.
     void postPlayMidi(const MirelMidiMessage& message);
 
-    // [locked] Tells the controls of an event that passed. While the backend takes nothing more, that waits for a later
-    // slice; of more than MAX_WAITING_UPDATES the oldest are lost.
+    // [locked, rt] Tells the controls of an event that passed. While the backend takes nothing more, that waits for a
+    // later slice; of more than MAX_WAITING_UPDATES the oldest are lost.
     void postUpdateControl(const MirelMidiMessage& message);
 
-    // [locked] The last stage of every event: counts notes, hands the event to the host and shows it. With stackNotes a
-    // Note Off is held back while its note was started more often than it ended.
+    // [locked, rt] The last stage of every event: counts notes, hands the event to the host and shows it. With
+    // stackNotes a Note Off is held back while its note was started more often than it ended.
     void playMidiInternal(const MirelMidiMessage& message, bool stackNotes) override;
 
-    // [locked] The origin of the grid that all arpeggios keep to, in ppq; -1 while none plays. The first one sets it.
+    // [locked, rt] The origin of the grid that all arpeggios keep to, in ppq; -1 while none plays. The first one sets
+    // it.
     std::int32_t getStartTime() const override { return m_startTime; }
     void setStartTime(std::int32_t ppq) override;
 
-    // [locked] Clears it if no arpeggio plays.
+    // [locked, rt] Clears it if no arpeggio plays.
     void updateStartTime() override;
 
     // [any] Null while there is no window.
@@ -199,7 +202,7 @@ private:
     std::int32_t m_takenFrom = 0;  // None of those taken is due before.
     MessageList m_timedMessages;
 
-    std::deque<MirelMidiMessage> m_waitingUpdates;
+    MessageRing m_waitingUpdates{MAX_WAITING_UPDATES};
 
     std::int32_t m_startTime = -1;
     bool m_midiThru = false;

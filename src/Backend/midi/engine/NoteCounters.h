@@ -8,7 +8,8 @@
 
 namespace Backend::MidiEngine {
 
-// How often each note sounds on each output and channel. A flat table, so that counting neither searches nor allocates.
+// How often each note sounds on each output and channel. A flat table, so that counting does not search. All of it is
+// [locked, rt].
 class NoteCounters {
 public:
     static constexpr std::size_t OUTPUTS = 128;

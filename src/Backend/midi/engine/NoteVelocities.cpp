@@ -10,9 +10,7 @@ void NoteVelocities::clear() {
     }
 }
 
-void NoteVelocities::growIfCrowded() {
-    if (++m_used * 2 <= m_entries.size())
-        return;
+void NoteVelocities::grow() {
     const std::vector<Entry> old = std::move(m_entries);
     m_entries.assign(old.size() * 2, Entry());
     m_mask = m_entries.size() - 1;

@@ -13,6 +13,7 @@ class NoteVelocities {
 public:
     NoteVelocities() : m_entries(USUAL_CAPACITY) {}
 
+    // [locked, rt while makeRoomForMore has made room]
     void store(const MirelMidiMessage& noteOn) {
         const std::uint32_t key = keyOf(noteOn);
         Entry& entry = m_entries[placeOf(key)];
@@ -24,13 +25,20 @@ public:
         entry.velocity = noteOn.getD2();
     }
 
-    // 0 if there was no such Note On.
-    char find(const MirelMidiMessage& message) const {
+    // [locked, rt] 0 if there was no such Note On.
+    [[nodiscard]] char find(const MirelMidiMessage& message) const {
         const Entry& entry = m_entries[placeOf(keyOf(message))];
         return entry.generation == m_generation ? entry.velocity : char{0};
     }
 
+    // [locked, rt]
     void clear();
+
+    // [locked] Allocates, so that this many notes more can be stored without.
+    void makeRoomForMore(std::size_t count) {
+        while (isCrowdedBy(m_used + count))
+            grow();
+    }
 
 private:
     // An entry of another generation is free.
@@ -58,7 +66,14 @@ private:
         return place;
     }
 
-    void growIfCrowded();
+    bool isCrowdedBy(std::size_t count) const { return count * 2 > m_entries.size(); }
+
+    void growIfCrowded() {
+        if (isCrowdedBy(++m_used))
+            grow();
+    }
+
+    void grow();
 
     std::vector<Entry> m_entries;
     std::size_t m_mask = USUAL_CAPACITY - 1;  // One less than the capacity.

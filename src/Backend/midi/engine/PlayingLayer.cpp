@@ -41,6 +41,8 @@ PlayingLayer::PlayingLayer(const Layers::Layer& layer, MidiEngine& engine)
         m_sentNotes[note] = transposeNote(layer, static_cast<std::int32_t>(note));
     for (std::size_t velocity = 0; velocity < m_sentVelocities.size(); ++velocity)
         m_sentVelocities[velocity] = scaleVelocity(layer, static_cast<char>(velocity));
+    if (m_layer.mono)
+        m_heldNotes.makeRoom();
     if (m_layer.arpeggio)
         m_layer.arpeggio->setMidiEngine(&engine);
 }

@@ -12,11 +12,10 @@ namespace Backend::MidiEngine {
 
 class MidiEngine;
 
-// A layer in the engine: its rule with what it holds while it plays. Everything here runs under the engine's lock, on
-// the player's thread.
+// A layer in the engine: its rule with what it holds while it plays. All but making it is [player, rt, locked].
 class PlayingLayer {
 public:
-    // Copies the layer deeply and lets its arpeggio play through the engine.
+    // [locked] Copies the layer deeply and lets its arpeggio play through the engine.
     PlayingLayer(const Layers::Layer& layer, MidiEngine& engine);
 
     PlayingLayer(PlayingLayer&&) = default;
@@ -45,7 +44,8 @@ private:
 
     // The Note Off of the note that a mono layer gives up for a new one. Without an arpeggio it is to be sent after the
     // new note, for a legato join; with one it has been sent.
-    std::optional<MirelMidiMessage> endPreviousMonoNote(const MirelMidiMessage& message, HeldNotes::HeldNote previous);
+    [[nodiscard]] std::optional<MirelMidiMessage> endPreviousMonoNote(const MirelMidiMessage& message,
+                                                                      HeldNotes::HeldNote previous);
 
     void sendNoteOff(const MirelMidiMessage& message);
 

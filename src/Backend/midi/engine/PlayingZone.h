@@ -7,7 +7,7 @@
 
 namespace Backend::MidiEngine {
 
-// A zone in the engine, with the notes it has sent. Used under the engine's lock.
+// A zone in the engine, with the notes it has sent. Used under the engine's lock; playing is [player, rt].
 class PlayingZone {
 public:
     explicit PlayingZone(const Zones::Zone& zone) : m_zone(zone) { m_sentNotes.fill(Note::NONE); }

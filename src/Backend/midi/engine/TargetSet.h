@@ -5,7 +5,7 @@
 
 namespace Backend::MidiEngine {
 
-// The pairs of output (0 to 127) and channel (0 to 15) that one event has been sent to.
+// The pairs of output (0 to 127) and channel (0 to 15) that one event has been sent to. All of it is [player, rt].
 class TargetSet {
 public:
     // True if the pair was not in the set yet.

@@ -25,6 +25,7 @@ public:
     bool hasNodes() const { return !m_nodes.empty(); }
     const std::vector<Node>& getNodes() const { return m_nodes; }
 
+    // [rt] as all that moves the position.
     std::int32_t getPosition() const { return m_position; }
     void setPosition(std::int32_t position) { m_position = position; }
 
@@ -35,7 +36,7 @@ public:
     void advance() { m_position = m_position >= lastPosition() ? 0 : m_position + 1; }
     void stepBack() { m_position = m_position <= 0 ? lastPosition() : m_position - 1; }
 
-    // The items of the present node; null if the position is not that of a node.
+    // [rt] The items of the present node; null if the position is not that of a node.
     const Node* getCurrentNode() const;
 
     // The text form, in canonical writing.

@@ -7,7 +7,7 @@ namespace Host {
 
 // Follows the timing ticks of a clock master, 24 to the quarter, and tells the position at any moment in ppq: between
 // the ticks by interpolation, with the jitter of their arrival smoothed out, never backwards. It reads no clock: times
-// are handed in, in milliseconds, and should not run backwards.
+// are handed in, in milliseconds, and should not run backwards. All of it is [rt].
 //
 // A stop holds the position, whatever ticks still come, until a start or continue. A start does not move it: the first
 // tick after it stands where the last one before the stop stood. A clock that never said either is taken to run. When

@@ -15,7 +15,7 @@ class ClockInput {
 public:
     static constexpr std::size_t CAPACITY = 1024;
 
-    // [any] From now on this input, by its index, is heard; a negative one is nobody.
+    // [any, rt] From now on this input, by its index, is heard; a negative one is nobody.
     void listenTo(int input) { m_input.store(input); }
 
     // [any] What an input says. Other inputs than the one listened to are ignored, and a full queue drops the message,
@@ -31,8 +31,8 @@ public:
         m_in.store(in + 1, std::memory_order_release);
     }
 
-    // [player] Takes the oldest; false if there is none.
-    bool pop(ClockMessage& message) {
+    // [player, rt] Takes the oldest; false if there is none.
+    [[nodiscard]] bool pop(ClockMessage& message) {
         const std::uint32_t out = m_out.load(std::memory_order_relaxed);
         if (m_in.load(std::memory_order_acquire) == out)
             return false;

@@ -9,7 +9,7 @@ namespace Host {
 
 // Turns the time of a monotonic clock into the slices that the desk plays, in ppq. Each slice begins where the last one
 // ended: a change of the tempo or of the source moves nothing, and a clock read late makes a longer slice. For one
-// thread; it reads no clock itself.
+// thread; it reads no clock itself. All of it is [rt].
 class DeskClock {
 public:
     struct Slice {

@@ -11,7 +11,7 @@ namespace Host {
 // A desk that lets its host see which events the controls hear of.
 class ObservedMirel : public Backend::Mirel, private Backend::MidiEngine::PassingEvents {
 public:
-    // [player, under the engine's lock] Whether the controls hear of the event as well. A desk that is not started
+    // [player, rt, under the engine's lock] Whether the controls hear of the event as well. A desk that is not started
     // must not let them.
     using Observer = std::function<bool(const Backend::MidiEngine::MirelMidiMessage& message)>;
 

@@ -46,8 +46,8 @@ public:
     // [main, after stop] What flew out of a slice and ended the thread; null if nothing did.
     std::exception_ptr failure() const { return m_failure; }
 
-    // [player] Plays the slice up to this moment of the monotonic clock. The thread does nothing else; tests call it
-    // with times of their own.
+    // [player, rt if the desk's slice is] Plays the slice up to this moment of the monotonic clock. The thread does
+    // nothing else; tests call it with times of their own.
     void playSlice(std::int64_t microseconds, const PlayTimeSlice& playTimeSlice);
 
     // As MidiPlayer has them.

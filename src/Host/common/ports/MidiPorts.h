@@ -69,14 +69,14 @@ public:
     // [any] The input whose timing messages are to be heard; a negative one changes nothing.
     void setClockInput(int input);
 
-    // [player] A short message to an output by its index from 0. Never waits and takes nothing from the heap. False if
-    // there is no such output, it is not open, or the event was dropped.
+    // [player, rt] A short message to an output by its index from 0. False if there is no such output, it is not open,
+    // or the event was dropped.
     bool play(int output, std::uint32_t bytes, std::int64_t microseconds);
 
-    // [any] Asks for the end of all that sounds on any output.
+    // [any, rt] Asks for the end of all that sounds on any output.
     void endNotes();
 
-    // [player] The timing messages of the clock input.
+    // [player, rt] The timing messages of the clock input.
     ClockInput& clockInput() { return *m_clock; }
 
     Recorder& recorder() { return *m_recorder; }

@@ -11,8 +11,7 @@
 
 namespace Host {
 
-// What an output still has to send: a ring of events that one thread fills and another one empties, without locks and
-// without taking memory.
+// What an output still has to send: a ring of events that one thread fills and another one empties. All of it is [rt].
 //
 // A port that is too slow loses notes, but never their ends. The last quarter of the ring is kept for events that end
 // something; when even that is full they become owed, as a set that can't run full. From then on nothing else is taken
@@ -31,10 +30,10 @@ public:
     bool push(const OutputEvent& event);
 
     // [consumer] The oldest event; false if there is none.
-    bool pop(OutputEvent& event);
+    [[nodiscard]] bool pop(OutputEvent& event);
 
     // [any] Whether there is nothing to pop; may be out of date at once.
-    bool isEmpty() const;
+    [[nodiscard]] bool isEmpty() const;
 
     // [any] How many events have been dropped.
     std::uint64_t dropped() const { return m_dropped.load(std::memory_order_relaxed); }

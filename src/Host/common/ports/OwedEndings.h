@@ -10,7 +10,8 @@
 namespace Host {
 
 // What has to be sent to a port so that nothing sounds on for ever, as a set: a note-off for a note, a pedal let go, an
-// all-sound-off. It holds every possible one, so it can't run full. One thread adds, another one takes.
+// all-sound-off. It holds every possible one, so it can't run full. One thread adds, another one takes. All of it is
+// [rt].
 class OwedEndings {
 public:
     // [any] Whether an event ends something: a note-off, a pedal (controllers 64 to 69) let go, one of the channel mode
@@ -22,7 +23,7 @@ public:
 
     // [consumer] Takes one out and gives the event that is to be sent, with the time of the last one added. False if
     // there is none.
-    bool take(OutputEvent& event);
+    [[nodiscard]] bool take(OutputEvent& event);
 
 private:
     static constexpr std::size_t CHANNELS = 16;

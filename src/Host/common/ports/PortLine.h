@@ -36,15 +36,15 @@ public:
     // [one thread at a time] Asks for the port to be closed: of what is still queued only the endings are sent.
     void close();
 
-    // [any] Asks for the end of all that sounds, behind what is queued. The line is idle when that no longer needs this
-    // program.
+    // [any, rt] Asks for the end of all that sounds, behind what is queued. The line is idle when that no longer needs
+    // this program.
     void endNotes();
 
-    // [one thread at a time] Queues an event of this many bytes' worth for the port. Never waits and takes nothing from
-    // the heap. False if the port is not open or the event was dropped (OutputQueue tells which are).
+    // [one thread at a time, rt] Queues an event of this many bytes' worth for the port. False if the port is not open
+    // or the event was dropped (OutputQueue tells which are).
     bool play(std::uint32_t bytes, std::int64_t microseconds);
 
-    // [any] Whether the port is open and takes events.
+    // [any, rt] Whether the port is open and takes events.
     bool isOpen() const;
 
     // [any] Whether open() was called more recently than close().

@@ -10,7 +10,7 @@ namespace Host {
 // Wakes the one thread that waits for work. Telling it of work while it is at work costs no system call.
 class WakeSignal {
 public:
-    // [any] There is something to do.
+    // [any, rt] There is something to do.
     void notify() {
         m_count.fetch_add(1);
         if (m_isAsleep.load())

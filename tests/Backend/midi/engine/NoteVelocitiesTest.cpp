@@ -1,5 +1,7 @@
 #include "Backend/midi/engine/NoteVelocities.h"
 
+#include "tests/support/AllocationCounter.h"
+
 #include <gtest/gtest.h>
 
 namespace Backend::MidiEngine {
@@ -40,6 +42,23 @@ TEST(NoteVelocitiesTest, ItGrowsWithItsNotesAndForgetsThemAll) {
         velocities.clear();
         EXPECT_EQ(velocities.find(note(5, 0, 3, round, 2)), 0);
     }
+}
+
+TEST(NoteVelocitiesTest, WithRoomMadeForThemNotesAreStoredWithoutTheHeap) {
+    NoteVelocities velocities;
+    velocities.store(note(60, 7, 0, 5));
+    velocities.makeRoomForMore(16 * 128);
+    EXPECT_EQ(velocities.find(note(60, 0, 0, 5)), 7) << "what is stored moves along";
+    std::size_t taken = 0;
+    {
+        const TestSupport::AllocationCounter counter;
+        for (int channel = 0; channel < 16; ++channel)
+            for (int d1 = 0; d1 < 128; ++d1)
+                velocities.store(note(d1, 1, channel));
+        taken = counter.count();
+    }
+
+    EXPECT_EQ(taken, 0u);
 }
 
 }
