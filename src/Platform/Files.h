@@ -14,11 +14,11 @@ namespace Platform::Files {
 inline constexpr std::uintmax_t MAX_SIZE = 64u << 20;
 
 // [any] The whole content; nothing if it can't be opened, is no plain file or is larger than maxSize bytes.
-std::optional<std::string> read(const std::string& path, std::uintmax_t maxSize = MAX_SIZE);
+[[nodiscard]] std::optional<std::string> read(const std::string& path, std::uintmax_t maxSize = MAX_SIZE);
 
 // [any] Replaces or makes the file in one step: written beside the target, flushed, moved over it. After a false the
 // target is what it was before. False for folders, devices and read-only files.
-bool replace(const std::string& path, std::string_view content);
+[[nodiscard]] bool replace(const std::string& path, std::string_view content);
 
 // [any] Adds to the end of the file, which is made if missing.
 bool append(const std::string& path, std::string_view content);

@@ -26,13 +26,13 @@ public:
 };
 
 // [any] Opens a key, and makes it if it is missing; null if the caller may not.
-std::unique_ptr<MachineRegistryKey> openMachineRegistryKey(const std::string& key);
+[[nodiscard]] std::unique_ptr<MachineRegistryKey> openMachineRegistryKey(const std::string& key);
 
 // [while nobody opens a key] Replaces the keys that openMachineRegistryKey opens, so that a test has its own; an empty
 // function brings the system's back.
 void setMachineRegistry(std::function<std::unique_ptr<MachineRegistryKey>(const std::string& key)> registry);
 
 // [any] What openMachineRegistryKey does otherwise.
-std::unique_ptr<MachineRegistryKey> openSystemRegistryKey(const std::string& key);
+[[nodiscard]] std::unique_ptr<MachineRegistryKey> openSystemRegistryKey(const std::string& key);
 
 }

@@ -34,17 +34,17 @@ public:
     virtual ~SettingsStore() = default;
 
     // Opens a key, and makes it if it is missing. Names of keys are divided by "\". Null if that is impossible.
-    virtual std::unique_ptr<SettingsKey> open(const std::string& key) = 0;
+    [[nodiscard]] virtual std::unique_ptr<SettingsKey> open(const std::string& key) = 0;
 
     // Opens a key that is there already; null for any other. Changes nothing in the store.
-    virtual std::unique_ptr<SettingsKey> openExisting(const std::string& key) = 0;
+    [[nodiscard]] virtual std::unique_ptr<SettingsKey> openExisting(const std::string& key) = 0;
 };
 
 // The user's own store: the registry below HKEY_CURRENT_USER on Windows, elsewhere a file in the folder for the user's
 // configuration.
-std::unique_ptr<SettingsStore> createUserSettingsStore();
+[[nodiscard]] std::unique_ptr<SettingsStore> createUserSettingsStore();
 
 // A store in one file. Several keys share it; a file that is missing or holds nonsense holds no values.
-std::unique_ptr<SettingsStore> createFileSettingsStore(const std::string& path);
+[[nodiscard]] std::unique_ptr<SettingsStore> createFileSettingsStore(const std::string& path);
 
 }

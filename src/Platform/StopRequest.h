@@ -9,7 +9,7 @@ namespace Platform {
 void watchForStopRequests();
 
 // [any] Waits until the program is asked to end, at most this long. True if it was asked.
-bool waitForStopRequest(std::chrono::milliseconds limit);
+[[nodiscard]] bool waitForStopRequest(std::chrono::milliseconds limit);
 
 // [any] Whether the program was asked to pause (Ctrl+Z in a terminal) since the last pause. Never on systems that have
 // no such thing.

@@ -4,6 +4,6 @@ namespace Platform {
 
 // [any] Takes all messages that wait for the calling thread. Those for windows are dispatched, those for no window are
 // dropped. False as soon as one is WM_QUIT.
-bool dispatchThreadMessages();
+[[nodiscard]] bool dispatchThreadMessages();
 
 }

@@ -85,7 +85,7 @@ TEST(FilesTest, ReaderSeesTheOldOrTheNewContentOfAReplacedFile) {
     ASSERT_TRUE(Files::replace(path, contents[0]));
     std::thread writer([&] {
         for (std::size_t i = 0; i < 50; ++i)
-            Files::replace(path, contents[i % 2]);
+            EXPECT_TRUE(Files::replace(path, contents[i % 2]));
     });
     int strange = 0;
     for (int i = 0; i < 100; ++i) {

@@ -18,7 +18,7 @@ public:
     // Whether the other is of the same class with equal parameters.
     virtual bool operator==(const Function& other) const = 0;
 
-    virtual std::unique_ptr<Function> clone() const = 0;
+    [[nodiscard]] virtual std::unique_ptr<Function> clone() const = 0;
 
     // [backend] Does it. What it needs and does not find makes it do nothing.
     virtual void execute() = 0;

@@ -14,9 +14,9 @@ class XmlElement;
 namespace Backend::FunctionManagement {
 
 // From a function's element; null for any other element, and for that of NoFunction.
-std::unique_ptr<Function> createFunction(const XmlElement& element, MirelIF& mirel);
+[[nodiscard]] std::unique_ptr<Function> createFunction(const XmlElement& element, MirelIF& mirel);
 
 // A new one as the user gets it; null for a tag that is none of a function's, and for NoFunction.
-std::unique_ptr<Function> createDefaultFunction(const std::string& xmlTag, MirelIF& mirel);
+[[nodiscard]] std::unique_ptr<Function> createDefaultFunction(const std::string& xmlTag, MirelIF& mirel);
 
 }

@@ -11,7 +11,7 @@ class MirelIF;
 namespace Backend::FunctionManagement {
 
 // From the numbers of a version 2 file. Null for a type that has no function here.
-std::unique_ptr<Function> createFromVersion2(MirelIF& mirel, int type, int d1, int d2, int zone, int output,
-                                             int channel);
+[[nodiscard]] std::unique_ptr<Function> createFromVersion2(MirelIF& mirel, int type, int d1, int d2, int zone,
+                                                           int output, int channel);
 
 }

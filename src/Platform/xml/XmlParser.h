@@ -7,6 +7,6 @@
 namespace Platform {
 
 // [any] The system's parser on a document that decodeXml and xmlKeepsLimits let through. Null if it is not well-formed.
-std::unique_ptr<XmlNode> parseXml(const std::string& text);
+[[nodiscard]] std::unique_ptr<XmlNode> parseXml(const std::string& text);
 
 }

@@ -33,10 +33,10 @@ inline constexpr std::size_t XML_MAX_RUN = 8u << 20;
 // it is not well-formed, not in its encoding, holds a DOCTYPE, is larger than Files::MAX_SIZE or beyond the limits
 // above. External entities are never read. Parsers differ in namespaces, so there are none: declarations of namespaces
 // are left out of the tree, and a name with a prefix other than "xml" is refused.
-std::unique_ptr<XmlNode> readXml(std::string_view document);
+[[nodiscard]] std::unique_ptr<XmlNode> readXml(std::string_view document);
 
 // [any] The same, and the line of each element, for who tells a user what stands where.
-std::unique_ptr<XmlNode> readXmlWithLines(std::string_view document);
+[[nodiscard]] std::unique_ptr<XmlNode> readXmlWithLines(std::string_view document);
 
 // A thread that reads XML all the time keeps the system's parser ready between these two. Not required for readXml.
 void enterXmlThread();

@@ -17,7 +17,7 @@ struct DecodedXml {
 // [any] The document as UTF-8 without byte order mark, XML declaration and white space at its end, with line ends as
 // newlines. A byte order mark wins over the declared encoding. Nothing if the declaration is malformed, the encoding is
 // unknown, or the bytes are not in it or hold a character that XML doesn't allow.
-std::optional<DecodedXml> decodeXml(std::string_view document);
+[[nodiscard]] std::optional<DecodedXml> decodeXml(std::string_view document);
 
 // [any] UTF-8 text with the replacement character (U+FFFD) for every byte that is none and every character that no
 // document can hold.
@@ -28,6 +28,6 @@ std::string utf8OrWindows1252(std::string_view bytes);
 
 // [any] Whether the markup keeps the limits of XmlReader.h and holds no DOCTYPE or other declaration. Finds some of
 // what is not well-formed, leaves the rest to the parser, and takes time in proportion to the length.
-bool xmlKeepsLimits(std::string_view text);
+[[nodiscard]] bool xmlKeepsLimits(std::string_view text);
 
 }

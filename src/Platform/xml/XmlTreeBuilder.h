@@ -29,7 +29,7 @@ public:
     void addOther();
 
     // The root; null if there was none.
-    std::unique_ptr<XmlNode> takeRoot();
+    [[nodiscard]] std::unique_ptr<XmlNode> takeRoot();
 
 private:
     void endTextRun();

@@ -13,7 +13,7 @@ public:
     virtual ~ElementCollection() = default;
 
     // A walk over all elements.
-    virtual std::unique_ptr<IteratorIF<Element>> createIterator() = 0;
+    [[nodiscard]] virtual std::unique_ptr<IteratorIF<Element>> createIterator() = 0;
 
     // The element, or null. It stays valid until the collection changes.
     virtual Element* find(const Id& id) = 0;

@@ -19,11 +19,11 @@ std::vector<std::string> readProgramNames(const std::string& path);
 
 // [any] The bytes of a bank that a block can be put into: as they are, or in UTF-8 if the file is XML in an encoding
 // that the block would not be in. Nothing if the file can't be read.
-std::optional<std::string> readBank(const std::string& path, std::string_view block);
+[[nodiscard]] std::optional<std::string> readBank(const std::string& path, std::string_view block);
 
 // [any] Whether nothing is lost by writing this text in place of that one: the desk can read the new one, or could not
 // read the old one.
-bool remainsReadable(std::string_view oldBank, std::string_view newBank);
+[[nodiscard]] bool remainsReadable(std::string_view oldBank, std::string_view newBank);
 
 // [any] A file of one program: the header, a root of this name and the program's block in it.
 std::string wrapProgram(const std::string& rootTag, const std::string& programBlock);

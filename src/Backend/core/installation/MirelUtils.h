@@ -17,7 +17,7 @@ public:
     static void useDataFolder(const std::string& folder);
 
     // [any] The store of the settings, below which getMainRegistryKey lies.
-    static std::unique_ptr<Platform::SettingsStore> createSettingsStore();
+    [[nodiscard]] static std::unique_ptr<Platform::SettingsStore> createSettingsStore();
 
     // [any] The keys of the settings of the two editions.
     static std::string getMainRegistryKey();

@@ -12,14 +12,14 @@ std::string_view trim(std::string_view text);
 
 // The decimal integer at the start of the text, after white space and with an optional sign; what follows it is not
 // looked at. Nothing if there is no digit or the number needs more than 32 bits.
-std::optional<std::int32_t> readInteger(std::string_view text);
+[[nodiscard]] std::optional<std::int32_t> readInteger(std::string_view text);
 
 // The same with a value for text that holds no such number.
 std::int32_t readInteger(std::string_view text, std::int32_t defaultValue);
 
 // The flag that a text stands for: "true", "TRUE", "yes", "YES" and their opposites, in just these spellings. Nothing
 // for any other text.
-std::optional<bool> readBool(std::string_view text);
+[[nodiscard]] std::optional<bool> readBool(std::string_view text);
 
 // The low byte of a number, as the fields of one byte keep it.
 constexpr char lowByte(std::int32_t number) {

@@ -112,7 +112,8 @@ private:
         if (!dataFolder.empty())
             preset = PresetFiles("", dataFolder).read(folder, Version2Import::BASE_PRESET, PresetFolder::EXTENSION);
         Files::createFolders(Files::join(m_folder.getPath(), folder));
-        Files::replace(presetPath(folder, Version2Import::BASE_PRESET), preset.value_or(DEFAULT_COMPUTER_INPUT_XML));
+        static_cast<void>(Files::replace(presetPath(folder, Version2Import::BASE_PRESET),
+                                         preset.value_or(DEFAULT_COMPUTER_INPUT_XML)));
     }
 
     // A layer is written with its sequence preset only if that has notes; which, is of no account.

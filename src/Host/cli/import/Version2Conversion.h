@@ -9,7 +9,7 @@ namespace Host::Cli {
 enum class Version2Kind { BANK, PROGRAM, PRESET };
 
 // [any] "bank", "program" or "preset".
-std::optional<Version2Kind> findVersion2Kind(std::string_view word);
+[[nodiscard]] std::optional<Version2Kind> findVersion2Kind(std::string_view word);
 
 // [main, no desk] Converts a version 2 file to the text of a file of this version. fileName: that of the file, whose
 // first word tells the kind of a preset. Text that is not UTF-8 is taken for windows-1252. dataFolder: where the preset

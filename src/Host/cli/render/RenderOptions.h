@@ -24,6 +24,7 @@ struct RenderOptions {
 };
 
 // [any] From the words after "render". Nothing, with one line in error, for words that make no sense.
-std::optional<RenderOptions> parseRenderOptions(const std::vector<std::string>& arguments, std::string& error);
+[[nodiscard]] std::optional<RenderOptions> parseRenderOptions(const std::vector<std::string>& arguments,
+                                                              std::string& error);
 
 }

@@ -43,7 +43,7 @@ private:
         Backend::MidiEngine::MirelMidiMessage message;
     };
 
-    bool readEvents(std::string& error);
+    [[nodiscard]] bool readEvents(std::string& error);
     void addEvent(const MidiFileEvent& event, std::int32_t ppq);
     void endOpenNotes();
     bool isTaken(const Backend::MidiEngine::MirelMidiMessage& message) const;

@@ -12,7 +12,7 @@ namespace Host::Cli {
 
 // [any] A number as scripts and options write it: decimal or 0x hexadecimal, with an optional sign, of 32 bits. Nothing
 // for any other text.
-std::optional<std::int32_t> parseNumber(std::string_view text);
+[[nodiscard]] std::optional<std::int32_t> parseNumber(std::string_view text);
 
 // The words after a command, taken one by one. Each operation throws ScriptError, with the line, for what it can't use.
 class ScriptArguments {

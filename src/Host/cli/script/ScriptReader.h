@@ -19,7 +19,7 @@ public:
     explicit ScriptReader(std::string_view text) : m_rest(text) {}
 
     // The next command, past comments and empty lines; nothing at the end. Throws ScriptError for an open quote.
-    std::optional<ScriptLine> nextCommand();
+    [[nodiscard]] std::optional<ScriptLine> nextCommand();
 
     // All lines up to one that holds a single ".", as one text. Throws ScriptError if there is none.
     std::string readBlock(const ScriptLine& command);

@@ -12,6 +12,6 @@ bool canRecordTo(const std::string& path);
 
 // [any] Writes a recording to this file or, if that fails, to "Rescued recording.mid" in the data folder, with a number
 // behind "recording" if that is there already. Where it lies then; nothing if both failed.
-std::optional<std::string> keepRecording(const Recorder& recorder, const std::string& path);
+[[nodiscard]] std::optional<std::string> keepRecording(const Recorder& recorder, const std::string& path);
 
 }

@@ -117,7 +117,7 @@ MidiFileEvent makeTrackName(std::string_view name);
 
 // What such an event says. Nothing for another event, for too few bytes, for a tempo or numerator of 0. More bytes than
 // the event needs are no fault.
-std::optional<MidiFileTempo> tempoOf(const MidiFileEvent& event);
-std::optional<MidiFileTimeSignature> timeSignatureOf(const MidiFileEvent& event);
+[[nodiscard]] std::optional<MidiFileTempo> tempoOf(const MidiFileEvent& event);
+[[nodiscard]] std::optional<MidiFileTimeSignature> timeSignatureOf(const MidiFileEvent& event);
 
 }

@@ -52,15 +52,16 @@ public:
     virtual MidiPortIds list() = 0;
 
     // [any] Null if there is no such port or it can't be opened.
-    virtual std::unique_ptr<OpenMidiPort> openInput(const MidiPortId& id, MidiReceiver receiver) = 0;
-    virtual std::unique_ptr<OpenMidiPort> openOutput(const MidiPortId& id) = 0;
+    [[nodiscard]] virtual std::unique_ptr<OpenMidiPort> openInput(const MidiPortId& id, MidiReceiver receiver) = 0;
+    [[nodiscard]] virtual std::unique_ptr<OpenMidiPort> openOutput(const MidiPortId& id) = 0;
 
     // [any] Whether the system has the following ones now.
     virtual bool hasVirtualPorts() = 0;
 
     // [any] A port of the desk's own, for other programs to connect to. Null where the system has no such thing.
-    virtual std::unique_ptr<OpenMidiPort> openVirtualInput(const std::string& name, MidiReceiver receiver) = 0;
-    virtual std::unique_ptr<OpenMidiPort> openVirtualOutput(const std::string& name) = 0;
+    [[nodiscard]] virtual std::unique_ptr<OpenMidiPort> openVirtualInput(const std::string& name,
+                                                                         MidiReceiver receiver) = 0;
+    [[nodiscard]] virtual std::unique_ptr<OpenMidiPort> openVirtualOutput(const std::string& name) = 0;
 
     // [any] Says that from now on ports are only closed, all of them, so that they may go together in the end.
     virtual void beginClose() {}

@@ -16,6 +16,6 @@ PortList readPortFile(const std::string& dataFolder, const char* file);
 
 // [any] Replaces the file in one step and makes its folder if need be. False if that failed; true for a folder that is
 // empty text, where nothing is kept.
-bool writePortFile(const std::string& dataFolder, const char* file, const std::string& text);
+[[nodiscard]] bool writePortFile(const std::string& dataFolder, const char* file, const std::string& text);
 
 }

@@ -30,7 +30,7 @@ public:
     bool setSettings(std::size_t index, const PortSettings& settings);
 
     // [any] The same for the switch alone, and only until the list is read again: its text keeps what was there before.
-    bool switchForNow(std::size_t index, bool enabled);
+    [[nodiscard]] bool switchForNow(std::size_t index, bool enabled);
 
     const std::vector<PortRow>& rows() const { return m_rows; }
 

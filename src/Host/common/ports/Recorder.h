@@ -56,6 +56,6 @@ private:
 };
 
 // [any] The port through which a line feeds the recorder.
-std::unique_ptr<OpenMidiPort> openRecorder(std::shared_ptr<Recorder> recorder);
+[[nodiscard]] std::unique_ptr<OpenMidiPort> openRecorder(std::shared_ptr<Recorder> recorder);
 
 }

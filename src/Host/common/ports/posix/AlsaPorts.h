@@ -15,8 +15,8 @@ bool areThere();
 MidiPortIds list(const std::string& clientName);
 std::unique_ptr<OpenMidiPort> openInput(const std::string& clientName, const MidiPortId& id, MidiReceiver receiver);
 std::unique_ptr<OpenMidiPort> openOutput(const std::string& clientName, const MidiPortId& id);
-std::unique_ptr<OpenMidiPort> openVirtualInput(const std::string& clientName, const std::string& name,
-                                               MidiReceiver receiver);
+[[nodiscard]] std::unique_ptr<OpenMidiPort> openVirtualInput(const std::string& clientName, const std::string& name,
+                                                             MidiReceiver receiver);
 std::unique_ptr<OpenMidiPort> openVirtualOutput(const std::string& clientName, const std::string& name);
 
 }

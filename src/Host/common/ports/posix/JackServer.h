@@ -50,7 +50,7 @@ public:
     std::unique_ptr<OpenMidiPort> openOutput(const std::string& to);
 
     // [any] A port of the desk for other programs to connect to. Null if there can't be one.
-    std::unique_ptr<OpenMidiPort> openVirtualInput(const std::string& name, MidiReceiver receiver);
+    [[nodiscard]] std::unique_ptr<OpenMidiPort> openVirtualInput(const std::string& name, MidiReceiver receiver);
     std::unique_ptr<OpenMidiPort> openVirtualOutput(const std::string& name);
 
     // [any] From now on ports are only closed; they leave the server together, with the desk.
