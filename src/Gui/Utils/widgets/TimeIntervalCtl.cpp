@@ -56,11 +56,8 @@ void TimeIntervalCtl::create(HWND window, const Colours& colours, int id) {
     placeholder.rect.bottom = placeholder.rect.top + HEIGHT;
     if (id != 0)
         placeholder.id = id;
-    GdiManager& gdi = m_gui->getGdiManager();
-    const COLORREF background = colours.background.colour();
     m_colours = std::make_unique<Colours>(colours);
-    m_knob = &gdi.getKnob(gdi.getUnusedButtonBrush().colour(), background, true, m_diameter);
-    m_disabledKnob = &gdi.getKnob(gdi.getDisabledButtonBrush().colour(), background, true, m_diameter);
+    m_knob.emplace(m_gui->getGdiManager(), colours.background.colour(), m_diameter);
     m_dialog = placeholder.parent;
     const HINSTANCE module = registerClassOnce(static_cast<HINSTANCE>(Platform::getModuleInstance()));
     m_windowHandle = placeholder.replace(CLASS_NAME, module, this);
@@ -147,9 +144,9 @@ LRESULT TimeIntervalCtl::wndProc(HWND window, UINT message, WPARAM wParam, LPARA
     switch (message) {
         case WM_LBUTTONDOWN: handleLeftButtonDown(pointOf(lParam)); return 0;
         case WM_MBUTTONDOWN: handleMiddleButtonDown(pointOf(lParam)); return 0;
-        case WM_LBUTTONUP: handleLeftButtonUp(); return 0;
+        case WM_LBUTTONUP: m_lock.released(); return 0;
         case WM_MOUSEMOVE: drag(GET_Y_LPARAM(lParam)); return 0;
-        case WM_CAPTURECHANGED: handleCaptureChanged(reinterpret_cast<HWND>(lParam)); return 0;
+        case WM_CAPTURECHANGED: m_lock.captureChanged(reinterpret_cast<HWND>(lParam)); return 0;
         case UM_MOUSEWHEEL: handleWheel(wParam, pointOf(lParam)); return 0;
         case WM_TIMER: handleTimer(wParam); return 0;
         case WM_CTLCOLOREDIT: return reinterpret_cast<LRESULT>(colourEdit(reinterpret_cast<HDC>(wParam)));

@@ -2,6 +2,8 @@
 
 #include "Backend/midi/TimeIntervalType.h"
 #include "Gui/Rules/values/TimeIntervalScale.h"
+#include "Gui/Utils/widgets/KnobPainter.h"
+#include "Gui/Utils/widgets/MouseLock.h"
 #include "Gui/Utils/widgets/TimeIntervalEdit.h"
 #include "Gui/Utils/windows/WindowsLib.h"
 
@@ -9,6 +11,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -90,7 +93,6 @@ private:
 
     // Painting.
     void paint() const;
-    void paintKnob(HDC dc) const;
     void paintValueBox(HDC dc) const;
     void paintTypeBox(HDC dc) const;
     bool isEnabled() const;
@@ -105,10 +107,6 @@ private:
     // Mouse.
     void handleLeftButtonDown(POINT point);
     void handleMiddleButtonDown(POINT point);
-    void handleLeftButtonUp();
-    void handleCaptureChanged(HWND capturer);
-    bool endLock();
-    bool startLock(POINT point);
     void drag(int y);
     void handleWheel(WPARAM wParam, POINT screenPoint);
 
@@ -126,8 +124,7 @@ private:
     HWND m_dialog = nullptr;
     Listener* m_listener;
     HWND m_windowHandle = nullptr;
-    WindowsLib::Bitmap* m_knob = nullptr;
-    WindowsLib::Bitmap* m_disabledKnob = nullptr;
+    std::optional<KnobPainter> m_knob;  // From the creation on.
     std::unique_ptr<PopupMenu> m_intervalMenu;
     std::unique_ptr<Colours> m_colours;
     int m_knobOnRight = 1;
@@ -138,7 +135,7 @@ private:
     std::int32_t m_max = 30720;
     bool m_menuShowing = false;
     bool m_invalid = false;
-    bool m_isLockedByMiddle = false;  // So that no button of the mouse is really down.
+    MouseLock m_lock{MouseLock::Button::LEFT};
     TimeIntervalEdit m_edit;
 };
 

@@ -6,10 +6,8 @@
 #include "Gui/Utils/skin/PopupMenu.h"
 #include "Gui/Utils/widgets/TimeIntervalCtl.h"
 #include "Gui/Utils/windows/Wheel.h"
-#include "Gui/Utils/windows/WindowProperties.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace Gui {
 
@@ -18,110 +16,43 @@ using Backend::TimeIntervalType;
 
 namespace {
 
-constexpr const char* CAPTURED = "CAPTURED";            // The value follows the mouse.
-constexpr const char* CAPTURE_POSITION = "CAPTUREPOS";  // Its height at the start, and the offset.
-constexpr const char* CAPTURE_VALUE = "CAPTUREVAL";     // The knob's position at the start.
-constexpr const char* OWN_PRESS = "MYLDOWN";            // The next press is the one that this code sent.
-constexpr int POSITION_OFFSET = 2000;
 constexpr UINT_PTR MENU_TIMER = 1;
 constexpr UINT MENU_TIMER_MILLISECONDS = 20;
 constexpr int MENU_ROWS = 64;
 constexpr int LARGE_STEP = 10;
 
-// The button that means "left" to programs, which a left-handed user's system exchanges.
-bool sendLeftButton(bool down) {
-    const bool swapped = GetSystemMetrics(SM_SWAPBUTTON) != 0;
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    if (down)
-        input.mi.dwFlags = swapped ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN;
-    else
-        input.mi.dwFlags = swapped ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP;
-    return SendInput(1, &input, sizeof input) == 1;
-}
-
-void restoreCursor() {
-    SetCursor(LoadCursorA(nullptr, IDC_ARROW));
-}
-
 }
 
 void TimeIntervalCtl::handleLeftButtonDown(POINT point) {
-    if (RemovePropA(m_windowHandle, OWN_PRESS) != nullptr)
-        return;
-    if (endLock())
+    if (m_lock.takeOwnPress() || m_lock.endByButton())
         return;
     m_gui->setFocus();
+    const RECT knob = knobSquare();
     const RECT value = valueBox();
     const RECT type = typeBox();
-    if (startLock(point))
-        return;
-    if (PtInRect(&value, point))
+    if (PtInRect(&knob, point))
+        m_lock.startHeld(m_windowHandle, point.y, getPosition());
+    else if (PtInRect(&value, point))
         openValue();
     else if (PtInRect(&type, point))
         flipType();
 }
 
 void TimeIntervalCtl::handleMiddleButtonDown(POINT point) {
-    if (endLock()) {
-        // No real press will ever end the one that was sent at the start.
-        sendLeftButton(false);
+    if (m_lock.end())
         return;
-    }
     m_gui->setFocus();
-    m_isLockedByMiddle = startLock(point);
-    if (m_isLockedByMiddle)
-        SetCursor(m_gui->getGdiManager().getRedCursor().handle());
-}
-
-// For as long as a button is down, the mouse stays with this window also beyond the program's own.
-bool TimeIntervalCtl::startLock(POINT point) {
     const RECT knob = knobSquare();
-    if (!PtInRect(&knob, point))
-        return false;
-    setNumber(m_windowHandle, CAPTURED, 1);
-    setNumber(m_windowHandle, CAPTURE_POSITION, point.y + POSITION_OFFSET);
-    setNumber(m_windowHandle, CAPTURE_VALUE, getPosition());
-    SetCapture(m_windowHandle);
-    if (sendLeftButton(true))
-        setNumber(m_windowHandle, OWN_PRESS, 1);
-    return true;
-}
-
-bool TimeIntervalCtl::endLock() {
-    if (RemovePropA(m_windowHandle, CAPTURED) == nullptr)
-        return false;
-    m_isLockedByMiddle = false;
-    ReleaseCapture();
-    restoreCursor();
-    return true;
-}
-
-void TimeIntervalCtl::handleLeftButtonUp() {
-    m_isLockedByMiddle = false;
-    if (RemovePropA(m_windowHandle, CAPTURED) != nullptr)
-        ReleaseCapture();
-    // After a click so short that it ends before the press that was sent arrives, nothing else would end that one.
-    if (getFlag(m_windowHandle, OWN_PRESS))
-        sendLeftButton(false);
-}
-
-void TimeIntervalCtl::handleCaptureChanged(HWND capturer) {
-    // Something else took the mouse away.
-    if (capturer == m_windowHandle || RemovePropA(m_windowHandle, CAPTURED) == nullptr)
-        return;
-    restoreCursor();
-    if (std::exchange(m_isLockedByMiddle, false))
-        sendLeftButton(false);
+    if (PtInRect(&knob, point))
+        m_lock.startFree(m_windowHandle, point.y, getPosition(), m_gui->getGdiManager().getRedCursor());
 }
 
 void TimeIntervalCtl::drag(int y) {
-    if (!getFlag(m_windowHandle, CAPTURED))
+    if (!m_lock.isLocked())
         return;
-    const int pixelsUp = static_cast<int>(getNumber(m_windowHandle, CAPTURE_POSITION)) - POSITION_OFFSET - y;
-    const int start = static_cast<int>(getNumber(m_windowHandle, CAPTURE_VALUE));
     const int sensitivity = m_gui->getRegistrySettings().getMouseSensitivity();
-    setValue(TimeIntervalScale::valueAfterDrag(m_type.getMode(), range(), start, pixelsUp, sensitivity));
+    setValue(TimeIntervalScale::valueAfterDrag(m_type.getMode(), range(), m_lock.getStartValue(), m_lock.getDistance(y),
+                                               sensitivity));
 }
 
 void TimeIntervalCtl::handleWheel(WPARAM wParam, POINT point) {

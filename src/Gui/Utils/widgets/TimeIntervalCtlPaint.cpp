@@ -6,8 +6,6 @@
 #include "Gui/Utils/widgets/TimeIntervalCtl.h"
 #include "Gui/Utils/windows/DeviceContexts.h"
 
-#include <cmath>
-
 namespace Gui {
 
 using Backend::TimeIntervalType;
@@ -42,32 +40,11 @@ void TimeIntervalCtl::paint() const {
     GetClientRect(m_windowHandle, &rect);
     const MemoryDc memory(scope.dc(), rect.right, rect.bottom);
     FillRect(memory.dc(), &rect, m_colours->background.handle());
-    paintKnob(memory.dc());
+    const RECT knob = knobSquare();
+    m_knob->paint(memory.dc(), {knob.left, knob.top}, getPosition(), isEnabled());
     paintValueBox(memory.dc());
     paintTypeBox(memory.dc());
     BitBlt(scope.dc(), 0, 0, rect.right, rect.bottom, memory.dc(), 0, 0, SRCCOPY);
-}
-
-void TimeIntervalCtl::paintKnob(HDC dc) const {
-    const GdiManager& gdi = m_gui->getGdiManager();
-    const int left = knobSquare().left;
-    const int pictureSize = m_diameter + 1;
-    {
-        const HDC picture = CreateCompatibleDC(dc);
-        {
-            const SelectScope scope(picture, (isEnabled() ? m_knob : m_disabledKnob)->handle());
-            BitBlt(dc, left, 0, pictureSize, pictureSize, picture, 0, 0, SRCCOPY);
-        }
-        DeleteDC(picture);
-    }
-    const double angle = TimeIntervalScale::pointerAngle(getPosition());
-    const int length = TimeIntervalScale::pointerLength(m_diameter, angle);
-    const int x = left + 1 + m_diameter / 2;
-    const int y = 1 + m_diameter / 2;
-    const SelectScope pen(dc, (isEnabled() ? gdi.getGreenPen() : gdi.getBlackPen()).handle());
-    MoveToEx(dc, x, y, nullptr);
-    LineTo(dc, x + static_cast<int>(std::lround(length * std::cos(angle))),
-           y + static_cast<int>(std::lround(length * std::sin(angle))));
 }
 
 void TimeIntervalCtl::paintValueBox(HDC dc) const {
