@@ -5,14 +5,12 @@
 #include "Gui/Utils/skin/GdiManager.h"
 #include "Gui/Utils/skin/SkinProperties.h"
 #include "Gui/Utils/skin/Skinner.h"
-#include "Gui/Utils/windows/WindowProcedure.h"
 #include "Platform/Shell.h"
 
 namespace Gui::System {
 
 namespace {
 
-constexpr const char* OBJECT = "SetupPage";
 constexpr const char* MANUAL_PAGE = "setup.htm";
 
 }
@@ -23,28 +21,15 @@ PROPSHEETPAGEA SetupPage::describe() {
     page.dwFlags = PSP_HASHELP;
     page.hInstance = static_cast<HINSTANCE>(Platform::getModuleInstance());
     page.pszTemplate = MAKEINTRESOURCEA(m_dialogId);
-    page.pfnDlgProc = dialogProcedure;
-    page.lParam = reinterpret_cast<LPARAM>(this);
+    page.pfnDlgProc = pageProcedure;
+    page.lParam = parameter();
     return page;
-}
-
-INT_PTR CALLBACK SetupPage::dialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_INITDIALOG)
-        setObject(window, OBJECT, reinterpret_cast<void*>(reinterpret_cast<PROPSHEETPAGEA*>(lParam)->lParam));
-    SetupPage* const page = getObject<SetupPage>(window, OBJECT);
-    if (!page)
-        return 0;
-    if (message == WM_INITDIALOG) {
-        page->m_window = window;
-        setObject(window, page->m_property, page);
-    }
-    return withoutExceptions([&] { return page->dlgProc(message, wParam, lParam); });
 }
 
 INT_PTR SetupPage::dlgProc(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_INITDIALOG:
-            m_gui.getSkinner().skinWindow(m_window);
+            m_gui.getSkinner().skinWindow(window());
             initialize();
             return 1;
         case WM_NOTIFY: return handleNotify(*reinterpret_cast<NMHDR*>(lParam));
@@ -53,11 +38,6 @@ INT_PTR SetupPage::dlgProc(UINT message, WPARAM wParam, LPARAM lParam) {
             if (wParam == VK_SPACE)
                 toggleFocusedCheckBox();
             return 0;
-        case WM_NCDESTROY:
-            RemovePropA(m_window, m_property);
-            RemovePropA(m_window, OBJECT);
-            m_window = nullptr;
-            return 0;
         default: return 0;
     }
 }
@@ -65,10 +45,10 @@ INT_PTR SetupPage::dlgProc(UINT message, WPARAM wParam, LPARAM lParam) {
 INT_PTR SetupPage::handleNotify(const NMHDR& header) {
     switch (header.code) {
         case PSN_HELP: Backend::MirelUtils::showManual(MANUAL_PAGE); return 1;
-        case PSN_KILLACTIVE: SetWindowLongPtrA(m_window, DWLP_MSGRESULT, validate() ? FALSE : TRUE); return 1;
+        case PSN_KILLACTIVE: SetWindowLongPtrA(window(), DWLP_MSGRESULT, validate() ? FALSE : TRUE); return 1;
         case PSN_APPLY:
             apply();
-            SetWindowLongPtrA(m_window, DWLP_MSGRESULT, PSNRET_NOERROR);
+            SetWindowLongPtrA(window(), DWLP_MSGRESULT, PSNRET_NOERROR);
             return 1;
         default: handleNotification(header); return 0;
     }
@@ -85,16 +65,16 @@ INT_PTR SetupPage::handleListColour(HDC dc) const {
 // A skinned check box hands its keys to the page.
 void SetupPage::toggleFocusedCheckBox() const {
     const HWND focus = GetFocus();
-    if (GetParent(focus) == m_window && GetPropA(focus, SkinProperties::CHECK_BOX_PROCEDURE))
+    if (GetParent(focus) == window() && GetPropA(focus, SkinProperties::CHECK_BOX_PROCEDURE))
         SendMessageA(focus, BM_SETCHECK, SendMessageA(focus, BM_GETCHECK, 0, 0) ? BST_UNCHECKED : BST_CHECKED, 0);
 }
 
 void SetupPage::setChecked(int id, bool checked) const {
-    CheckDlgButton(m_window, id, checked ? BST_CHECKED : BST_UNCHECKED);
+    CheckDlgButton(window(), id, checked ? BST_CHECKED : BST_UNCHECKED);
 }
 
 bool SetupPage::isChecked(int id) const {
-    return IsDlgButtonChecked(m_window, id) == BST_CHECKED;
+    return IsDlgButtonChecked(window(), id) == BST_CHECKED;
 }
 
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Gui/Utils/widgets/DialogObject.h"
+
 #include <windows.h>
 
 #include <prsht.h>
@@ -11,13 +13,11 @@ class MirelGuiIF;
 namespace Gui::System {
 
 // A page of the setup: a skinned dialog that lives from the first look at the page to the end of the sheet. [gui]
-class SetupPage {
+class SetupPage : protected DialogObject {
 public:
     // property: the name under which the page's window carries this object.
     SetupPage(MirelGuiIF& gui, int dialogId, const char* property)
-        : m_gui(gui), m_dialogId(dialogId), m_property(property) {}
-    SetupPage(const SetupPage&) = delete;
-    SetupPage& operator=(const SetupPage&) = delete;
+        : DialogObject(property), m_gui(gui), m_dialogId(dialogId) {}
 
     // What the sheet needs to know.
     PROPSHEETPAGEA describe();
@@ -38,22 +38,17 @@ protected:
     virtual void handleNotification(const NMHDR&) {}
 
     MirelGuiIF& gui() const { return m_gui; }
-    HWND window() const { return m_window; }
-    HWND control(int id) const { return GetDlgItem(m_window, id); }
     void setChecked(int id, bool checked) const;
     bool isChecked(int id) const;
 
 private:
-    static INT_PTR CALLBACK dialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    INT_PTR dlgProc(UINT message, WPARAM wParam, LPARAM lParam);
+    INT_PTR dlgProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     INT_PTR handleNotify(const NMHDR& header);
     INT_PTR handleListColour(HDC dc) const;
     void toggleFocusedCheckBox() const;
 
     MirelGuiIF& m_gui;
     int m_dialogId;
-    const char* m_property;
-    HWND m_window = nullptr;
 };
 
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Gui/Utils/widgets/DialogObject.h"
+
 #include <windows.h>
 
 #include <string>
@@ -7,10 +9,11 @@
 namespace Gui {
 
 // A dialog with one line of text that stays for as long as something else works, and that the user can't close. [gui]
-class ModalDialog {
+class ModalDialog : private DialogObject {
 public:
     // closeMessage: what the dialog's window gets when the work is done.
-    ModalDialog(UINT closeMessage, std::string text) : m_closeMessage(closeMessage), m_text(std::move(text)) {}
+    ModalDialog(UINT closeMessage, std::string text)
+        : DialogObject("ModalDialog"), m_closeMessage(closeMessage), m_text(std::move(text)) {}
     virtual ~ModalDialog() = default;
 
     // Starts the work, which ends with closeMessage to this window. An exception ends the dialog at once.
@@ -20,9 +23,8 @@ public:
     void run(HWND owner);
 
 private:
-    static INT_PTR CALLBACK dialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
-    INT_PTR dlgProc(HWND dialog, UINT message);
-    void startOrEnd(HWND dialog);
+    INT_PTR dlgProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void startOrEnd();
 
     UINT m_closeMessage;
     std::string m_text;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Gui/Utils/widgets/DialogObject.h"
+
 #include <windows.h>
 
 #include <optional>
@@ -8,10 +10,11 @@
 namespace Gui {
 
 // Asks the user for a line of text. [gui]
-class TextPrompt {
+class TextPrompt : private DialogObject {
 public:
     TextPrompt(std::string caption, std::string prompt, std::string defaultText, bool allowBlank = false)
-        : m_caption(std::move(caption)),
+        : DialogObject("EditBoxDialog"),
+          m_caption(std::move(caption)),
           m_prompt(std::move(prompt)),
           m_text(std::move(defaultText)),
           m_allowBlank(allowBlank) {}
@@ -20,10 +23,9 @@ public:
     std::optional<std::string> run(HWND owner);
 
 private:
-    static INT_PTR CALLBACK dialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
-    INT_PTR dlgProc(HWND dialog, UINT message, WPARAM wParam);
-    void fill(HWND dialog);
-    bool take(HWND dialog);
+    INT_PTR dlgProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void fill();
+    bool take();
 
     std::string m_caption;
     std::string m_prompt;
