@@ -29,6 +29,9 @@ public:
 
     Handle handle() const { return m_handle; }
 
+    // Leaves the handle to the caller.
+    Handle release() { return std::exchange(m_handle, nullptr); }
+
 private:
     Handle m_handle = nullptr;
 };
@@ -94,6 +97,27 @@ private:
 };
 
 using Bitmap = GdiObject<HBITMAP>;
+using Region = GdiObject<HRGN>;
+
+inline Region makeRegion(const RECT& rect) {
+    return Region(CreateRectRgnIndirect(&rect));
+}
+
+// Adds another region to this one, or takes it away. The other stays as it is.
+inline void addRegion(const Region& region, const Region& added) {
+    CombineRgn(region.handle(), region.handle(), added.handle(), RGN_OR);
+}
+
+inline void cutRegion(const Region& region, const Region& cut) {
+    CombineRgn(region.handle(), region.handle(), cut.handle(), RGN_DIFF);
+}
+
+// Gives a window this shape, in pixels from its top left corner. The system owns the region from then on; a window that
+// doesn't take it leaves it to be deleted here.
+inline void shapeWindow(HWND window, Region region) {
+    if (SetWindowRgn(window, region.handle(), TRUE))
+        region.release();
+}
 
 // A cursor of a module's resources, which the system owns.
 class Cursor {
