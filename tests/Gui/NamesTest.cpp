@@ -56,6 +56,9 @@ TEST(UserMessagesTest, HaveTheirNumbers) {
     constexpr Number NUMBERS[] = {
         {UM_RETURN_FOCUS, 101},
         {UM_HOVER, 102},
+        {UM_VERTICAL_TRACK, 103},
+        {UM_HORIZONTAL_TRACK, 104},
+        {UM_CHILD_RESIZED, 105},
         {UM_SIZE_CHANGED, 105},
         {UM_DOCK_CHANGED, 106},
         {UM_ALWAYS_ON_TOP_CHANGED, 107},

@@ -7,8 +7,8 @@ namespace Gui {
 
 class MirelGuiIF;
 
-// The panel that every screen is made of: in the desk's look, and without a keyboard focus of its own. Keys, clicks and
-// the focus go up to the main window.
+// The panel that every screen is made of: in the desk's look, and without a keyboard focus of its own. Keys, clicks, the
+// focus and what the pointer is over go up to the main window.
 class SkinPanel : public Panel {
 public:
     // See Panel. The gui must outlive the panel's window.

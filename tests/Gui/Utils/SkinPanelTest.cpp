@@ -56,7 +56,7 @@ TEST_F(SkinPanelTest, KeysSentToItsWindowGoUp) {
 
 TEST_F(SkinPanelTest, FocusGoesUpAfterTheMessageIsDone) {
     for (SkinPanel* panel : {&plain, &dialog})
-        for (const UINT message : {UINT{WM_SETFOCUS}, UM_RETURN_FOCUS}) {
+        for (const UINT message : {UINT{WM_SETFOCUS}, UINT{WM_ACTIVATE}, UM_RETURN_FOCUS}) {
             top.forgetMessages();
             const LRESULT answer = panel == &plain ? panel->wndProc(panel->getWindowHandle(), message, 0, 0)
                                                    : panel->dlgProc(panel->getWindowHandle(), message, 0, 0);
@@ -64,6 +64,18 @@ TEST_F(SkinPanelTest, FocusGoesUpAfterTheMessageIsDone) {
             EXPECT_EQ(top.count(UM_RETURN_FOCUS), 0u);
             pump();
             EXPECT_EQ(top.count(UM_RETURN_FOCUS), 1u);
+        }
+}
+
+TEST_F(SkinPanelTest, WhatThePointerIsOverGoesUpWithItsWindow) {
+    for (SkinPanel* panel : {&plain, &dialog})
+        for (const LPARAM hovered : {LPARAM{0}, reinterpret_cast<LPARAM>(top.handle())}) {
+            top.forgetMessages();
+            SendMessageA(panel->getWindowHandle(), UM_HOVER, 5, hovered);
+            EXPECT_EQ(top.count(UM_HOVER), 0u);
+            pump();
+            const std::vector<TestWindow::Message> expected = {{UM_HOVER, 0, hovered}};
+            EXPECT_EQ(top.received(UM_HOVER), expected);
         }
 }
 

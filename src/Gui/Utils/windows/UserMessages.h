@@ -6,12 +6,17 @@
 
 namespace Gui {
 
+// The same offset can mean one thing inside the desk and another to the host, who gets none of the first.
+
 // To panels and to the main window.
-constexpr UINT UM_RETURN_FOCUS = WM_APP + 101;     // The keyboard goes back to the desk.
-constexpr UINT UM_HOVER = WM_APP + 102;            // l: the window under the pointer, or null.
-constexpr UINT UM_MOUSEWHEEL = WM_APP + 109;       // As WM_MOUSEWHEEL, to the window under the pointer.
-constexpr UINT UM_DISPLAY_CREATED = WM_APP + 121;  // Of the log's panel to itself.
-constexpr UINT UM_MODAL_WORK_DONE = WM_APP + 123;  // Closes a dialog that waits for the desk.
+constexpr UINT UM_RETURN_FOCUS = WM_APP + 101;      // The keyboard goes back to the desk.
+constexpr UINT UM_HOVER = WM_APP + 102;             // l: the window under the pointer, or null.
+constexpr UINT UM_VERTICAL_TRACK = WM_APP + 103;    // As WM_VSCROLL, to the track bar that its parent got it from.
+constexpr UINT UM_HORIZONTAL_TRACK = WM_APP + 104;  // As WM_HSCROLL.
+constexpr UINT UM_CHILD_RESIZED = WM_APP + 105;     // To a panel: a window in it has changed its height.
+constexpr UINT UM_MOUSEWHEEL = WM_APP + 109;        // As WM_MOUSEWHEEL, to the window under the pointer.
+constexpr UINT UM_DISPLAY_CREATED = WM_APP + 121;   // Of the log's panel to itself.
+constexpr UINT UM_MODAL_WORK_DONE = WM_APP + 123;   // Closes a dialog that waits for the desk.
 
 // To the host's window.
 constexpr UINT UM_SIZE_CHANGED = WM_APP + 105;             // w: width; l: height. Sent.
