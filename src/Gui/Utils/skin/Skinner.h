@@ -15,14 +15,19 @@ class TimeIntervalCtl;
 
 // Gives the system's own controls the desk's look, and the manners that all screens share: help about what is under the
 // pointer, values that the wheel turns, lists of values on the right button. It puts procedures of its own in front of
-// the windows' and reads what it needs from their properties (SkinProperties.h) whenever it needs it. [gui]
+// the windows' and reads what it needs from their properties (SkinProperties.h) whenever it needs it.
+//
+// In an edit, Tab goes to the next field of its window and Shift+Tab to the one before, and Enter and Escape give the
+// keyboard back to the desk. [gui]
 class Skinner {
 public:
     // The gui is used from the first skinWindow on, and must outlive every window that is skinned.
     explicit Skinner(MirelGuiIF& gui) : m_gui(gui) {}
 
     // Skins all controls below a window, and the window itself, which draws for them. Controls that come to it later
-    // are skinned as they come. What is skinned already stays as it is. Null is no window.
+    // are skinned as they come, before CreateWindow returns, but only those right below it. So a control with controls
+    // of its own is skinned by a call for itself, before it gets the first; a procedure that it then puts in front of
+    // one of them stands in front of the skin's. What is skinned already stays as it is. Null is ignored.
     void skinWindow(HWND window);
 
     // For a Skinner that ends before a window: neither the window nor what is below it comes to this Skinner any more.
@@ -96,6 +101,7 @@ private:
 
     // Edits.
     LRESULT editProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    static bool handleEditKey(HWND window, WPARAM key);
     void drawEditFrame(HWND window);
     bool handleEditBoxMouseWheel(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     bool handleContextMenu(HWND window, WPARAM wParam, LPARAM lParam);

@@ -43,6 +43,25 @@ bool endsEntry(WPARAM key) {
     return key == VK_RETURN || key == VK_ESCAPE;
 }
 
+// A field that a user can type into. A ComboBox hands its keys to the desk.
+bool isField(HWND window) {
+    constexpr LONG_PTR NEEDED = WS_VISIBLE | WS_TABSTOP;
+    const LONG_PTR style = GetWindowLongPtrA(window, GWL_STYLE);
+    return getFlag(window, EDIT_PROCEDURE) && !getFlag(window, COMBO_BOX) && (style & NEEDED) == NEEDED &&
+           (style & (ES_READONLY | WS_DISABLED)) == 0;
+}
+
+// The next field of the same window in its tab order, from the last one to the first. Null without another one.
+HWND findNextField(HWND field, bool backwards) {
+    HWND other = field;
+    do {
+        other = GetWindow(other, backwards ? GW_HWNDPREV : GW_HWNDNEXT);
+        if (!other)
+            other = GetWindow(field, backwards ? GW_HWNDLAST : GW_HWNDFIRST);
+    } while (other != field && !isField(other));
+    return other == field ? nullptr : other;
+}
+
 // Where a list of values opens. The keyboard names no point.
 POINT getListCorner(HWND window, LPARAM lParam) {
     if (static_cast<DWORD>(lParam) != NO_POINT)
@@ -75,12 +94,11 @@ LRESULT Skinner::editProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
                 return 0;
             break;
         case WM_KEYDOWN:
-            if (!endsEntry(wParam))
-                break;
-            PostMessageA(GetParent(window), UM_RETURN_FOCUS, 0, 0);
-            return 0;
+            if (handleEditKey(window, wParam))
+                return 0;
+            break;
         case WM_CHAR:
-            if (endsEntry(wParam))
+            if (endsEntry(wParam) || wParam == VK_TAB)
                 return 0;
             break;
         case WM_MOUSEWHEEL:
@@ -91,6 +109,21 @@ LRESULT Skinner::editProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
         default: break;
     }
     return callOriginal(window, EDIT_PROCEDURE, message, wParam, lParam);
+}
+
+// The message loop leaves Tab to the windows, since on the main window it is a key like any other.
+bool Skinner::handleEditKey(HWND window, WPARAM key) {
+    if (endsEntry(key)) {
+        PostMessageA(GetParent(window), UM_RETURN_FOCUS, 0, 0);
+        return true;
+    }
+    if (key != VK_TAB || GetKeyState(VK_CONTROL) < 0)
+        return false;
+    if (const HWND next = findNextField(window, GetKeyState(VK_SHIFT) < 0)) {
+        SetFocus(next);
+        SendMessageA(next, EM_SETSEL, 0, -1);
+    }
+    return true;
 }
 
 void Skinner::drawEditFrame(HWND window) {

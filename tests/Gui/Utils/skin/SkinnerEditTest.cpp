@@ -408,5 +408,99 @@ TEST_F(SkinnerValuePickerTest, LeavesSignedFieldsToTheStockMenu) {
     EXPECT_EQ(textOf(edit), "+5");
 }
 
+// Some fields in a row, with what Tab passes over between them.
+class SkinnerTabTest : public testing::Test {
+protected:
+    SkinnerTabTest() { dialog.skin(); }
+
+    HWND add(const char* className, DWORD style) {
+        top += 24;
+        return dialog.add(className, "12", style, {10, top, 110, top + 20});
+    }
+
+    static void press(HWND window, WPARAM key) {
+        PostMessageA(window, WM_KEYDOWN, key, 1);
+        pump();
+    }
+
+    static void holdKey(WORD key, bool down) {
+        INPUT input{};
+        input.type = INPUT_KEYBOARD;
+        input.ki.wVk = key;
+        input.ki.dwFlags = down ? 0 : KEYEVENTF_KEYUP;
+        SendInput(1, &input, sizeof input);
+        ASSERT_TRUE(TestSupport::pumpUntil([&] { return (GetKeyState(key) < 0) == down; }));
+    }
+
+    SkinnedDialog dialog;
+    int top = 0;
+    HWND first = GetDlgItem(dialog.handle(), IDC_SKIN_EDIT);
+    HWND disabled = add("Edit", WS_TABSTOP | WS_DISABLED);
+    HWND button = add("Button", WS_TABSTOP);
+    HWND second = add("Edit", WS_TABSTOP);
+    HWND readOnly = add("Edit", WS_TABSTOP | ES_READONLY);
+    HWND withoutStop = add("Edit", 0);
+    HWND combo = add("Edit", WS_TABSTOP);
+};
+
+TEST_F(SkinnerTabTest, GoesFromFieldToFieldAndRound) {
+    setNumber(combo, COMBO_BOX, 1);
+    SetFocus(first);
+    press(first, VK_TAB);
+    EXPECT_EQ(GetFocus(), second);
+    EXPECT_EQ(SendMessageA(second, EM_GETSEL, 0, 0), MAKELONG(0, 2));
+    press(second, VK_TAB);
+    EXPECT_EQ(GetFocus(), first);
+    RemovePropA(combo, COMBO_BOX);
+    press(first, VK_TAB);
+    press(second, VK_TAB);
+    EXPECT_EQ(GetFocus(), combo);
+}
+
+TEST_F(SkinnerTabTest, GoesBackWithShift) {
+    SetFocus(first);
+    holdKey(VK_SHIFT, true);
+    press(first, VK_TAB);
+    EXPECT_EQ(GetFocus(), combo);
+    press(combo, VK_TAB);
+    EXPECT_EQ(GetFocus(), second);
+    holdKey(VK_SHIFT, false);
+}
+
+TEST_F(SkinnerTabTest, PassesOverAHiddenField) {
+    ShowWindow(second, SW_HIDE);
+    SetFocus(first);
+    press(first, VK_TAB);
+    EXPECT_EQ(GetFocus(), combo);
+}
+
+TEST_F(SkinnerTabTest, StaysInTheOnlyFieldAndLeavesItsText) {
+    for (const HWND other : {second, combo})
+        EnableWindow(other, FALSE);
+    SetFocus(first);
+    SetWindowTextA(first, "7");
+    dialog.forgetMessages();
+    press(first, VK_TAB);
+    SendMessageA(first, WM_CHAR, VK_TAB, 1);
+    EXPECT_EQ(GetFocus(), first);
+    EXPECT_EQ(textOf(first), "7");
+    EXPECT_TRUE(dialog.received(UM_RETURN_FOCUS).empty());
+}
+
+TEST_F(SkinnerTabTest, IsNotTheFieldsWithControl) {
+    SetFocus(first);
+    holdKey(VK_CONTROL, true);
+    press(first, VK_TAB);
+    holdKey(VK_CONTROL, false);
+    EXPECT_EQ(GetFocus(), first);
+}
+
+TEST_F(SkinnerTabTest, EscapeStillGivesTheKeyboardBack) {
+    SetFocus(second);
+    dialog.forgetMessages();
+    press(second, VK_ESCAPE);
+    EXPECT_EQ(dialog.received(UM_RETURN_FOCUS).size(), 1u);
+}
+
 }
 }

@@ -1,5 +1,6 @@
 #include "Gui/Utils/skin/SkinProperties.h"
 #include "Gui/Utils/skin/Skinner.h"
+#include "Gui/Utils/windows/UserMessages.h"
 #include "Gui/Utils/windows/WindowProperties.h"
 #include "tests/Gui/Utils/TemplateIds.h"
 #include "tests/Gui/Utils/skin/SkinnedDialog.h"
@@ -374,6 +375,27 @@ TEST_F(SkinnerWindowTest, DrawsNoFocusRectangle) {
     SetFocus(button);
     pump();
     EXPECT_EQ(Picture(dialog.handle()).count(GdiManager::DARK_GREEN, PLACE), 50 * 30);
+}
+
+// As a grid gets its fields one by one.
+TEST(SkinnedControl, HasItsLaterControlsSkinned) {
+    SkinnedDialog dialog;
+    const HWND control = dialog.add("Static", "", 0, {10, 10, 150, 100});
+    dialog.skin();
+    const auto addEdit = [control] {
+        return CreateWindowExA(0, "Edit", "5", WS_CHILD | WS_VISIBLE | WS_BORDER, 2, 2, 40, 18, control, nullptr,
+                               nullptr, nullptr);
+    };
+    const HWND tooEarly = addEdit();
+    EXPECT_FALSE(getFlag(tooEarly, EDIT_PROCEDURE));
+    DestroyWindow(tooEarly);
+    dialog.gui().getSkinner().skinWindow(control);
+    const HWND edit = addEdit();
+    EXPECT_TRUE(getFlag(edit, EDIT_PROCEDURE));
+    Skinner::setMin(edit, 0);
+    Skinner::setMax(edit, 127);
+    SendMessageA(edit, UM_MOUSEWHEEL, MAKEWPARAM(0, 120), 0);
+    EXPECT_EQ(TestSupport::textOf(edit), "6");
 }
 
 }
