@@ -5,6 +5,7 @@
 #include "Gui/MirelGuiIF.h"
 #include "Gui/ResourceIds.h"
 #include "Gui/Rules/texts/AboutText.h"
+#include "Gui/Utils/skin/FieldText.h"
 #include "Gui/Utils/skin/GdiManager.h"
 #include "Gui/Utils/skin/SkinProperties.h"
 #include "Gui/Utils/windows/WindowProperties.h"
@@ -87,13 +88,11 @@ void HelpPanel::buttonChanged(int id, bool state) {
 
 void HelpPanel::setShowingAbout(bool showing) {
     m_hover.setShowingAbout(showing);
-    if (showing)
-        setNumber(GetDlgItem(getWindowHandle(), IDC_TEXT), SkinProperties::SET_BY_PROGRAM, 1);
     setText(showing ? describeProduct(getModuleTime()).c_str() : "");
 }
 
 void HelpPanel::setText(const char* text) {
-    SetDlgItemTextA(getWindowHandle(), IDC_TEXT, text);
+    setFieldText(getWindowHandle(), IDC_TEXT, text);
 }
 
 }

@@ -16,6 +16,9 @@ inline void setFieldText(HWND dialog, int id, const std::string& text) {
     const HWND field = GetDlgItem(dialog, id);
     setNumber(field, SkinProperties::SET_BY_PROGRAM, 1);
     SetWindowTextA(field, text.c_str());
+    // An edit of several lines says nothing of a new text. The mark would meet the user's next change.
+    if ((GetWindowLongPtrA(field, GWL_STYLE) & ES_MULTILINE) != 0)
+        RemovePropA(field, SkinProperties::SET_BY_PROGRAM);
 }
 
 // [gui] For the handler of EN_CHANGE, which does nothing if this is true: the change was the program's.

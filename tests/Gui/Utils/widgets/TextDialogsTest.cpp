@@ -203,5 +203,17 @@ TEST_F(FieldTextTest, ChangesOfTheProgramAreToldFromTheUsers) {
     EXPECT_EQ(heard, "program user program ");
 }
 
+// It sends no notice of a text that is set.
+TEST_F(FieldTextTest, AnEditOfSeveralLinesKeepsNoMark) {
+    constexpr int LINES = 5000;
+    const HWND edit = CreateWindowExA(0, "Edit", "", WS_CHILD | ES_MULTILINE, 0, 0, 50, 50, panel.getWindowHandle(),
+                                      reinterpret_cast<HMENU>(INT_PTR{LINES}), nullptr, nullptr);
+    setFieldText(panel.getWindowHandle(), LINES, "0,4");
+    EXPECT_EQ(TestSupport::textOf(edit), "0,4");
+    EXPECT_EQ(GetPropA(edit, "MYSET"), nullptr);
+    SendMessageA(edit, WM_CHAR, '5', 1);
+    EXPECT_FALSE(takeProgramsChange(panel.getWindowHandle(), LINES));
+}
+
 }
 }
