@@ -36,6 +36,13 @@ HICON loadIcon(int width, int height) {
         LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDI_MIREL_CONSOLE), IMAGE_ICON, width, height, 0));
 }
 
+// A desk may be smaller than other windows, and higher than the screen.
+void freeOfLimits(MINMAXINFO& info) {
+    constexpr LONG LARGEST = 0x7fff;
+    info.ptMinTrackSize = {1, 1};
+    info.ptMaxTrackSize = {LARGEST, LARGEST};
+}
+
 }
 
 FrameWindow::FrameWindow(Listener& listener, const Options& options)
@@ -142,37 +149,32 @@ LRESULT FrameWindow::wndProc(UINT message, WPARAM wParam, LPARAM lParam) {
             if (m_gui)
                 m_gui->setFocus();
             return 0;
-        case WM_ERASEBKGND: {
-            RECT client;
-            GetClientRect(m_window, &client);
-            FillRect(reinterpret_cast<HDC>(wParam), &client, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
-            return 1;
-        }
-        case WM_GETMINMAXINFO: {
-            // A desk may be smaller than other windows, and higher than the screen.
-            constexpr LONG LARGEST = 0x7fff;
-            auto& info = *reinterpret_cast<MINMAXINFO*>(lParam);
-            info.ptMinTrackSize = {1, 1};
-            info.ptMaxTrackSize = {LARGEST, LARGEST};
-            return 0;
-        }
+        case WM_ERASEBKGND: paintBackground(reinterpret_cast<HDC>(wParam)); return 1;
+        case WM_GETMINMAXINFO: freeOfLimits(*reinterpret_cast<MINMAXINFO*>(lParam)); return 0;
         case WM_DROPFILES: takeDroppedFiles(reinterpret_cast<HDROP>(wParam)); return 0;
-        case WM_COPYDATA: {
-            OpenRequest request;
-            // A desk that is closing leaves it to the one that asks, which starts itself then.
-            if (!m_listener.canOpen() ||
-                !SingleInstance::read(*reinterpret_cast<const COPYDATASTRUCT*>(lParam), request))
-                return FALSE;
-            // Who sent it waits; a message box that this may open must not keep it.
-            ReplyMessage(TRUE);
-            comeToFront();
-            m_listener.openRequested(request);
-            return TRUE;
-        }
+        case WM_COPYDATA: return takeRequest(*reinterpret_cast<const COPYDATASTRUCT*>(lParam)) ? TRUE : FALSE;
         case WM_DISPLAYCHANGE: comeIntoReach(); break;
         default: break;
     }
     return DefWindowProcA(m_window, message, wParam, lParam);
+}
+
+void FrameWindow::paintBackground(HDC dc) const {
+    RECT client;
+    GetClientRect(m_window, &client);
+    FillRect(dc, &client, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+}
+
+// What another start of the program asks for. A desk that is closing leaves it to that one, which starts itself then.
+bool FrameWindow::takeRequest(const COPYDATASTRUCT& data) {
+    OpenRequest request;
+    if (!m_listener.canOpen() || !SingleInstance::read(data, request))
+        return false;
+    // Who sent it waits; a message box that this may open must not keep it.
+    ReplyMessage(TRUE);
+    comeToFront();
+    m_listener.openRequested(request);
+    return true;
 }
 
 bool FrameWindow::handleDeskMessage(UINT message, WPARAM wParam, LPARAM lParam) {

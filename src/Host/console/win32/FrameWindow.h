@@ -73,7 +73,15 @@ private:
     LRESULT wndProc(UINT message, WPARAM wParam, LPARAM lParam);
     bool handleDeskMessage(UINT message, WPARAM wParam, LPARAM lParam);
     bool handleBorderMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
-    bool handleBorderButtons(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
+    static void makeRoomForBorder(RECT& rect);
+    bool handleBorderButtons(UINT message, WPARAM wParam, LPARAM lParam);
+    void setButtons(FramePart hovered, FramePart pressed);
+    void hoverBorder(FramePart part);
+    bool pressBorder(WPARAM hit, FramePart part);
+    bool dragBorderButton(POINT point);
+    bool releaseBorderButton();
+    void paintBackground(HDC dc) const;
+    bool takeRequest(const COPYDATASTRUCT& data);
 
     DWORD style() const;
     void setDeskSize(int width, int height);

@@ -5,20 +5,31 @@
 
 namespace Host::Console {
 
+namespace {
+
+LRESULT hitOf(FramePart part) {
+    switch (part) {
+        case FramePart::DESK: return HTCLIENT;
+        case FramePart::CAPTION: return HTCAPTION;
+        case FramePart::ICON: return HTSYSMENU;
+        case FramePart::MINIMISE: return HTMINBUTTON;
+        case FramePart::CLOSE: return HTCLOSE;
+        case FramePart::OUTSIDE: return HTNOWHERE;
+    }
+    return HTNOWHERE;
+}
+
+bool isButton(FramePart part) {
+    return part == FramePart::MINIMISE || part == FramePart::CLOSE;
+}
+
+}
+
 bool FrameWindow::handleBorderMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
+    result = 0;
     switch (message) {
-        case WM_NCCALCSIZE: {
-            // The first of the rectangles, or the only one, is the window's; it becomes the desk's.
-            auto& rect = *reinterpret_cast<RECT*>(lParam);
-            const Rect desk = FrameLayout(rect.right - rect.left, rect.bottom - rect.top).desk();
-            rect = {rect.left + desk.left, rect.top + desk.top, rect.left + desk.right, rect.top + desk.bottom};
-            result = 0;
-            return true;
-        }
-        case WM_NCPAINT:
-            paintBorder();
-            result = 0;
-            return true;
+        case WM_NCCALCSIZE: makeRoomForBorder(*reinterpret_cast<RECT*>(lParam)); return true;
+        case WM_NCPAINT: paintBorder(); return true;
         case WM_NCACTIVATE: {
             FrameLook look = m_look;
             look.isActive = wParam != FALSE;
@@ -26,95 +37,88 @@ bool FrameWindow::handleBorderMessage(UINT message, WPARAM wParam, LPARAM lParam
             result = TRUE;
             return true;
         }
-        case WM_NCHITTEST:
-            switch (partAtScreenPoint(lParam)) {
-                case FramePart::DESK: result = HTCLIENT; break;
-                case FramePart::CAPTION: result = HTCAPTION; break;
-                case FramePart::ICON: result = HTSYSMENU; break;
-                case FramePart::MINIMISE: result = HTMINBUTTON; break;
-                case FramePart::CLOSE: result = HTCLOSE; break;
-                case FramePart::OUTSIDE: result = HTNOWHERE; break;
-            }
-            return true;
-        case WM_NCRBUTTONUP:
-            showSystemMenu(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
-            result = 0;
-            return true;
+        case WM_NCHITTEST: result = hitOf(partAtScreenPoint(lParam)); return true;
+        case WM_NCRBUTTONUP: showSystemMenu(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)); return true;
         case WM_NCLBUTTONDBLCLK:
             if (wParam == HTSYSMENU)
                 PostMessageA(m_window, WM_SYSCOMMAND, SC_CLOSE, 0);
-            result = 0;
             return wParam == HTCAPTION || wParam == HTSYSMENU;
-        default: return handleBorderButtons(message, wParam, lParam, result);
+        default: return handleBorderButtons(message, wParam, lParam);
     }
 }
 
+// The rectangle is the window's, or the first of those that are; it becomes the desk's.
+void FrameWindow::makeRoomForBorder(RECT& rect) {
+    const Rect desk = FrameLayout(rect.right - rect.left, rect.bottom - rect.top).desk();
+    rect = {rect.left + desk.left, rect.top + desk.top, rect.left + desk.right, rect.top + desk.bottom};
+}
+
 // The two buttons light up under the mouse, and act when they are let go where they were pressed.
-bool FrameWindow::handleBorderButtons(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
-    const auto isButton = [](FramePart part) { return part == FramePart::MINIMISE || part == FramePart::CLOSE; };
-    FrameLook look = m_look;
-    result = 0;
+bool FrameWindow::handleBorderButtons(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_NCMOUSEMOVE: {
-            const FramePart part = partAtScreenPoint(lParam);
-            look.hovered = isButton(part) ? part : FramePart::OUTSIDE;
-            setLook(look);
-            TRACKMOUSEEVENT track{sizeof track, TME_LEAVE | TME_NONCLIENT, m_window, 0};
-            TrackMouseEvent(&track);
-            return false;
-        }
+        case WM_NCMOUSEMOVE: hoverBorder(partAtScreenPoint(lParam)); return false;
         case WM_NCMOUSELEAVE:
-            if (look.pressed == FramePart::OUTSIDE) {
-                look.hovered = FramePart::OUTSIDE;
-                setLook(look);
-            }
+            if (m_look.pressed == FramePart::OUTSIDE)
+                setButtons(FramePart::OUTSIDE, FramePart::OUTSIDE);
             return false;
-        case WM_NCLBUTTONDOWN: {
-            const FramePart part = partAtScreenPoint(lParam);
-            if (wParam == HTSYSMENU) {
-                POINT below{layout().icon().left, layout().icon().bottom + 2};
-                RECT window;
-                GetWindowRect(m_window, &window);
-                showSystemMenu(window.left + below.x, window.top + below.y);
-                return true;
-            }
-            if (!isButton(part))
-                return false;
-            SetForegroundWindow(m_window);
-            look.pressed = look.hovered = part;
-            SetCapture(m_window);
-            setLook(look);
-            return true;
-        }
-        case WM_MOUSEMOVE: {
-            if (look.pressed == FramePart::OUTSIDE)
-                return false;
-            POINT point{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
-            ClientToScreen(m_window, &point);
-            const FramePart part = partAtScreenPoint(MAKELPARAM(point.x, point.y));
-            look.hovered = part == look.pressed ? part : FramePart::OUTSIDE;
-            setLook(look);
-            return true;
-        }
-        case WM_LBUTTONUP: {
-            if (look.pressed == FramePart::OUTSIDE)
-                return false;
-            const FramePart chosen = look.hovered == look.pressed ? look.pressed : FramePart::OUTSIDE;
-            look.pressed = look.hovered = FramePart::OUTSIDE;
-            setLook(look);
-            ReleaseCapture();
-            if (chosen == FramePart::CLOSE)
-                PostMessageA(m_window, WM_SYSCOMMAND, SC_CLOSE, 0);
-            else if (chosen == FramePart::MINIMISE)
-                PostMessageA(m_window, WM_SYSCOMMAND, SC_MINIMIZE, 0);
-            return true;
-        }
-        case WM_CAPTURECHANGED:
-            look.pressed = look.hovered = FramePart::OUTSIDE;
-            setLook(look);
-            return false;
+        case WM_NCLBUTTONDOWN: return pressBorder(wParam, partAtScreenPoint(lParam));
+        case WM_MOUSEMOVE: return dragBorderButton({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+        case WM_LBUTTONUP: return releaseBorderButton();
+        case WM_CAPTURECHANGED: setButtons(FramePart::OUTSIDE, FramePart::OUTSIDE); return false;
         default: return false;
     }
+}
+
+void FrameWindow::setButtons(FramePart hovered, FramePart pressed) {
+    FrameLook look = m_look;
+    look.hovered = hovered;
+    look.pressed = pressed;
+    setLook(look);
+}
+
+void FrameWindow::hoverBorder(FramePart part) {
+    setButtons(isButton(part) ? part : FramePart::OUTSIDE, m_look.pressed);
+    TRACKMOUSEEVENT track{sizeof track, TME_LEAVE | TME_NONCLIENT, m_window, 0};
+    TrackMouseEvent(&track);
+}
+
+bool FrameWindow::pressBorder(WPARAM hit, FramePart part) {
+    if (hit == HTSYSMENU) {
+        constexpr int GAP = 2;
+        const Rect icon = layout().icon();
+        RECT window;
+        GetWindowRect(m_window, &window);
+        showSystemMenu(window.left + icon.left, window.top + icon.bottom + GAP);
+        return true;
+    }
+    if (!isButton(part))
+        return false;
+    SetForegroundWindow(m_window);
+    SetCapture(m_window);
+    setButtons(part, part);
+    return true;
+}
+
+bool FrameWindow::dragBorderButton(POINT point) {
+    if (m_look.pressed == FramePart::OUTSIDE)
+        return false;
+    ClientToScreen(m_window, &point);
+    const FramePart part = partAtScreenPoint(MAKELPARAM(point.x, point.y));
+    setButtons(part == m_look.pressed ? part : FramePart::OUTSIDE, m_look.pressed);
+    return true;
+}
+
+bool FrameWindow::releaseBorderButton() {
+    if (m_look.pressed == FramePart::OUTSIDE)
+        return false;
+    const FramePart chosen = m_look.hovered == m_look.pressed ? m_look.pressed : FramePart::OUTSIDE;
+    setButtons(FramePart::OUTSIDE, FramePart::OUTSIDE);
+    ReleaseCapture();
+    if (chosen == FramePart::CLOSE)
+        PostMessageA(m_window, WM_SYSCOMMAND, SC_CLOSE, 0);
+    else if (chosen == FramePart::MINIMISE)
+        PostMessageA(m_window, WM_SYSCOMMAND, SC_MINIMIZE, 0);
+    return true;
 }
 
 FrameLayout FrameWindow::layout() const {
