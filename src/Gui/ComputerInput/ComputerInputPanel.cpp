@@ -61,6 +61,7 @@ void ComputerInputPanel::setAllKeys(KeyConfigurationMap keys, bool useKeyUpMod) 
     m_keys = std::move(keys);
     m_useKeyUpMod = useKeyUpMod;
     load();
+    m_settingsPanel.refresh();
 }
 
 void ComputerInputPanel::updateExcludedKeys() {

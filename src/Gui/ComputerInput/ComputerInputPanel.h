@@ -7,6 +7,7 @@
 #include "Gui/Preset/PresetGuiOwner.h"
 #include "Gui/Utils/SkinPanel.h"
 
+#include <string>
 #include <vector>
 
 namespace Gui::ComputerInput {
@@ -40,7 +41,6 @@ public:
     void editPreset(const std::string& oldName, const std::string& newName) override;
     void deletePreset(const std::string& name) override;
     std::vector<std::string> getPresetNames() override;
-
 private:
     void updateExcludedKeys();
 

@@ -2,6 +2,7 @@
 
 #include "Gui/ResourceIds.h"
 #include "Gui/Utils/SkinPanel.h"
+#include "Gui/Utils/windows/Redraw.h"
 
 namespace Gui::ComputerInput {
 
@@ -11,7 +12,7 @@ public:
     explicit UpFunctionPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_KEY_UP_FUNCTION) {}
 
     // Fills the fields anew.
-    void refresh() {}
+    void refresh() { redraw(getWindowHandle(), true); }
 
     // The outputs have changed.
     void refreshOutputs() {}

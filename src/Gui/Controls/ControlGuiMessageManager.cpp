@@ -1,6 +1,7 @@
 #include "Gui/Controls/ControlGuiMessageManager.h"
 
 #include "Backend/core/messages/MessageTable.h"
+#include "Backend/functions/values/SelectControlType.h"
 #include "Backend/input/controls/ControlMessages.h"
 #include "Gui/Controls/ControlPanel.h"
 
@@ -9,46 +10,40 @@ namespace Gui::Controls {
 using namespace Backend;
 using namespace Backend::Controls::WindowMessages;
 using Backend::Controls::Control;
-using Backend::Controls::ControlMap;
 using Backend::Controls::UpdateFlags;
 
 namespace {
 
 void setControls(ControlPanel& panel, UpdateFlags, const std::vector<Control>& controls) {
-    for (const Control& control : controls)
-        panel.setControl(control);
-    panel.getSettingsPanel().refresh();
-}
-
-void setControlMap(ControlPanel& panel, const ControlMap& controls) {
-    panel.setControlMap(controls);
-    panel.getSettingsPanel().refresh();
+    panel.setControls(controls);
 }
 
 // Of the column, the low byte alone counts.
-Control* findControl(ControlPanel& panel, const Cell& cell) {
+Cell withColumnByte(const Cell& cell) {
     constexpr int BYTE = 0xff;
-    return panel.getControlMap().find(Cell(cell.getRow(), cell.getColumn() & BYTE));
+    return {cell.getRow(), cell.getColumn() & BYTE};
 }
 
 void setValue(ControlPanel& panel, const Cell& cell, std::int32_t value) {
-    if (Control* const control = findControl(panel, cell))
-        control->value = value;
+    panel.setValue(withColumnByte(cell), value);
 }
 
 void setSelected(ControlPanel& panel, const Cell& cell, bool selected) {
-    if (Control* const control = findControl(panel, cell))
-        control->selected = selected;
+    panel.setSelected(withColumnByte(cell), selected);
+}
+
+void setFocus(ControlPanel& panel, SelectControlType::Mode mode, const Cell& cell) {
+    panel.setFocus(SelectControlType(mode, withColumnByte(cell)));
 }
 
 // clang-format off
 constexpr MessageTable ROWS(
     FAMILY,
     on(CONTROLS_CHANGED, &setControls),
-    on(ALL_CONTROLS_CHANGED, &setControlMap),
+    on(ALL_CONTROLS_CHANGED, &ControlPanel::setControlMap),
     on(VALUE_CHANGED, &setValue),
     on(SELECTED_CHANGED, &setSelected),
-    on(SET_FOCUS, IGNORED));
+    on(SET_FOCUS, &setFocus));
 // clang-format on
 
 }

@@ -5,7 +5,15 @@
 #include "Gui/Controls/MainPanel.h"
 #include "Gui/Controls/SettingsPanel.h"
 #include "Gui/Preset/PresetGuiOwner.h"
+#include "Gui/Rules/selection/OrderedSelection.h"
 #include "Gui/Utils/SkinPanel.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+class SelectControlType;
 
 namespace Gui::Controls {
 
@@ -22,12 +30,27 @@ public:
     SettingsPanel& getSettingsPanel() { return m_settingsPanel; }
     ControlGuiMessageManager& getMessageManager() { return m_messageManager; }
 
-    // The controls, as the desk last told them.
+    // The copy of the desk's controls, and what of the grid is marked on the screen. Only cells with a control carry
+    // the mark of the kind DATA.
     Backend::Controls::ControlMap& getControlMap() { return m_controls; }
-    void setControlMap(Backend::Controls::ControlMap controls) { m_controls = std::move(controls); }
+    Selection<Cell>& getSelection() { return m_selection; }
 
-    // One without a type empties its cell.
-    void setControl(const Backend::Controls::Control& control);
+    // The control that the desk has selected last, from which ranges begin; a cell outside the grid if there was none.
+    const Cell& getAnchor() const { return m_anchor; }
+
+    // The control that has the focus among those of the grid; a cell outside the grid if none has.
+    const Cell& getFocusCell() const { return m_focusCell; }
+
+    // Take over what the desk has changed, and repaint what shows it. A cell without a control is ignored.
+    void setControls(const std::vector<Backend::Controls::Control>& controls);  // One without a type empties its cell.
+    void setControlMap(const Backend::Controls::ControlMap& controls);          // Takes all marks away.
+    void setValue(const Cell& cell, std::int32_t value);
+
+    // The control becomes the only marked one, whatever selected is.
+    void setSelected(const Cell& cell, bool selected);
+
+    // Moves the focus to the next control in a direction, the first one that is marked, or that of a cell.
+    void setFocus(const SelectControlType& type);
 
     void addPreset(const std::string& name, bool selectedOnly) override;
     void editPreset(const std::string& oldName, const std::string& newName) override;
@@ -35,7 +58,23 @@ public:
     std::vector<std::string> getPresetNames() override;
 
 private:
+    // The marks of the cells, row by row.
+    class Grid : public OrderedSelection<Cell> {
+    public:
+        explicit Grid(ControlPanel& panel);
+
+    private:
+        bool canSelect(const Cell& cell, SelectionKind kind) const override;
+
+        ControlPanel& m_panel;
+    };
+
+    std::optional<Cell> findFocus(const SelectControlType& type);
+
     Backend::Controls::ControlMap m_controls;
+    Grid m_selection{*this};
+    Cell m_anchor;
+    Cell m_focusCell;
     ControlGuiMessageManager m_messageManager{*this};
     MainPanel m_mainPanel;
     SettingsPanel m_settingsPanel;

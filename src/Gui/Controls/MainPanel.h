@@ -2,6 +2,7 @@
 
 #include "Gui/ResourceIds.h"
 #include "Gui/Utils/SkinPanel.h"
+#include "Gui/Utils/windows/Redraw.h"
 
 namespace Gui::Controls {
 
@@ -9,6 +10,9 @@ namespace Gui::Controls {
 class MainPanel : public SkinPanel {
 public:
     explicit MainPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_CONTROL_MAIN) {}
+
+    // The controls have changed, or what of them is marked.
+    void refreshGrid() { redraw(getWindowHandle()); }
 };
 
 }

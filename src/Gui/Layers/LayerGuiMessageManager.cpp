@@ -1,6 +1,7 @@
 #include "Gui/Layers/LayerGuiMessageManager.h"
 
 #include "Backend/core/messages/MessageTable.h"
+#include "Backend/functions/values/NoteToggle.h"
 #include "Backend/functions/values/RelativeFixedValue.h"
 #include "Backend/functions/values/SelectType.h"
 #include "Backend/midi/managers/LayerMessages.h"
@@ -10,34 +11,22 @@ namespace Gui::Layers {
 
 using namespace Backend;
 using namespace Backend::Layers::WindowMessages;
-using Backend::Layers::Layer;
 
 namespace {
-
-void setLayers(LayerPanel& panel, const std::vector<Layer>& layers) {
-    for (const Layer& layer : layers)
-        panel.setLayer(layer);
-}
-
-template <auto FIELD, class Value>
-void setField(LayerPanel& panel, std::int32_t layerId, const Value& value) {
-    if (Layer* const layer = panel.getLayerList().find({layerId}))
-        layer->*FIELD = value;
-}
 
 // clang-format off
 constexpr MessageTable ROWS(
     FAMILY,
-    on(LAYERS_CHANGED, &setLayers),
+    on(LAYERS_CHANGED, &LayerPanel::setLayers),
     on(ALL_LAYERS_CHANGED, &LayerPanel::setLayerList),
-    on(SELECTED_CHANGED, &setField<&Layer::selected, bool>),
-    on(EDIT_SELECT, IGNORED),
-    on(TRANSPOSE_CHANGED, &setField<&Layer::transpose, RelativeFixedValue>),
-    on(VELOCITY_CHANGED, &setField<&Layer::velocity, RelativeFixedValue>),
-    on(MUTE_CHANGED, &setField<&Layer::mute, bool>),
-    on(MONO_CHANGED, &setField<&Layer::mono, bool>),
-    on(SOLO_CHANGED, &setField<&Layer::solo, bool>),
-    on(TOGGLE_CHANGED, &setField<&Layer::toggle, NoteToggle>));
+    on(SELECTED_CHANGED, &LayerPanel::setSelected),
+    on(EDIT_SELECT, &LayerPanel::editSelect),
+    on(TRANSPOSE_CHANGED, &LayerPanel::setTranspose),
+    on(VELOCITY_CHANGED, &LayerPanel::setVelocity),
+    on(MUTE_CHANGED, &LayerPanel::setMute),
+    on(MONO_CHANGED, &LayerPanel::setMono),
+    on(SOLO_CHANGED, &LayerPanel::setSolo),
+    on(TOGGLE_CHANGED, &LayerPanel::setToggle));
 // clang-format on
 
 }

@@ -5,7 +5,16 @@
 #include "Gui/Layers/MainPanel.h"
 #include "Gui/Layers/SettingsPanel.h"
 #include "Gui/Preset/PresetGuiOwner.h"
+#include "Gui/Rules/selection/OrderedSelection.h"
 #include "Gui/Utils/SkinPanel.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+class NoteToggle;
+class RelativeFixedValue;
+class SelectType;
 
 namespace Gui::Layers {
 
@@ -22,10 +31,27 @@ public:
     SettingsPanel& getSettingsPanel() { return m_settingsPanel; }
     LayerGuiMessageManager& getMessageManager() { return m_messageManager; }
 
-    // The layers, as the desk last told them. One whose id is no place in the list is ignored.
+    // The copy of the desk's layers, and what of them is marked on the screen, by their places.
     Backend::Layers::LayerList& getLayerList() { return m_layers; }
-    void setLayer(const Backend::Layers::Layer& layer);
-    void setLayerList(Backend::Layers::LayerList layers) { m_layers = std::move(layers); }
+    Selection<std::int32_t>& getSelection() { return m_selection; }
+
+    // The layer that was marked last, from which the next one counts; -1 if there was none.
+    std::int32_t getLastSelected() const { return m_lastSelected; }
+
+    // Take over what the desk has changed, and repaint what shows it. An id that is not a place in the list is ignored.
+    void setLayers(const std::vector<Backend::Layers::Layer>& layers);
+    void setLayerList(const Backend::Layers::LayerList& layers);  // Takes all marks away.
+    void setSelected(std::int32_t id, bool selected);
+    void setTranspose(std::int32_t id, const RelativeFixedValue& transpose);
+    void setVelocity(std::int32_t id, const RelativeFixedValue& velocity);
+    void setMute(std::int32_t id, bool mute);
+    void setMono(std::int32_t id, bool mono);
+    void setSolo(std::int32_t id, bool solo);
+    void setToggle(std::int32_t id, const NoteToggle& toggle);
+
+    // Marks another layer for the settings in place of the one that was marked last: the next or previous one, or a
+    // certain one.
+    void editSelect(const SelectType& type);
 
     void addPreset(const std::string& name, bool selectedOnly) override;
     void editPreset(const std::string& oldName, const std::string& newName) override;
@@ -33,7 +59,15 @@ public:
     std::vector<std::string> getPresetNames() override;
 
 private:
+    template <class Value>
+    void setField(std::int32_t id, Value Backend::Layers::Layer::*field, const Value& value);
+
+    void setButton(std::int32_t id, bool Backend::Layers::Layer::*button, bool state);
+    void forgetMarks();
+
     Backend::Layers::LayerList m_layers;
+    OrderedSelection<std::int32_t> m_selection;
+    std::int32_t m_lastSelected = -1;
     LayerGuiMessageManager m_messageManager{*this};
     MainPanel m_mainPanel;
     SettingsPanel m_settingsPanel;

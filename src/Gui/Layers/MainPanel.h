@@ -2,6 +2,7 @@
 
 #include "Gui/ResourceIds.h"
 #include "Gui/Utils/SkinPanel.h"
+#include "Gui/Utils/windows/Redraw.h"
 
 namespace Gui::Layers {
 
@@ -12,6 +13,10 @@ public:
 
     // The program has another tempo or tempo source.
     void refreshTempo() {}
+
+    // The layers have changed: all of their rows, or the button at the left of one.
+    void refreshRows() { redraw(getWindowHandle()); }
+    void refreshBox(int row);
 
     // The inputs have changed.
     void refreshTempoSources() {}

@@ -2,6 +2,7 @@
 
 #include "Gui/ResourceIds.h"
 #include "Gui/Utils/SkinPanel.h"
+#include "Gui/Utils/windows/Redraw.h"
 
 namespace Gui::Zones {
 
@@ -9,6 +10,9 @@ namespace Gui::Zones {
 class MainPanel : public SkinPanel {
 public:
     explicit MainPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_ZONE_MAIN) {}
+
+    // The zones have changed.
+    void refreshRows() { redraw(getWindowHandle()); }
 };
 
 }

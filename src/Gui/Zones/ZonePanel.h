@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Backend/midi/layers/ZoneMap.h"
+#include "Gui/Rules/selection/OrderedSelection.h"
 #include "Gui/Utils/SkinPanel.h"
 #include "Gui/Zones/MainPanel.h"
 #include "Gui/Zones/ZoneGuiMessageManager.h"
@@ -19,16 +20,26 @@ public:
     MainPanel& getMainPanel() { return m_mainPanel; }
     ZoneGuiMessageManager& getMessageManager() { return m_messageManager; }
 
-    // The zones, as the desk last told them.
+    // The copy of the desk's zones, and the one whose row is marked. The marks are of the kind DATA.
     const Backend::Zones::ZoneMap& getZoneMap() const { return m_zones; }
-    void setZone(const Backend::Zones::Zone& zone) { m_zones.set(zone); }
-    void setZoneMap(Backend::Zones::ZoneMap zones) { m_zones = std::move(zones); }
+    Selection<Backend::Zones::ZoneId>& getSelection() { return m_selection; }
 
-    // A zone that isn't there is ignored.
+    // The zone that the desk has selected last; -1 if there was none.
+    Backend::Zones::ZoneId getLastSelected() const { return m_selectedZone; }
+
+    // Take over what the desk has changed, and repaint the rows.
+    void setZone(const Backend::Zones::Zone& zone);
+    void setZoneMap(const Backend::Zones::ZoneMap& zones);
+
+    // The row of this zone becomes the only marked one, whatever selected is. A zone that isn't there is ignored.
     void setSelected(Backend::Zones::ZoneId id, bool selected);
 
 private:
+    void rebuildRows();
+
     Backend::Zones::ZoneMap m_zones;
+    OrderedSelection<Backend::Zones::ZoneId> m_selection;
+    Backend::Zones::ZoneId m_selectedZone = -1;
     ZoneGuiMessageManager m_messageManager{*this};
     MainPanel m_mainPanel;
 };
