@@ -24,6 +24,7 @@ using Backend::Layers::LayerList;
 using Backend::Zones::Zone;
 using Backend::Zones::ZoneMap;
 using TestSupport::releaseCopy;
+using Names = std::vector<std::string>;
 
 constexpr SelectionKind EDIT = SelectionKind::EDIT;
 constexpr SelectionKind DATA = SelectionKind::DATA;
@@ -173,7 +174,7 @@ TEST_F(LayerMessagesTest, LayersThatAreNotThereChangeNothing) {
         for (const UINT message : {34723u, 34724u})
             tell(message, id, releaseCopy<LPARAM>(RelativeFixedValue(true, 7)));
     }
-    for (const UINT message : {34719u, 34720u, 34722u, 34723u, 34724u})
+    for (const UINT message : {34719u, 34720u, 34722u, 34723u, 34724u, 34729u})
         tell(message, 0, 0);
     expectPainted("", "");
     EXPECT_EQ(panel->getLastSelected(), -1);
@@ -338,7 +339,7 @@ TEST_F(ControlMessagesTest, TheFocusMoves) {
 TEST_F(ControlMessagesTest, CellsWithoutAControlChangeNothing) {
     for (const UINT message : {33971u, 33972u})
         tell(message, word(Cell(9, 9)), 1);
-    for (const UINT message : {33969u, 33970u})
+    for (const UINT message : {33969u, 33970u, 33974u})
         tell(message, 0, 0);
     expectPainted("", "");
     EXPECT_EQ(panel->getControlMap().size(), 3u);
@@ -358,6 +359,33 @@ TEST_F(KeyMessagesTest, ANewMapFillsTheSettingsAnew) {
     EXPECT_EQ(painted(settings.getMainSettingsPanel()), "all");
     EXPECT_EQ(painted(settings.getDownFunctionPanel()), "all");
     EXPECT_EQ(painted(settings.getUpFunctionPanel()), "all");
+}
+
+// The desk's own windows hear of each change of the presets.
+TEST(PresetNames, ReachTheWindow) {
+    TestSupport::WindowDesk desk;
+    desk.start();
+    desk.mirel().getLayerMessageManager().postSavePreset("Early", {});
+    desk.open();
+    for (Preset::PresetGuiOwner* const owner :
+         {&desk.gui().getLayerPanelAsPresetGuiOwner(), &desk.gui().getControlPanelAsPresetGuiOwner(),
+          &desk.gui().getComputerInputPanelAsPresetGuiOwner()}) {
+        const bool isLayers = owner == &desk.gui().getLayerPanelAsPresetGuiOwner();
+        const auto names = [&](Names expected) {
+            if (isLayers)
+                expected.insert(expected.begin(), "Early");
+            desk.settle();
+            EXPECT_EQ(owner->getPresetNames(), expected);
+        };
+        names({});
+        owner->addPreset("Two", false);
+        owner->addPreset("One", false);
+        names({"One", "Two"});
+        owner->editPreset("Two", "Last");
+        names({"Last", "One"});
+        owner->deletePreset("One");
+        names({"Last"});
+    }
 }
 
 }

@@ -72,14 +72,21 @@ void ComputerInputManager::loadPreset(const std::string& name) {
 
 void ComputerInputManager::savePreset(const std::string& name, const std::vector<Key>& selected) {
     m_presets.save(name, [&](std::ostream& stream) { writeXml(stream, 0, selected, true); });
+    sendPresetNames();
 }
 
 void ComputerInputManager::renamePreset(const std::string& oldName, const std::string& newName) {
     m_presets.renamePreset(oldName, newName);
+    sendPresetNames();
 }
 
 void ComputerInputManager::deletePreset(const std::string& name) {
     m_presets.deletePreset(name);
+    sendPresetNames();
+}
+
+void ComputerInputManager::sendPresetNames() {
+    postToGui(m_mirel, WindowMessages::PRESET_NAMES_CHANGED, m_presets.getNames());
 }
 
 void ComputerInputManager::readPreset(const std::string& name, KeyConfigurationMap& keys, bool& useKeyUpMod) const {

@@ -72,6 +72,7 @@ public:
     std::vector<Zones::Zone> getZoneRanges() const { return m_keyConfigurations.getZoneRanges(); }
 
 private:
+    void sendPresetNames();
     bool isChangedFromPreset(const std::string& name) const;
     void tellMapChanged();
 

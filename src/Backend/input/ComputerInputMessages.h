@@ -57,10 +57,11 @@ inline constexpr Message<33469, Nothing, Heap<std::vector<KeyConfiguration>>> KE
 inline constexpr Message<33470, bool, Heap<KeyConfigurationMap>>              ALL_KEYS_CHANGED;  // w: useKeyUpMod.
 inline constexpr Message<33471>                                               CONTROL_KEYS_CHANGED;
 inline constexpr Message<33472>                                               PRESET_FOLDER_CHANGED;
+inline constexpr Message<33473, Nothing, Heap<std::vector<std::string>>>      PRESET_NAMES_CHANGED;  // In order.
 
 inline constexpr auto FAMILY = familyOf<COMPUTER_INPUT_GUI_RANGE>(
-    Unused<33468, 33473>(),
-    KEYS_CHANGED, ALL_KEYS_CHANGED, CONTROL_KEYS_CHANGED, PRESET_FOLDER_CHANGED);
+    Unused<33468>(),
+    KEYS_CHANGED, ALL_KEYS_CHANGED, CONTROL_KEYS_CHANGED, PRESET_FOLDER_CHANGED, PRESET_NAMES_CHANGED);
 
 }
 

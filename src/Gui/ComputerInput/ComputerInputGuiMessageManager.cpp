@@ -25,7 +25,8 @@ constexpr MessageTable ROWS(
     on(KEYS_CHANGED, &ComputerInputPanel::setKeys),
     on(ALL_KEYS_CHANGED, &setAllKeys),
     on(CONTROL_KEYS_CHANGED, &ComputerInputPanel::updateControlKeys),
-    on(PRESET_FOLDER_CHANGED, &refreshPresets));
+    on(PRESET_FOLDER_CHANGED, &refreshPresets),
+    on(PRESET_NAMES_CHANGED, &ComputerInputPanel::setPresetNames));
 // clang-format on
 
 }

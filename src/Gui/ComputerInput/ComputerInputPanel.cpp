@@ -34,6 +34,7 @@ ComputerInputPanel::ComputerInputPanel(MirelGuiIF& gui)
     : SkinPanel(gui),
       m_keys(gui.getMirelIF().getComputerInput().getKeyConfigurations()),
       m_useKeyUpMod(gui.getMirelIF().getComputerInput().getUseKeyUpMod()),
+      m_presetNames(gui.getMirelIF().getComputerInput().getPresets().getNames()),
       m_mainPanel(gui),
       m_settingsPanel(gui) {}
 
@@ -97,13 +98,6 @@ void ComputerInputPanel::editPreset(const std::string& oldName, const std::strin
 
 void ComputerInputPanel::deletePreset(const std::string& name) {
     gui().getMirelIF().getComputerInputMessageManager().postDeletePreset(name);
-}
-
-std::vector<std::string> ComputerInputPanel::getPresetNames() {
-    std::vector<std::string> names;
-    for (const auto& preset : gui().getMirelIF().getComputerInput().getPresets().getPresets())
-        names.push_back(preset.name);
-    return names;
 }
 
 }

@@ -40,12 +40,15 @@ public:
     void addPreset(const std::string& name, bool selectedOnly) override;
     void editPreset(const std::string& oldName, const std::string& newName) override;
     void deletePreset(const std::string& name) override;
-    std::vector<std::string> getPresetNames() override;
+    std::vector<std::string> getPresetNames() override { return m_presetNames; }
+    void setPresetNames(const std::vector<std::string>& names) { m_presetNames = names; }
+
 private:
     void updateExcludedKeys();
 
     Backend::ComputerInput::KeyConfigurationMap m_keys;
     bool m_useKeyUpMod;
+    std::vector<std::string> m_presetNames;
     ComputerInputGuiMessageManager m_messageManager{*this};
     MainPanel m_mainPanel;
     SettingsPanel m_settingsPanel;

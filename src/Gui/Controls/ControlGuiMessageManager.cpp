@@ -43,7 +43,8 @@ constexpr MessageTable ROWS(
     on(ALL_CONTROLS_CHANGED, &ControlPanel::setControlMap),
     on(VALUE_CHANGED, &setValue),
     on(SELECTED_CHANGED, &setSelected),
-    on(SET_FOCUS, &setFocus));
+    on(SET_FOCUS, &setFocus),
+    on(PRESET_NAMES_CHANGED, &ControlPanel::setPresetNames));
 // clang-format on
 
 }

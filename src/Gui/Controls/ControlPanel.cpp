@@ -16,6 +16,7 @@ using Backend::Controls::ControlType;
 ControlPanel::ControlPanel(MirelGuiIF& gui)
     : SkinPanel(gui),
       m_controls(gui.getMirelIF().getControls().getControlMap()),
+      m_presetNames(gui.getMirelIF().getControls().getPresets().getNames()),
       m_mainPanel(gui),
       m_settingsPanel(gui) {}
 
@@ -107,13 +108,6 @@ void ControlPanel::editPreset(const std::string& oldName, const std::string& new
 
 void ControlPanel::deletePreset(const std::string& name) {
     gui().getMirelIF().getControlMessageManager().postDeletePreset(name);
-}
-
-std::vector<std::string> ControlPanel::getPresetNames() {
-    std::vector<std::string> names;
-    for (const auto& preset : gui().getMirelIF().getControls().getPresets().getPresets())
-        names.push_back(preset.name);
-    return names;
 }
 
 }

@@ -52,10 +52,12 @@ public:
     // Moves the focus to the next control in a direction, the first one that is marked, or that of a cell.
     void setFocus(const SelectControlType& type);
 
+    void setPresetNames(const std::vector<std::string>& names) { m_presetNames = names; }
+
     void addPreset(const std::string& name, bool selectedOnly) override;
     void editPreset(const std::string& oldName, const std::string& newName) override;
     void deletePreset(const std::string& name) override;
-    std::vector<std::string> getPresetNames() override;
+    std::vector<std::string> getPresetNames() override { return m_presetNames; }
 
 private:
     // The marks of the cells, row by row.
@@ -72,6 +74,7 @@ private:
     std::optional<Cell> findFocus(const SelectControlType& type);
 
     Backend::Controls::ControlMap m_controls;
+    std::vector<std::string> m_presetNames;
     Grid m_selection{*this};
     Cell m_anchor;
     Cell m_focusCell;

@@ -26,7 +26,8 @@ constexpr MessageTable ROWS(
     on(MUTE_CHANGED, &LayerPanel::setMute),
     on(MONO_CHANGED, &LayerPanel::setMono),
     on(SOLO_CHANGED, &LayerPanel::setSolo),
-    on(TOGGLE_CHANGED, &LayerPanel::setToggle));
+    on(TOGGLE_CHANGED, &LayerPanel::setToggle),
+    on(PRESET_NAMES_CHANGED, &LayerPanel::setPresetNames));
 // clang-format on
 
 }

@@ -16,7 +16,11 @@ using Backend::Layers::Layer;
 using Backend::Layers::LayerId;
 
 LayerPanel::LayerPanel(MirelGuiIF& gui)
-    : SkinPanel(gui), m_layers(gui.getMirelIF().getLayers().getLayerList()), m_mainPanel(gui), m_settingsPanel(gui) {
+    : SkinPanel(gui),
+      m_layers(gui.getMirelIF().getLayers().getLayerList()),
+      m_presetNames(gui.getMirelIF().getLayers().getPresets().getNames()),
+      m_mainPanel(gui),
+      m_settingsPanel(gui) {
     forgetMarks();
 }
 
@@ -131,13 +135,6 @@ void LayerPanel::editPreset(const std::string& oldName, const std::string& newNa
 
 void LayerPanel::deletePreset(const std::string& name) {
     gui().getMirelIF().getLayerMessageManager().postDeletePreset(name);
-}
-
-std::vector<std::string> LayerPanel::getPresetNames() {
-    std::vector<std::string> names;
-    for (const auto& preset : gui().getMirelIF().getLayers().getPresets().getPresets())
-        names.push_back(preset.name);
-    return names;
 }
 
 }

@@ -53,10 +53,12 @@ public:
     // certain one.
     void editSelect(const SelectType& type);
 
+    void setPresetNames(const std::vector<std::string>& names) { m_presetNames = names; }
+
     void addPreset(const std::string& name, bool selectedOnly) override;
     void editPreset(const std::string& oldName, const std::string& newName) override;
     void deletePreset(const std::string& name) override;
-    std::vector<std::string> getPresetNames() override;
+    std::vector<std::string> getPresetNames() override { return m_presetNames; }
 
 private:
     template <class Value>
@@ -66,6 +68,7 @@ private:
     void forgetMarks();
 
     Backend::Layers::LayerList m_layers;
+    std::vector<std::string> m_presetNames;
     OrderedSelection<std::int32_t> m_selection;
     std::int32_t m_lastSelected = -1;
     LayerGuiMessageManager m_messageManager{*this};

@@ -19,6 +19,13 @@ std::string PresetFolder::getPath() const {
     return Files::join(MirelUtils::getMirelAppDataDir(), m_folderName);
 }
 
+std::vector<std::string> PresetFolder::getNames() const {
+    std::vector<std::string> names;
+    for (const Preset& preset : m_presets)
+        names.push_back(preset.name);
+    return names;
+}
+
 std::string PresetFolder::getPresetPath(const std::string& name) const {
     return Files::join(getPath(), name + EXTENSION);
 }

@@ -24,6 +24,7 @@ public:
 
     // The presets that were saved in this run, sorted by name.
     const std::vector<Preset>& getPresets() const { return m_presets; }
+    std::vector<std::string> getNames() const;
 
     std::string getPresetPath(const std::string& name) const;
 

@@ -59,14 +59,21 @@ void ControlManager::loadPreset(const std::string& name) {
 
 void ControlManager::savePreset(const std::string& name, const std::vector<Cell>& selected) {
     m_presets.save(name, [&](std::ostream& stream) { writeXml(stream, 0, selected); });
+    sendPresetNames();
 }
 
 void ControlManager::renamePreset(const std::string& oldName, const std::string& newName) {
     m_presets.renamePreset(oldName, newName);
+    sendPresetNames();
 }
 
 void ControlManager::deletePreset(const std::string& name) {
     m_presets.deletePreset(name);
+    sendPresetNames();
+}
+
+void ControlManager::sendPresetNames() {
+    postToGui(m_mirel, WindowMessages::PRESET_NAMES_CHANGED, m_presets.getNames());
 }
 
 void ControlManager::updateControls(const std::vector<Control>& controls, bool notifyGui, bool guiFlag) {

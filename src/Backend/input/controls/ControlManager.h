@@ -92,6 +92,7 @@ private:
     void sendBankStep(BankStep step, const ControlEvent& routing);
     void storeValue(Control& control, std::int32_t value, bool updateGui, bool send);
     void tellValue(const Control& control);
+    void sendPresetNames();
     void moveGroup(const Control& source, std::int64_t delta, std::int64_t value);
     void select(Control& control, bool selected);
     Control* findSelected();

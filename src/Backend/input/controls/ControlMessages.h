@@ -94,10 +94,11 @@ inline constexpr Message<33970, Nothing, Heap<ControlMap>>               ALL_CON
 inline constexpr Message<33971, Cell, std::int32_t>                      VALUE_CHANGED;
 inline constexpr Message<33972, Cell, bool>                              SELECTED_CHANGED;  // On or off.
 inline constexpr Message<33973, SelectControlType::Mode, Cell>           SET_FOCUS;
+inline constexpr Message<33974, Nothing, Heap<std::vector<std::string>>>  PRESET_NAMES_CHANGED;  // In order.
 
 inline constexpr auto FAMILY = familyOf<CONTROL_GUI_RANGE>(
-    Unused<33968, 33974>(),
-    CONTROLS_CHANGED, ALL_CONTROLS_CHANGED, VALUE_CHANGED, SELECTED_CHANGED, SET_FOCUS);
+    Unused<33968>(),
+    CONTROLS_CHANGED, ALL_CONTROLS_CHANGED, VALUE_CHANGED, SELECTED_CHANGED, SET_FOCUS, PRESET_NAMES_CHANGED);
 
 }
 

@@ -50,14 +50,21 @@ void LayerManager::loadPreset(const std::string& name) {
 
 void LayerManager::savePreset(const std::string& name, const std::vector<LayerId>& selected) {
     m_presets.save(name, [&](std::ostream& stream) { writeXml(stream, 0, selected); });
+    sendPresetNames();
 }
 
 void LayerManager::renamePreset(const std::string& oldName, const std::string& newName) {
     m_presets.renamePreset(oldName, newName);
+    sendPresetNames();
 }
 
 void LayerManager::deletePreset(const std::string& name) {
     m_presets.deletePreset(name);
+    sendPresetNames();
+}
+
+void LayerManager::sendPresetNames() {
+    postToGui(m_mirel, WindowMessages::PRESET_NAMES_CHANGED, m_presets.getNames());
 }
 
 void LayerManager::updateLayers(const std::vector<Layer>& layers, bool notifyGui) {

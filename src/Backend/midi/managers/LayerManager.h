@@ -79,6 +79,7 @@ public:
     void changeLayerNoteToggle(const SelectType& type, const NoteToggle& value);
 
 private:
+    void sendPresetNames();
     // A list that grows to more than this by an id alone is a mistake.
     static constexpr std::int32_t MAX_LAYERS = 1 << 16;
 

@@ -49,11 +49,12 @@ inline constexpr Message<34725, std::int32_t, bool>                     MUTE_CHA
 inline constexpr Message<34726, std::int32_t, bool>                     MONO_CHANGED;
 inline constexpr Message<34727, std::int32_t, bool>                     SOLO_CHANGED;
 inline constexpr Message<34728, std::int32_t, State<NoteToggle>>        TOGGLE_CHANGED;
+inline constexpr Message<34729, Nothing, Heap<std::vector<std::string>>> PRESET_NAMES_CHANGED;  // In order.
 
 inline constexpr auto FAMILY = familyOf<LAYER_GUI_RANGE>(
-    Unused<34718, 34729>(),
+    Unused<34718>(),
     LAYERS_CHANGED, ALL_LAYERS_CHANGED, SELECTED_CHANGED, EDIT_SELECT, TRANSPOSE_CHANGED, VELOCITY_CHANGED,
-    MUTE_CHANGED, MONO_CHANGED, SOLO_CHANGED, TOGGLE_CHANGED);
+    MUTE_CHANGED, MONO_CHANGED, SOLO_CHANGED, TOGGLE_CHANGED, PRESET_NAMES_CHANGED);
 
 }
 

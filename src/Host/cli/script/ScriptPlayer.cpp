@@ -46,7 +46,7 @@ void ScriptPlayer::windowMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             tellEvent("show", shown, shown.getChannel(), " in=" + std::to_string(shown.getInput()));
         });
     const std::string text = takeWindowText(message, wParam, lParam);
-    if (m_options.window)
+    if (m_options.window && !isListForMenus(message))
         tell("window " + std::to_string(message) + (text.empty() ? "" : " ") + text + "\n");
 }
 

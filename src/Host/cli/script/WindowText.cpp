@@ -134,6 +134,10 @@ std::string describe(const std::vector<Layer>& layers) {
     return describeList(layers, [](const Layer& layer) { return std::to_string(layer.id); });
 }
 
+std::string describe(const std::vector<std::string>& names) {
+    return describeList(names, quoted);
+}
+
 std::string describe(const LayerList& layers) {
     return std::to_string(layers.size()) + " layers";
 }
@@ -177,6 +181,12 @@ std::string takeWindowText(UINT message, WPARAM wParam, LPARAM lParam) {
                       take(Controls::WindowMessages::FAMILY) || take(Layers::WindowMessages::FAMILY) ||
                       take(Zones::WindowMessages::FAMILY));
     return text;
+}
+
+bool isListForMenus(UINT message) {
+    return message == ComputerInput::WindowMessages::PRESET_NAMES_CHANGED.NUMBER ||
+           message == Controls::WindowMessages::PRESET_NAMES_CHANGED.NUMBER ||
+           message == Layers::WindowMessages::PRESET_NAMES_CHANGED.NUMBER;
 }
 
 }
