@@ -72,8 +72,8 @@ TEST_F(SliceGuardTest, WhatASliceMustNotDoIsNoted) {
     };
     for (const Breach& breach : breaches) {
         const auto found = breachesOf(breach.commit);
-        const bool isNoted = std::any_of(found.begin(), found.end(), [&breach](const std::string& text) {
-            return text.starts_with(std::string(breach.call) + "\n");
+        const bool isNoted = std::any_of(found.begin(), found.end(), [&breach](const std::string& line) {
+            return line.starts_with(std::string(breach.call) + "\n");
         });
         EXPECT_TRUE(isNoted) << breach.call << " among " << testing::PrintToString(found);
     }

@@ -59,9 +59,9 @@ TEST(SelectControlTypeTest, AnythingElseIsACell) {
 
 TEST(SelectControlTypeTest, EqualityComparesModeAndCell) {
     using Type = SelectControlType;
-    EXPECT_EQ(Type(Type::specific, Cell(1, 2)), Type(Type::specific, Cell(1, 2)));
-    EXPECT_NE(Type(Type::specific, Cell(1, 2)), Type(Type::specific, Cell(2, 1)));
-    EXPECT_NE(Type(Type::up), Type(Type::down));
+    EXPECT_EQ(Type(Type::SPECIFIC, Cell(1, 2)), Type(Type::SPECIFIC, Cell(1, 2)));
+    EXPECT_NE(Type(Type::SPECIFIC, Cell(1, 2)), Type(Type::SPECIFIC, Cell(2, 1)));
+    EXPECT_NE(Type(Type::UP), Type(Type::DOWN));
 }
 
 TEST(RelativeFixedValueTest, SignOrNothingMakesItRelative) {
