@@ -19,6 +19,7 @@ TEST(AddressWaitTest, SleepersReturnOnceTheWordHasChangedAndTheyAreWoken) {
         while (word.load() == 0)
             waitWhileEqual(word, 0);
     };
+
     std::thread one(sleep);
     word.store(1);
     wakeOne(word);
@@ -29,6 +30,7 @@ TEST(AddressWaitTest, SleepersReturnOnceTheWordHasChangedAndTheyAreWoken) {
         several.emplace_back(sleep);
     word.store(2);
     wakeAll(word);
+
     for (std::thread& thread : several)
         thread.join();
     EXPECT_EQ(word.load(), 2u);

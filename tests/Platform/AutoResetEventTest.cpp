@@ -41,11 +41,13 @@ TEST(AutoResetEventTest, TwoThreadsTakeTurns) {
             pong.set();
         }
     });
+
     for (int i = 0; i < ROUNDS; ++i) {
         ping.set();
         pong.wait();
         ASSERT_EQ(turns, i + 1);
     }
+
     other.join();
 }
 

@@ -51,15 +51,20 @@ TEST(CriticalSectionTest, LeaveByAThreadThatIsNotInsideChangesNothing) {
     CriticalSection section;
     section.leave();
     EXPECT_TRUE(isFree(section));
+
     section.enter();
     std::thread other([&] { section.leave(); });
     other.join();
+
     EXPECT_FALSE(isFree(section));
+
     section.leave();
     section.leave();
     EXPECT_TRUE(isFree(section));
+
     section.enter();
     EXPECT_FALSE(isFree(section)) << "one leave too many is not kept in mind";
+
     section.leave();
 }
 
@@ -83,6 +88,7 @@ TEST(CriticalSectionTest, LockIsHeldForABlock) {
 
 TEST(CriticalSectionTest, OnlyOneThreadIsInside) {
     CriticalSection section;
+
     int count = 0;
     std::vector<std::thread> threads;
     for (int i = 0; i < 4; ++i) {
@@ -97,6 +103,7 @@ TEST(CriticalSectionTest, OnlyOneThreadIsInside) {
             }
         });
     }
+
     for (std::thread& thread : threads)
         thread.join();
     EXPECT_EQ(count, 20000);
@@ -111,9 +118,12 @@ TEST(CriticalSectionTest, WaitWithMessageLoopEntersOnceTheSectionIsFree) {
         entered.store(section.waitWithMessageLoop());
         section.leave();
     });
+
     for (UINT i = 0; i < 3; ++i)
         ASSERT_TRUE(thread.post(WM_APP + i, 0, 0));
+
     EXPECT_FALSE(entered.load());
+
     section.leave();
     thread.join();
     EXPECT_TRUE(entered.load());
@@ -154,15 +164,18 @@ TEST(CriticalSectionTest, FreeSectionIsEnteredBeforeAnyMessageIsTaken) {
     bool entered = false;
     MessageThread thread;
     AutoResetEvent quitPosted;
+
     thread.start("first", [&] {
         quitPosted.wait();
         entered = section.waitWithMessageLoop();
         section.leave();
     });
     EXPECT_TRUE(thread.post(WM_QUIT, 0, 0));
+
     quitPosted.set();
     thread.join();
     EXPECT_TRUE(entered);
+
     MSG message;
     EXPECT_TRUE(thread.tryGet(message)) << "still there";
 }

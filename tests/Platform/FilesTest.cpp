@@ -28,6 +28,7 @@ TEST(FilesTest, ReplacedFileReadsBackByteByByte) {
     std::string content;
     for (int i = 0; i < 70000; ++i)
         content += static_cast<char>(i % 256);
+
     for (const std::string& name : {std::string("a.bin"), UNICODE_NAME, std::string("with blank #1 %41.txt")}) {
         const std::string path = folder.file(name);
         EXPECT_EQ(Files::read(path), std::nullopt) << name;
@@ -39,6 +40,7 @@ TEST(FilesTest, ReplacedFileReadsBackByteByByte) {
         ASSERT_TRUE(Files::replace(path, "")) << name;
         EXPECT_EQ(Files::read(path), "") << name;
     }
+
     EXPECT_EQ(entries(folder.path()), 3u) << "nothing temporary stays";
 }
 
@@ -81,8 +83,10 @@ TEST(FilesTest, FailedReplaceLeavesEverythingAsItWas) {
 TEST(FilesTest, ReaderSeesTheOldOrTheNewContentOfAReplacedFile) {
     const TemporaryFolder folder;
     const std::string path = folder.file("a");
+
     const std::vector<std::string> contents = {std::string(200000, 'a'), std::string(100000, 'b')};
     ASSERT_TRUE(Files::replace(path, contents[0]));
+
     std::thread writer([&] {
         for (std::size_t i = 0; i < 50; ++i)
             EXPECT_TRUE(Files::replace(path, contents[i % 2]));
@@ -122,6 +126,7 @@ TEST(FilesTest, MoveKeepsAnExistingTarget) {
     const TemporaryFolder folder;
     const std::string from = folder.file("from");
     const std::string to = folder.file(UNICODE_NAME);
+
     ASSERT_TRUE(Files::replace(from, "1"));
     EXPECT_TRUE(Files::move(from, to));
     EXPECT_EQ(Files::size(from), std::nullopt);
@@ -151,13 +156,16 @@ TEST(FilesTest, ListGivesPlainFilesOfTheExtensionInByteOrder) {
                                     std::string("c.SEQ"), std::string("seq"), std::string("a.x.seq")}) {
         ASSERT_TRUE(Files::append(folder.file(name), "")) << name;
     }
+
     ASSERT_TRUE(Files::createFolders(folder.file("folder.seq")));
+
     std::vector<std::string> expected = {"a.x.seq", "b.seq", UNICODE_NAME};
     // Where case does not count, "b.seq" and "B.seq" are one file, and ".SEQ" is the same extension.
     if (entries(folder.path()) == 8)
         expected.insert(expected.begin(), "B.seq");
     else
         expected.insert(expected.end() - 1, "c.SEQ");
+
     EXPECT_EQ(Files::list(folder.path(), ".seq"), expected);
     EXPECT_TRUE(Files::list(folder.file("missing"), ".seq").empty());
     EXPECT_TRUE(Files::list(folder.file("b.seq"), ".seq").empty());

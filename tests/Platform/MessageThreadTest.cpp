@@ -106,6 +106,7 @@ TEST(MessageThreadTest, IdIsThatOfTheThreadBeforeItsBodyBegins) {
     });
     const DWORD afterStart = thread.id();
     thread.join();
+
     EXPECT_NE(inside, 0u);
     EXPECT_NE(inside, currentThreadId());
     EXPECT_EQ(outside, inside);
@@ -134,14 +135,19 @@ TEST(MessageThreadTest, FullQueueRefusesUntilSomethingWasTaken) {
         while (thread.get(message))
             received.push_back(message.wParam);
     });
+
     for (std::size_t i = 0; i < MessageThread::CAPACITY; ++i)
         ASSERT_TRUE(thread.post(FIRST_MESSAGE, i, 0));
+
     EXPECT_FALSE(thread.post(FIRST_MESSAGE, 99999, 0));
+
     std::thread poster([&] { thread.postUntilAccepted(WM_QUIT, 0, 0); });
     begin.set();
+
     poster.join();
     thread.join();
     ASSERT_EQ(received.size(), MessageThread::CAPACITY);
+
     for (std::size_t i = 0; i < received.size(); ++i)
         ASSERT_EQ(received[i], i);
 }
@@ -149,14 +155,17 @@ TEST(MessageThreadTest, FullQueueRefusesUntilSomethingWasTaken) {
 TEST(MessageThreadTest, MessagesLeftAtTheEndStayUntilTaken) {
     MessageThread thread;
     AutoResetEvent end;
+
     thread.start("leftovers", [&] { end.wait(); });
     EXPECT_TRUE(thread.post(FIRST_MESSAGE, 1, 2));
     EXPECT_TRUE(thread.post(WM_QUIT, 3, 4));
+
     end.set();
     thread.join();
     EXPECT_FALSE(thread.isRunning());
     EXPECT_TRUE(thread.isIdle()) << "a thread that does not run is idle";
     EXPECT_FALSE(thread.post(FIRST_MESSAGE, 5, 6)) << "after the end";
+
     MSG message;
     ASSERT_TRUE(thread.tryGet(message));
     EXPECT_EQ(message.message, FIRST_MESSAGE);
@@ -203,14 +212,18 @@ TEST(MessageThreadTest, ThreadIsBusyUntilItsHandlerHasReturned) {
         }
     });
     thread.waitUntilIdle();
+
     EXPECT_TRUE(thread.isIdle());
     EXPECT_TRUE(thread.post(FIRST_MESSAGE, 0, 0));
+
     entered.wait();
     EXPECT_FALSE(thread.isIdle()) << "the queue is empty, but the message is being handled";
+
     leave.set();
     thread.waitUntilIdle();
     EXPECT_TRUE(handled);
     EXPECT_TRUE(thread.post(WM_QUIT, 0, 0));
+
     thread.join();
     thread.waitUntilIdle();
 }
@@ -278,9 +291,12 @@ TEST(MessageThreadTest, StopWaitsForRoomInAFullQueue) {
         while (thread.get(message) && message.message != END_MESSAGE)
             ++taken;
     });
+
     for (std::size_t i = 0; i < MessageThread::CAPACITY; ++i)
         ASSERT_TRUE(thread.post(FIRST_MESSAGE, 0, 0));
+
     std::thread stopper([&] { thread.stop(END_MESSAGE); });
+
     begin.set();
     stopper.join();
     EXPECT_EQ(taken, MessageThread::CAPACITY);
@@ -302,6 +318,7 @@ TEST(MessageThreadTest, ManyPostersLoseNothingAndKeepTheirOrders) {
             ++expected;
         }
     });
+
     std::vector<std::thread> posters;
     for (std::size_t poster = 0; poster < POSTERS; ++poster) {
         posters.emplace_back([&thread, poster] {
@@ -309,12 +326,14 @@ TEST(MessageThreadTest, ManyPostersLoseNothingAndKeepTheirOrders) {
                 thread.postUntilAccepted(FIRST_MESSAGE, poster, i);
         });
     }
+
     for (std::thread& poster : posters)
         poster.join();
     thread.waitUntilIdle();
     EXPECT_TRUE(inOrder);
     EXPECT_EQ(next, std::vector<LPARAM>(POSTERS, POSTS));
     EXPECT_TRUE(thread.post(WM_QUIT, 0, 0));
+
     thread.join();
 }
 
@@ -326,6 +345,7 @@ TEST(MessageThreadTest, EveryIdleWaitSeesAllThatWasPostedBefore) {
         while (thread.get(message))
             handled.fetch_add(1, std::memory_order_relaxed);
     });
+
     const auto postAndWait = [&](int rounds) {
         for (int i = 0; i < rounds; ++i) {
             const int before = handled.load(std::memory_order_relaxed);
@@ -334,11 +354,14 @@ TEST(MessageThreadTest, EveryIdleWaitSeesAllThatWasPostedBefore) {
             ASSERT_GT(handled.load(std::memory_order_relaxed), before);
         }
     };
+
     std::thread other([&] { postAndWait(3000); });
+
     postAndWait(3000);
     other.join();
     EXPECT_EQ(handled.load(), 6000);
     EXPECT_TRUE(thread.post(WM_QUIT, 0, 0));
+
     thread.join();
 }
 

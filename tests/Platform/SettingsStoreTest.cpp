@@ -65,14 +65,19 @@ TEST_F(SettingsStoreTest, NonsenseInTheFileCountsAsNoValue) {
                                "lost=number:1\n[key]\na\nb=number:x\nc=number:1x\nd=number:99999999999\n"
                                "e=bytes:0\nf=bytes:0g\ng=text:%4\nh=text:%zz\n=number:3\ni=what:1\n"
                                "j=number:7\r\n[%zz]\nk=number:1\n\xff\xfe"));
+
     const auto key = m_store->open("key");
     ASSERT_NE(key, nullptr);
+
     for (const char* name : {"lost", "a", "b", "c", "d", "i", "k"})
         EXPECT_EQ(key->readNumber(name), std::nullopt) << name;
+
     for (const char* name : {"e", "f"})
         EXPECT_EQ(key->readBytes(name), std::nullopt) << name;
+
     for (const char* name : {"g", "h"})
         EXPECT_EQ(key->readText(name), std::nullopt) << name;
+
     EXPECT_EQ(key->readNumber(""), 3u);
     EXPECT_EQ(key->readNumber("j"), 7u);
 }

@@ -246,6 +246,7 @@ TEST_F(DeskComponentsTest, EachPostHasItsNumberAndWordsAndItsEffect) {
     const auto all = operations();
     std::set<std::string> seen;
     m_master.start();
+
     int line = 0;
     for (const auto& row : TestSupport::readTable("component-messages.txt")) {
         ASSERT_EQ(row.size(), 7u) << row[1];
@@ -273,6 +274,7 @@ TEST_F(DeskComponentsTest, EachPostHasItsNumberAndWordsAndItsEffect) {
         EXPECT_EQ(play(component), row[6]) << where;
         m_desk.takeTold();
     }
+
     EXPECT_EQ(seen.size(), all.size());
 }
 
@@ -324,6 +326,7 @@ TEST_F(DeskComponentsTest, WhatComesAfterTheEndIsDisposedOfAndChangesNothing) {
     m_master.start();
     m_master.postMessage(TestSupport::WorkerGate::NUMBER, 0, 0);
     m_master.postMessage(QUIT_BACKEND_WORKER, 0, 0);
+
     std::size_t count = 0;
     for (const auto& [name, operation] : operations()) {
         operation();

@@ -40,8 +40,10 @@ TEST(DeskLifeTest, FiveThreadsDoTheWork) {
     desk.openWindow();
     desk.mirel().getMessageManager().postChangeTempo(RelativeFixedValue(false, 100), true);
     desk.settle();
+
     const auto posted = desk.takePosted();
     ASSERT_EQ(posted.size(), 1u);
+
     ThreadOfTheLog log;
     desk.mirel().getDisplayMessageManager().postSetListener(&log);
     desk.mirel().getDisplayMessageManager().postSendAll();
@@ -53,7 +55,9 @@ TEST(DeskLifeTest, FiveThreadsDoTheWork) {
         desk.mirel().playTimeSlice(0, 10);
     });
     player.join();
+
     EXPECT_EQ(desk.takePlayed(), Strings{"0x90 60 100 ch=0 out=0"});
+
     const std::set<DWORD> threads = {Platform::currentThreadId(), posted[0].thread, desk.engineThread, log.thread,
                                      desk.playerThread};
     EXPECT_EQ(threads.size(), 5u);
@@ -105,11 +109,14 @@ TEST(DeskLifeTest, TheStartEndsWithTheControlsThatSendOnTheirOwn) {
     });
     desk.playSlice(0, 0);
     desk.playSlice(0, 1);
+
     EXPECT_EQ(desk.takePlayed(), Strings{"0xb0 20 5 ch=0 out=0"});
+
     desk.mirel().getMessageManager().sendEndInitialize();
     desk.settle();
     desk.playSlice(1, 1);
     desk.playSlice(1, 2);
+
     EXPECT_EQ(desk.takePlayed(), Strings{"0xb0 20 5 ch=0 out=0"});
 }
 
@@ -147,18 +154,23 @@ TEST(DeskLifeTest, SendsReturnWhenTheWorkIsDone) {
     Mirel& mirel = desk.mirel();
     MirelMessageManager& manager = mirel.getMessageManager();
     mirel.start();
+
     manager.sendInitialize();
     EXPECT_EQ(mirel.getLayers().getLayerList().size(), 1u);
     EXPECT_EQ(mirel.getControls().getControlMap().size(), 13u);
+
     manager.sendSetMidiInputPorts(makePorts<MidiInputPort>({"A"}));
     EXPECT_EQ(mirel.getMidiInputPorts().at(0).name, "A");
+
     manager.sendSetMidiOutputPorts(makePorts<MidiOutputPort>({"B", "C"}));
     EXPECT_EQ(mirel.getMidiOutputPorts().size(), 2u);
     EXPECT_EQ(mirel.getRegistrySettings().getDefaultMidiOutput(), 0);
+
     manager.sendEndInitialize();
     manager.sendEnd();
     EXPECT_TRUE(mirel.getMidiEngineMessageManager().isIdle());
     EXPECT_TRUE(mirel.getDisplayMessageManager().isIdle());
+
     mirel.stop();
 }
 
@@ -175,6 +187,7 @@ TEST(DeskLifeTest, WhatIsPostedWhileTheDeskEndsIsDisposedOf) {
     });
     desk.mirel().getMessageManager().postChangeProgramName("last");
     desk.end();
+
     EXPECT_EQ(desk.mirel().getCurrentProgram().getName(), "last");
 }
 
@@ -182,16 +195,19 @@ TEST(DeskLifeTest, WhatIsPostedWhileTheDeskEndsIsDisposedOf) {
 TEST(DeskLifeTest, TheScreensOutliveTheWindow) {
     RunningDesk desk;
     desk.start();
+
     const ScreenState first = desk.mirel().getScreenState();
     EXPECT_TRUE(first.system && first.output);
     EXPECT_FALSE(first.help || first.display || first.computerInput || first.control || first.layer || first.cc ||
                  first.zone);
+
     ScreenState changed;
     changed.system = false;
     changed.zone = true;
     desk.mirel().getMessageManager().postSetScreenState(changed);
     desk.mirel().getMessageManager().postRemoveGuiWindowHandle();
     desk.settle();
+
     EXPECT_FALSE(desk.mirel().getScreenState().system);
     EXPECT_TRUE(desk.mirel().getScreenState().zone);
 }

@@ -301,6 +301,7 @@ TEST_F(DeskMessagesTest, EachOperationPostsItsNumberAndWordsAndIsCarriedOut) {
     const auto all = operations();
     std::set<std::string> seen;
     start();
+
     for (const auto& row : TestSupport::readTable("mirel-messages.txt")) {
         ASSERT_EQ(row.size(), 5u);
         const auto operation = all.find(row[1]);
@@ -315,6 +316,7 @@ TEST_F(DeskMessagesTest, EachOperationPostsItsNumberAndWordsAndIsCarriedOut) {
         expectWord(row[3], static_cast<std::int64_t>(messages[0].lParam), row[1]);
         EXPECT_EQ(m_mirel->takeCalls(), std::vector<std::string>{row[4]}) << row[1];
     }
+
     m_master.stop();
     EXPECT_EQ(seen.size(), all.size());
 }
@@ -325,6 +327,7 @@ TEST_F(DeskMessagesTest, NumbersWithoutAnOperationDoNothing) {
         used.insert(static_cast<UINT>(std::stoul(row[0])));
     std::set<UINT> unused;
     start();
+
     for (UINT number = 33218; number <= 33273; ++number) {
         if (used.contains(number))
             continue;
@@ -335,10 +338,12 @@ TEST_F(DeskMessagesTest, NumbersWithoutAnOperationDoNothing) {
     EXPECT_EQ(unused, (std::set<UINT>{33218, 33237, 33238, 33262, 33263, 33273}));
     EXPECT_EQ(m_witness.takeSeen().size(), unused.size());
     EXPECT_EQ(m_mirel->takeCalls(), std::vector<std::string>());
+
     for (const UINT outside : {33217u, 33274u})
         m_master.postMessage(outside, 1, 1);
     m_master.waitUntilIdle();
     EXPECT_EQ(m_witness.takeSeen().size(), 0u);
+
     m_master.stop();
 }
 
@@ -378,6 +383,7 @@ TEST_F(DeskMessagesTest, WhatComesAfterTheEndIsDisposedOfAndNotCarriedOut) {
     m_master.postMessage(QUIT_BACKEND_WORKER, 0, 0);
     std::vector<UINT> expected;
     const auto all = operations();
+
     for (const auto& row : TestSupport::readTable("mirel-messages.txt")) {
         expected.push_back(static_cast<UINT>(std::stoul(row[0])));
         if (row[1].starts_with("post"))
@@ -411,6 +417,7 @@ TEST(MirelOperationsTest, TheInterfaceHasAllOperationsInOrder) {
         const std::string head = line.substr(0, line.find('('));
         declared.push_back(head.substr(head.find_last_of(" &*") + 1));
     }
+
     std::vector<std::string> expected;
     for (const auto& row : TestSupport::readTable("mirel-operations.txt"))
         expected.push_back(row[0]);

@@ -71,6 +71,7 @@ TEST(DeskSettingsTest, TheDefaultOutputIsChosenAmongThePorts) {
         {"nonsense below none", -9, {"A"}, 0},
         {"nonsense below none, and no port to take", -9, {"A-"}, -9},
     };
+
     for (const Choice& choice : choices) {
         RunningDesk desk;
         desk.prepareSettings([&choice](RegistrySettings& settings) { settings.setDefaultMidiOutput(choice.setting); });
@@ -96,6 +97,7 @@ TEST(DeskSettingsTest, TheDefaultOutputMovesToWhatIsEnabledAndThere) {
     const SelectType up(SelectType::UP);
     const SelectType down(SelectType::DOWN);
     const auto specific = [](int index) { return SelectType(SelectType::SPECIFIC, index); };
+
     const Step steps[] = {
         {up, 0, 3},
         {up, 3, 5},
@@ -118,6 +120,7 @@ TEST(DeskSettingsTest, TheDefaultOutputMovesToWhatIsEnabledAndThere) {
         {SelectType(SelectType::ALL, 3), 0, 3},
         {SelectType(SelectType::SELECTED, 3), 0, 3},
     };
+
     for (const Step& step : steps) {
         desk.run([&step](Mirel& mirel) {
             mirel.getRegistrySettings().setDefaultMidiOutput(step.from);
@@ -147,6 +150,7 @@ TEST(DeskSettingsTest, OnlyATempoOf20To250IsTaken) {
         {{false, 251}, 250},     {{true, 1}, 250},       {{true, -50}, 200},     {{false, 0}, 200},
         {{false, INT_MIN}, 200}, {{true, INT_MAX}, 200}, {{true, INT_MIN}, 200}, {{true, 0}, 200},
     };
+
     int before = 120;
     for (const auto& change : changes) {
         desk.mirel().getMessageManager().postChangeTempo(change.value, true);
@@ -175,6 +179,7 @@ TEST(DeskSettingsTest, TheTempoSourceIsAnInputOrNone) {
         bool taken;
     } changes[] = {{1, 1, true},    {2, 1, false},    {0, 0, true},  {-2, 0, false},
                    {127, 0, false}, {-128, 0, false}, {-1, -1, true}};
+
     for (const auto& change : changes) {
         desk.mirel().getMessageManager().postSetTempoSource(static_cast<char>(change.source), true);
         desk.settle();
@@ -197,7 +202,9 @@ TEST(DeskSettingsTest, ThruAndTheGlobalKeyboardAreSetClearedAndInverted) {
     RunningDesk desk;
     desk.start();
     EXPECT_TRUE(passesThru(desk));
+
     bool keyboard = false;
+
     bool thru = true;
     for (const auto state :
          {OnOffToggle::OFF, OnOffToggle::OFF, OnOffToggle::ON, OnOffToggle::ON, OnOffToggle::TOGGLE,
@@ -222,10 +229,12 @@ TEST(DeskSettingsTest, EnablingAnInputChangesTheListAndTheHost) {
     for (const int index : {2, -1, INT_MAX, INT_MIN})
         manager.postEnableMidiInput(index, false);
     desk.settle();
+
     EXPECT_EQ(desk.takeCalls(), Strings{"input 1 off"});
     EXPECT_TRUE(desk.mirel().getMidiInputPorts().at(0).enabled);
     EXPECT_FALSE(desk.mirel().getMidiInputPorts().at(1).enabled);
     EXPECT_EQ(desk.mirel().getRegistrySettings().getEnabledMidiInputs(), (std::vector<bool>{false, false}));
+
     manager.postEnableMidiInput(0, true);
     desk.settle();
     EXPECT_EQ(desk.mirel().getRegistrySettings().getEnabledMidiInputs(), std::vector<bool>{true});
@@ -239,9 +248,11 @@ TEST(DeskSettingsTest, EnablingAnOutputOnlyTellsTheHost) {
     manager.postEnableMidiOutput(1, false);
     manager.postEnableMidiOutput(9, true);
     desk.settle();
+
     EXPECT_EQ(desk.takeCalls(), (Strings{"output 1 off", "output 9 on"}));
     EXPECT_TRUE(desk.mirel().getMidiOutputPorts().at(1).enabled);
     EXPECT_EQ(desk.mirel().getRegistrySettings().getEnabledMidiOutputs().size(), 10u);
+
     for (const int index : {INT_MAX, INT_MIN, 1 << 16})
         manager.postEnableMidiOutput(index, true);
     desk.settle();
@@ -251,21 +262,26 @@ TEST(DeskSettingsTest, EnablingAnOutputOnlyTellsTheHost) {
 TEST(DeskSettingsTest, TheLiteSettingsReachTheFirstLayerIfThereIsOne) {
     RunningDesk desk;
     desk.start();
+
     const auto set = [](Mirel& mirel) {
         mirel.setLiteVelocity(33);
         mirel.setLiteChannel(4);
         mirel.setLiteStackNotes(false);
     };
+
     desk.run(set);
     const Layers::Layer& layer = *desk.mirel().getLayers().getLayerList().begin();
     EXPECT_EQ(layer.velocity, RelativeFixedValue(false, 33));
     EXPECT_EQ(layer.channel, 4);
     EXPECT_FALSE(layer.useNoteStack);
+
     desk.mirel().playMidi(MirelMidiMessage(MidiMessage::NoteOn, 60, 100));
     desk.settle();
     desk.playSlice(0, 0);
     desk.playSlice(0, 1);
+
     EXPECT_EQ(desk.takePlayed(), Strings{"0x90 60 33 ch=4 out=0"});
+
     desk.run([&set](Mirel& mirel) {
         mirel.getLayers().clear();
         set(mirel);
@@ -279,6 +295,7 @@ TEST(DeskSettingsTest, WhatIsPostedIsKept) {
     RunningDesk desk;
     desk.start();
     MirelMessageManager& manager = desk.mirel().getMessageManager();
+
     for (const bool flag : {true, false}) {
         manager.postSetDockToBottomEdge(flag);
         manager.postSetDisplayNumbers(flag);
@@ -318,17 +335,20 @@ TEST(DeskSettingsTest, WhatIsPostedIsKept) {
 TEST(DeskSettingsTest, TheLogShowsWhatIsPlayedAsItIsTold) {
     RunningDesk desk;
     desk.start();
+
     const auto play = [&desk] {
         desk.mirel().getDisplayMessageManager().postAddOutputEvent(
             MirelMidiMessage(MidiMessage::TimingTick, 0, 0, {.output = 1, .channel = 0}));
         desk.settle();
     };
+
     play();
     desk.mirel().getMessageManager().postSetDisplayNumbers(true);
     desk.settle();
     play();
     desk.mirel().getMessageManager().postSetDisplayMidiOutputEvents(false);
     desk.settle();
+
     play();
     EXPECT_EQ(desk.log(), "Mirel Console 3.2\r\nOut 1\t\tTiming Tick\r\n0  Out 1\t\tTiming Tick\r\n");
 }

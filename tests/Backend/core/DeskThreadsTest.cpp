@@ -85,6 +85,7 @@ TEST(DeskThreadsTest, PostsFromManyThreadsAllArrive) {
     desk.start();
     // From the first slice on, resets wait for this thread.
     desk.playSlice(0, 1);
+
     std::vector<std::thread> threads;
     std::atomic<int> running = 0;
     for (const auto& work : {postFiles, postSettings, postEvents, postComponents, postEvents}) {
@@ -101,10 +102,12 @@ TEST(DeskThreadsTest, PostsFromManyThreadsAllArrive) {
         clock += 2;
         std::this_thread::yield();
     }
+
     for (std::thread& thread : threads)
         thread.join();
     desk.playSlice(clock, clock + 2);
     desk.playSlice(clock + 2, clock + 4);
+
     EXPECT_EQ(desk.mirel().getCurrentBank().getPath(), "no such bank.bnk");
     EXPECT_EQ(desk.mirel().getRegistrySettings().getLiteVelocity(), ROUNDS - 1);
     EXPECT_EQ(desk.mirel().getLayers().getLayerList().size(), 3u);
@@ -134,13 +137,16 @@ TEST(DeskThreadsTest, AFloodOfControllersHoldsNobodyUp) {
             std::this_thread::yield();
     });
     auto& engine = desk.mirel().getMidiEngineMessageManager();
+
     for (int i = 0; i < COUNT; ++i)
         engine.postPlayMidi(
             MirelMidiMessage(MidiMessage::ControllerChange, 7, static_cast<char>(i % 128), {.channel = CHANNEL}));
     engine.waitUntilIdle();
     desk.mirel().playTimeSlice(1, 2);
     desk.mirel().playTimeSlice(2, 3);
+
     EXPECT_EQ(desk.takePlayed().size(), static_cast<std::size_t>(COUNT));
+
     isBusy = false;
     std::int32_t clock = 3;
     EXPECT_TRUE(TestSupport::eventually([&] {
@@ -162,20 +168,24 @@ TEST(DeskThreadsTest, PostsOfOneThreadKeepTheirOrder) {
     desk.start();
     desk.takeTold();
     constexpr int COUNT = 300;
+
     const auto rename = [&desk](const std::string& who) {
         for (int i = 0; i < COUNT; ++i)
             desk.mirel().getMessageManager().postChangeProgramName(who + std::to_string(i));
     };
+
     std::thread other(rename, "b");
     rename("a");
     other.join();
     desk.settle();
+
     std::vector<std::string> expected[2];
     std::vector<std::string> got[2];
     for (int i = 0; i < COUNT; ++i)
         for (const int who : {0, 1})
             expected[who].push_back("33223 \"" + std::string(who ? "b" : "a") + std::to_string(i) +
                                     "\" index=0 tempo=120 source=-1");
+
     for (const std::string& told : desk.takeTold())
         got[told.find("\"b") != std::string::npos].push_back(told);
     EXPECT_EQ(got[0], expected[0]);
@@ -192,6 +202,7 @@ TEST(DeskThreadsTest, TheWindowComesAndGoes) {
             postEvents(desk.mirel(), i);
         }
     });
+
     for (int i = 0; i < ROUNDS; ++i) {
         desk.openWindow();
         desk.mirel().playTimeSlice(i, i + 1);
@@ -202,6 +213,7 @@ TEST(DeskThreadsTest, TheWindowComesAndGoes) {
     desk.takeTold();
     desk.mirel().getMessageManager().postChangeTempo(RelativeFixedValue(false, 90), true);
     desk.settle();
+
     EXPECT_EQ(desk.takeTold(), std::vector<std::string>());
 }
 

@@ -118,6 +118,7 @@ TEST(DeskWindowTest, EachOperationTellsTheWindowWhatTheTableSays) {
     const auto all = operations();
     const auto expected = readExpected();
     EXPECT_EQ(all.size(), expected.size());
+
     for (const auto& [name, operation] : all) {
         RunningDesk desk;
         desk.start();
@@ -163,11 +164,13 @@ TEST(DeskWindowTest, AFlagOfTheWindowIsAWordOfOneOrZero) {
         mirel.showZone(false);
         mirel.setMouseSensitivity(-3);
     });
+
     const auto posted = desk.takePosted();
     ASSERT_EQ(posted.size(), 3u);
     EXPECT_EQ(posted[0].wParam, 1u);
     EXPECT_EQ(posted[1].wParam, 0u);
     EXPECT_EQ(static_cast<int>(posted[2].wParam), -3);
+
     for (const auto& one : posted)
         EXPECT_EQ(one.lParam, 0);
 }

@@ -316,6 +316,7 @@ TEST_F(FunctionListTest, EveryAttributeCountsForEquality) {
             ++counted;
         }
     }
+
     EXPECT_EQ(counted, 109);
 }
 

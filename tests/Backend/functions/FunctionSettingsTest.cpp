@@ -234,6 +234,7 @@ TEST_F(FunctionSettingsTest, NumbersKeepTheLowBitsOfTheirField) {
         const char* read;
         const char* written;
     };
+
     const Row rows[] = {
         {R"(<MidiNoteOn note="C4" channel="200"/>)", R"(<MidiNoteOn channel="-56" note="C4" velocity="100"/>)"},
         {R"(<MidiNoteOn note="C4" channel="255"/>)", R"(<MidiNoteOn note="C4" velocity="100"/>)"},
@@ -249,6 +250,7 @@ TEST_F(FunctionSettingsTest, NumbersKeepTheLowBitsOfTheirField) {
         {R"(<MidiSongPosition value="65536"/>)", R"(<MidiSongPosition value="0"/>)"},
         {R"(<MidiSongSelect songNumber="384"/>)", R"(<MidiSongSelect songNumber="-128"/>)"},
     };
+
     for (const Row& row : rows)
         EXPECT_EQ(write(*readFunction(row.read, m_host.mirel())), row.written) << row.read;
 }

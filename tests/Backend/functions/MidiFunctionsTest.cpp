@@ -130,6 +130,7 @@ TEST_F(MidiFunctionsTest, SystemEventsHaveNoZoneAndNoChannel) {
         const char* data;
         const char* sent;
     };
+
     const Row rows[] = {
         {"MidiSongSelect", R"(songNumber="9")", "0xf3 9 0"},
         {"MidiSongSelect", R"(songNumber="200")", "0xf3 200 0"},
@@ -145,6 +146,7 @@ TEST_F(MidiFunctionsTest, SystemEventsHaveNoZoneAndNoChannel) {
         {"MidiActiveSensing", "", "0xfe 0 0"},
         {"MidiSystemReset", "", "0xff 0 0"},
     };
+
     for (const Row& row : rows) {
         // A channel is none of their attributes.
         EXPECT_EQ(m_desk.execute(element(row.tag, R"(zone="1" output="1" channel="7")", row.data)),

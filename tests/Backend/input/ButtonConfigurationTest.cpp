@@ -105,6 +105,7 @@ TEST_F(ButtonConfigurationTest, TheFirstSlotWithAFunctionCounts) {
         const char* inside;
         const char* slots;
     };
+
     const Row rows[] = {
         {R"(<Down/><Down><ShowHelp type="on"/></Down>)", R"(<ShowHelp type="on"/> -)"},
         {R"(<Down><Bogus/></Down><Down><ShowHelp type="on"/></Down>)", R"(<ShowHelp type="on"/> -)"},
@@ -120,6 +121,7 @@ TEST_F(ButtonConfigurationTest, TheFirstSlotWithAFunctionCounts) {
         {R"(<ResetMirel/>)", "- -"},
         {"", "- -"},
     };
+
     for (const Row& row : rows) {
         const auto key = readInside("<Function>" + std::string(row.inside) + "</Function>");
         ASSERT_EQ(key.getFunctionCount(), 1) << row.inside;
@@ -192,6 +194,7 @@ TEST_F(ButtonConfigurationTest, CopiesAreDeep) {
     KeyConfiguration copy(original);
     KeyConfiguration assigned;
     assigned = original;
+
     for (KeyConfiguration* each : {&copy, &assigned}) {
         EXPECT_TRUE(*each == original);
         EXPECT_NE(each->getFunctions()[0].downFunction.get(), original.getFunctions()[0].downFunction.get());
@@ -199,6 +202,7 @@ TEST_F(ButtonConfigurationTest, CopiesAreDeep) {
         each->setDownFunction(nullptr, 0);
         EXPECT_FALSE(*each == original);
     }
+
     const KeyConfiguration& self = assigned;
     assigned = self;
     EXPECT_EQ(slots(assigned, 0), R"(- <ShowHelp type="toggle"/>)");

@@ -253,6 +253,7 @@ TEST_F(ComputerInputManagerTest, APresetOfSelectedKeysMergesAndClears) {
               "\t\t</Function>\n"
               "\t</Key>\n"
               "</ComputerInput>\n");
+
     useKeys(keyOf("X", entryOf(noteOn(62), "")) + keyOf("B", entryOf(noteOn(61), "")));
     m_desk.run("preset load keys Some");
     EXPECT_EQ(play("key down X\nkey down A\nkey down B"), on(60) + on(61));
@@ -340,11 +341,13 @@ TEST_F(ComputerInputWindowTest, AProgramsElementIsAPresetsNameOrKeys) {
         });
         return m_desk.run("");
     };
+
     const auto preset = [this] {
         std::string name;
         m_desk.onBackend([&name](Backend::Mirel& mirel) { name = mirel.getComputerInput().getCurrentPreset(); });
         return name;
     };
+
     m_desk.writeKeyPreset("P", R"(<ComputerInput><Key id="A"/></ComputerInput>)");
     const std::string loaded =
         "window 34970 0 zones\nwindow 33470 1 keys useKeyUpMod=off\nwindow 33471\nwindow 33472\n";
@@ -353,6 +356,7 @@ TEST_F(ComputerInputWindowTest, AProgramsElementIsAPresetsNameOrKeys) {
     EXPECT_EQ(read(R"(<ComputerInput preset="  "><Key id="X"/><Key id="Y"/></ComputerInput>)"),
               "window 34970 0 zones\nwindow 33470 2 keys useKeyUpMod=off\nwindow 33471\n");
     EXPECT_EQ(preset(), "");
+
     read(R"(<ComputerInput preset="P"/>)");
     EXPECT_EQ(read(R"(<ComputerInput preset="None"><Key id="X"/></ComputerInput>)"), "");
     EXPECT_EQ(preset(), "");

@@ -28,6 +28,7 @@ protected:
 TEST_F(ComputerInputMessageManagerTest, TakesItsRangeOfNumbers) {
     for (UINT number = 33469; number <= 33476; ++number)
         EXPECT_TRUE(m_manager.wantMessage(number)) << number;
+
     EXPECT_FALSE(m_manager.wantMessage(33467));
     EXPECT_FALSE(m_manager.wantMessage(33478));
     EXPECT_FALSE(m_manager.wantMessage(0));

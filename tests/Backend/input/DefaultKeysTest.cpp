@@ -34,6 +34,7 @@ TEST_F(DefaultKeysTest, EachKeyDoesWhatTheTableSays) {
     const auto rows = TestSupport::readTable("default-keys.txt");
     ASSERT_EQ(rows.size(), KEYS);
     ASSERT_EQ(m_keys.size(), KEYS);
+
     for (const auto& row : rows) {
         SCOPED_TRACE(row[0]);
         ASSERT_EQ(row.size(), 4u);
@@ -57,6 +58,7 @@ TEST_F(DefaultKeysTest, TheElementReplacesAndIgnoresModifiersOfReleases) {
     EXPECT_FALSE(root.getBoolAttribute("merge", true));
     EXPECT_FALSE(root.getBoolAttribute("useKeyUpMod", true));
     EXPECT_FALSE(m_useKeyUpMod);
+
     int keys = 0;
     for (auto child = root.begin(); child != root.end(); child.next()) {
         if (child.getName() != "Key")
@@ -64,6 +66,7 @@ TEST_F(DefaultKeysTest, TheElementReplacesAndIgnoresModifiersOfReleases) {
         EXPECT_EQ(child.getAttribute("global"), "true");
         ++keys;
     }
+
     EXPECT_EQ(keys, static_cast<int>(KEYS));
 }
 

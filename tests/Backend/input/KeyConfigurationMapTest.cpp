@@ -131,6 +131,7 @@ TEST_F(KeyConfigurationMapTest, EqualityLeavesKeysThatDoNothingOut) {
 
 TEST_F(KeyConfigurationMapTest, RangesAreThoseOfAllKeys) {
     EXPECT_TRUE(m_keys.getZoneRanges().empty());
+
     read(R"(<ComputerInput>
         <Key id="A"><Function><Down><MidiNoteOn zone="0" note="C4"/></Down></Function></Key>
         <Key id="B"><Function><Up><MidiNoteOn zone="0" note="C2"/></Up></Function></Key>

@@ -165,6 +165,7 @@ TEST(MidiMessageTest, EachTestIsTrueForItsStatusOnly) {
         bool (MidiMessage::*test)() const;
         std::vector<std::uint32_t> statuses;
     };
+
     const Row rows[] = {
         {&MidiMessage::isNote, {0x80, 0x90}},    {&MidiMessage::isNoteOff, {0x80}},
         {&MidiMessage::isNoteOn, {0x90}},        {&MidiMessage::isControllerChange, {0xB0}},
@@ -173,6 +174,7 @@ TEST(MidiMessageTest, EachTestIsTrueForItsStatusOnly) {
         {&MidiMessage::isSongSelect, {0xF3}},    {&MidiMessage::isUnofficialBusSelect, {0xF5}},
         {&MidiMessage::isTimingTick, {0xF8}},    {&MidiMessage::isSystemReset, {0xFF}},
     };
+
     for (std::size_t i = 0; i < std::size(rows); ++i)
         for (const EventRow& event : EVENTS)
             EXPECT_EQ((message(event.status).*rows[i].test)(),
@@ -274,6 +276,7 @@ TEST(MidiMessageTest, ControllersHaveTheirNames) {
         int first;
         std::vector<const char*> names;
     };
+
     const Row rows[] = {
         {0,
          {"Bank Select (MSB)",
@@ -346,6 +349,7 @@ TEST(MidiMessageTest, ControllersHaveTheirNames) {
          {"All Sound Off", "Reset All Controllers", "Local control on/off", "All notes off", "Omni mode off",
           "Omni mode on", "Poly mode on/off", "Poly mode on"}},
     };
+
     std::vector<std::string> expected(256, "Undefined");
     for (const Row& row : rows)
         for (std::size_t i = 0; i < row.names.size(); ++i)

@@ -20,6 +20,7 @@ TEST(MirelMidiMessageTest, DefaultsMeanNoneAndAtOnce) {
     EXPECT_FALSE(message.isMirelReset());
     EXPECT_FALSE(message.isMirelHardReset());
     EXPECT_EQ(message.getPpq(), -1);
+
     for (const char constant : {MirelMidiMessage::DEFAULT_CHANNEL, MirelMidiMessage::DEFAULT_INPUT,
                                 MirelMidiMessage::DEFAULT_OUTPUT, MirelMidiMessage::DEFAULT_ZONE})
         EXPECT_EQ(constant, -1);
@@ -104,10 +105,12 @@ TEST(MirelMidiMessageTest, OutputIsDefaultAtMinusOneOnly) {
 TEST(MirelMidiMessageTest, QuestionsAboutTheEventAreAnsweredByIt) {
     using Outer = bool (MirelMidiMessage::*)() const;
     using Inner = bool (MidiMessage::*)() const;
+
     struct Row {
         Outer outer;
         Inner inner;
     };
+
     const Row rows[] = {
         {&MirelMidiMessage::hasParameters, &MidiMessage::hasParameters},
         {&MirelMidiMessage::isNote, &MidiMessage::isNote},
@@ -121,6 +124,7 @@ TEST(MirelMidiMessageTest, QuestionsAboutTheEventAreAnsweredByIt) {
         {&MirelMidiMessage::isUnofficialBusSelect, &MidiMessage::isUnofficialBusSelect},
         {&MirelMidiMessage::isTimingTick, &MidiMessage::isTimingTick},
     };
+
     for (std::uint32_t status = 0x80; status <= 0xFF; ++status) {
         const MidiMessage event(static_cast<MidiMessage::MessageType>(status), 60, 100, 0);
         MirelMidiMessage message;
@@ -203,9 +207,11 @@ TEST(MirelMidiMessageTest, FactoriesMakeWhatSilences) {
     EXPECT_FALSE(sound.isDefaultChannel());
     EXPECT_EQ(MirelMidiMessage::createAllControllersOffCC(2, 99).getMidiMessage(),
               MidiMessage(MidiMessage::ControllerChange, 121, 0, 15));
+
     const auto defaulted = MirelMidiMessage::createAllSoundOffCC(2, -1);
     EXPECT_TRUE(defaulted.isDefaultChannel());
     EXPECT_EQ(defaulted.getChannel(), 0);
+
     const auto reset = MirelMidiMessage::createSystemReset(3);
     EXPECT_EQ(reset.getStatus(), 255u);
     EXPECT_EQ(reset.getOutput(), 3);

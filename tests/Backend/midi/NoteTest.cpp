@@ -65,12 +65,14 @@ TEST(NoteRangeTest, FoldsByWholeOctaves) {
     EXPECT_EQ(foldIntoNoteRange(139), 127);
     EXPECT_EQ(foldIntoNoteRange(140), 116);
     EXPECT_EQ(foldIntoNoteRange(132), 120);
+
     for (const std::int32_t far : {INT32_MIN, INT32_MIN + 7, INT32_MAX, INT32_MAX - 7}) {
         const std::int32_t folded = foldIntoNoteRange(far);
         EXPECT_GE(folded, 0);
         EXPECT_LE(folded, 127);
         EXPECT_EQ((std::int64_t{far} - folded) % 12, 0);
     }
+
     for (std::int32_t note = 0; note < 128; ++note)
         EXPECT_EQ(foldIntoNoteRange(note), note);
 }

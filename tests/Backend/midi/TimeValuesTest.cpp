@@ -15,6 +15,7 @@ TEST(FractionTest, TextGivesAFractionInRange) {
         const char* text;
         const char* fraction;
     };
+
     const Row rows[] = {
         {"1_1", "1/1"},   {"1/1", "1/1"},
         {"1\\1", "1/1"},  {"3", "3/1"},
@@ -25,6 +26,7 @@ TEST(FractionTest, TextGivesAFractionInRange) {
         {" 5/ 6", "5/6"}, {"99999999999/2", "99/2"},
         {"/", "1/1"},
     };
+
     for (const Row& row : rows)
         EXPECT_EQ(Fraction(std::string_view(row.text)).toString(), row.fraction) << row.text;
 }

@@ -34,6 +34,7 @@ TEST(FrameLayout, KnowsWhatIsUnderTheMouse) {
         EXPECT_EQ(layout.partAt(rect.left, rect.top), layout.partAt(rect.right - 1, rect.bottom - 1));
         return layout.partAt(rect.left, rect.top);
     };
+
     EXPECT_EQ(partIn(layout.desk()), FramePart::DESK);
     EXPECT_EQ(partIn(layout.icon()), FramePart::ICON);
     EXPECT_EQ(partIn(layout.title()), FramePart::CAPTION);
@@ -125,15 +126,18 @@ TEST(MetalFrame, LightsTheButtonUnderTheMouse) {
     FrameLook look;
     look.hovered = FramePart::CLOSE;
     const Picture lit = renderMetalFrame(layout, look);
+
     for (int y = 0; y < lit.height; ++y)
         for (int x = 0; x < lit.width; ++x)
             if (layout.partAt(x, y) != FramePart::CLOSE) {
                 ASSERT_EQ(lit.at(x, y), dark.at(x, y));
             }
+
     const int x = layout.close().left + 7;
     const int y = layout.close().top + 4;
     EXPECT_GT(lit.at(x, y) >> 16, (lit.at(x, y) & 0xff) + 40);  // Red.
-    look.pressed = FramePart::MINIMISE;                         // Another button holds the mouse.
+
+    look.pressed = FramePart::MINIMISE;  // Another button holds the mouse.
     EXPECT_EQ(renderMetalFrame(layout, look).pixels, dark.pixels);
 }
 

@@ -36,12 +36,15 @@ TEST(PosixFilesTest, FullDiskLeavesTheOldFileAndNothingElse) {
     const TemporaryFolder folder;
     const std::string path = folder.file("a.prg");
     ASSERT_TRUE(Files::replace(path, "old"));
+
     {
         const FileSizeLimit limit(1000);
         EXPECT_FALSE(Files::replace(path, std::string(100000, 'x')));
         EXPECT_FALSE(Files::replace(folder.file("new.prg"), std::string(100000, 'x')));
     }
+
     EXPECT_EQ(Files::read(path), "old");
+
     std::size_t entries = 0;
     for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(folder.path()))
         ++entries;

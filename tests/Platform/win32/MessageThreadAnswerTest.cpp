@@ -14,6 +14,7 @@ constexpr UINT END = WM_APP + 2;
 TEST(MessageThreadAnswerTest, WindowsAnswerWhileAPostWaitsForRoom) {
     const HWND window = CreateWindowExA(0, "STATIC", "", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
     ASSERT_NE(window, nullptr);
+
     MessageThread thread;
     const HANDLE isFull = CreateEventA(nullptr, TRUE, FALSE, nullptr);
     int asked = 0;
@@ -36,8 +37,10 @@ TEST(MessageThreadAnswerTest, WindowsAnswerWhileAPostWaitsForRoom) {
     SetEvent(isFull);
     thread.postUntilAccepted(FILL, 0, 0);
     thread.stop(END);
+
     EXPECT_EQ(asked, 1);
     EXPECT_EQ(filled, posted + 1);
+
     CloseHandle(isFull);
     DestroyWindow(window);
 }

@@ -19,8 +19,10 @@ GetDescription findGetDescription() {
 TEST(WindowsThreadNameTest, ThreadHasItsNameFromTheBeginning) {
     const GetDescription getDescription = findGetDescription();
     ASSERT_NE(getDescription, nullptr);
+
     std::wstring seen;
     MessageThread thread;
+
     thread.start("mirel backend", [&] {
         PWSTR text = nullptr;
         if (SUCCEEDED(getDescription(GetCurrentThread(), &text))) {

@@ -321,6 +321,7 @@ TEST(XmlReaderTest, SeveralThreadsReadAtOnce) {
                 leaveXmlThread();
         });
     }
+
     for (std::thread& thread : threads)
         thread.join();
     EXPECT_EQ(good.load(), 200);

@@ -56,10 +56,12 @@ TEST(ElementCollectionTest, VectorIteratorGivesNullPastTheEnd) {
     EXPECT_TRUE(iterator.hasNext());
     EXPECT_EQ(iterator.next(), &numbers[0]);
     EXPECT_EQ(iterator.next(), &numbers[1]);
+
     for (int i = 0; i < 3; ++i) {
         EXPECT_FALSE(iterator.hasNext());
         EXPECT_EQ(iterator.next(), nullptr);
     }
+
     std::vector<int> none;
     VectorIterator<int> ofNone(none);
     EXPECT_FALSE(ofNone.hasNext());
@@ -96,6 +98,7 @@ TEST(ElementCollectionTest, HashMapIteratorVisitsEachElementOnceAndThenGivesNull
     HashMapIterator<char, int> iterator(map);
     ConstHashMapIterator<char, int> constIterator(map);
     static_assert(std::is_same_v<decltype(constIterator.next()), const int*>);
+
     std::set<int> seen;
     while (iterator.hasNext()) {
         const int* element = iterator.next();
@@ -104,7 +107,9 @@ TEST(ElementCollectionTest, HashMapIteratorVisitsEachElementOnceAndThenGivesNull
         EXPECT_TRUE(constIterator.hasNext());
         EXPECT_EQ(constIterator.next(), element);
     }
+
     EXPECT_EQ(seen.size(), 100u);
+
     for (int i = 0; i < 3; ++i) {
         EXPECT_EQ(iterator.next(), nullptr);
         EXPECT_FALSE(constIterator.hasNext());

@@ -49,6 +49,7 @@ TEST(BankFileTest, AProgramFileIsTheHeaderAndOneBlockInItsRoot) {
 TEST(BankFileTest, EveryProgramOf128CanBeReplacedWithAllOtherBytesKept) {
     const std::string lines = bankOf(numbers(128));
     const std::string withoutLastEnd = lines.substr(0, lines.size() - 1);
+
     for (const std::string& bank : {lines, withReturns(lines), withoutLastEnd, withReturns(withoutLastEnd)}) {
         const bool hasReturns = bank.find('\r') != std::string::npos;
         for (int i = 0; i < 128; ++i) {

@@ -196,6 +196,7 @@ TEST_F(PresetsTest, AWholePresetBringsBackWhatWasSaved) {
     const std::string oldLayers = layers();
     const std::string oldControls = controls();
     const std::string oldKeys = keys();
+
     m_desk.run([](Mirel& mirel) {
         mirel.getLayers().savePreset(NAME_BEYOND_ASCII, {});
         mirel.getControls().savePreset(NAME_BEYOND_ASCII, {});
@@ -209,6 +210,7 @@ TEST_F(PresetsTest, AWholePresetBringsBackWhatWasSaved) {
     EXPECT_NE(layers(), oldLayers);
     EXPECT_NE(controls(), oldControls);
     EXPECT_NE(keys(), oldKeys);
+
     m_desk.run([](Mirel& mirel) {
         mirel.getLayers().loadPreset(NAME_BEYOND_ASCII);
         mirel.getControls().loadPreset(NAME_BEYOND_ASCII);
@@ -218,6 +220,7 @@ TEST_F(PresetsTest, AWholePresetBringsBackWhatWasSaved) {
     EXPECT_EQ(layers(), oldLayers);
     EXPECT_EQ(controls(), oldControls);
     EXPECT_EQ(keys(), oldKeys);
+
     const std::string header = "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n\n";
     EXPECT_EQ(Files::read(m_desk.dataFile("Layer Presets", NAME_BEYOND_ASCII + ".pst")),
               Files::withSystemLineEnds(header + oldLayers));
@@ -276,6 +279,7 @@ TEST_F(PresetsTest, APresetOfSomeKeysClearsThoseThatHadNoEntry) {
                                         "\t<Key id=\"Shift W\" global=\"true\">\n"
                                         "\t</Key>\n"
                                         "</ComputerInput>\n"));
+
     m_desk.run([](Mirel& mirel) {
         mirel.loadProgramFromXml(
             "<X><Program><ComputerInput><Key id='Shift W'><Function><Down><ResetMirel/></Down>"
@@ -295,6 +299,7 @@ TEST_F(PresetsTest, AMissingPresetChangesNothingNotEvenTheLastName) {
     const std::string oldLayers = layers();
     const std::string oldControls = controls();
     const std::string oldKeys = keys();
+
     m_desk.run([this](Mirel& mirel) {
         mirel.getComputerInput().savePreset("a", {});
         mirel.getComputerInput().loadPreset("a");

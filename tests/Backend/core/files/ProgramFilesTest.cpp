@@ -145,13 +145,16 @@ TEST_F(ProgramFilesTest, AProgramThatWouldMakeItsBankUnreadableIsNotSaved) {
 TEST_F(ProgramFilesTest, ABankInAnotherEncodingKeepsItsNames) {
     using namespace std::string_literals;
     const std::string utf8 = "Zo\xC3\xAB";
+
     const auto bankIn = [](const std::string& encoding, const std::string& name) {
         return "<?xml version=\"1.0\" encoding=\"" + encoding + "\"?>\n<Bank>\n<Program name=\"" + name +
                "\">\n</Program>\n<Program name=\"B\">\n</Program>\n</Bank>\n";
     };
+
     std::string utf16 = "\xFF\xFE";
     for (const char character : bankIn("utf-16", "Zo\xEB"))
         utf16 += std::string{character, '\0'};
+
     for (const std::string& bank : {bankIn("iso-8859-1", "Zo\xEB"), bankIn("windows-1252", "Zo\xEB"), utf16,
                                     "\xEF\xBB\xBF" + bankIn("utf-8", utf8)}) {
         load(writeBank(bank));
@@ -166,8 +169,10 @@ TEST_F(ProgramFilesTest, ABankInAnotherEncodingKeepsItsNames) {
         resize(1);
         EXPECT_EQ(m_desk.bankNames(), std::vector<std::string>{utf8});
     }
+
     load(writeBank(bankIn("us-ascii", "Zoe")));
     rename(utf8);
+
     save(0);
     EXPECT_EQ(m_desk.bankNames(), (std::vector<std::string>{utf8, "B"}));
 }
@@ -190,6 +195,7 @@ TEST_F(ProgramFilesTest, FilesThatCanNotBeUsedAreTraced) {
     m_desk.run([this](Mirel& mirel) { mirel.saveToProgram(m_desk.file("no folder/a.prg"), nullptr); });
     Trace::channel().setEnabled(false);
     std::string all;
+
     for (const std::string& text : captured.texts())
         all += text;
     EXPECT_NE(all.find("missing.bnk: can't be read\n"), std::string::npos) << all;
@@ -215,6 +221,7 @@ TEST_F(ProgramFilesTest, WhatAProgramLacksIsResetAloneAndUnknownElementsAreSkipp
     std::string expected = named("n");
     const std::string controls = "\t<Controls merge=\"false\">\n";
     const std::size_t from = BLOCK.find("\t\t<Control ");
+
     expected.insert(expected.find(controls) + controls.size(), BLOCK.substr(from, BLOCK.find("\t</Controls>") - from));
     EXPECT_EQ(m_desk.programXml(), HEADER + "<MirelProgramFile>\n" + expected + "</MirelProgramFile>\n");
     EXPECT_EQ(index(), 4);
@@ -388,6 +395,7 @@ TEST_F(ProgramFilesTest, AnyNameOfAProgramComesBack) {
     const std::string path = writeBank(text);
     load(path);
     select(1);
+
     for (const std::string& name : STRANGE_NAMES) {
         rename(name);
         save(1);
@@ -397,6 +405,7 @@ TEST_F(ProgramFilesTest, AnyNameOfAProgramComesBack) {
         EXPECT_EQ(m_desk.bankNames(), (std::vector<std::string>{"P0", name, "P2", "Empty"}));
         resize(3);
     }
+
     rename("P1");
     save(1);
     EXPECT_EQ(m_desk.read("a.bnk"),
@@ -417,6 +426,7 @@ TEST_F(ProgramFilesTest, WhatNoXmlCanHoldInANameDoesNotHarmTheBank) {
 TEST_F(ProgramFilesTest, AnyNameOfAControlComesBackAndNoneBreaksTheBank) {
     load(writeBank(bankOf(3)));
     select(1);
+
     for (const std::string& name : STRANGE_NAMES) {
         m_desk.run([&name](Mirel& mirel) {
             Controls::Control control;
@@ -505,6 +515,7 @@ TEST_F(ProgramFilesTest, AnyOtherFileInPlaceOfABankOrProgramChangesNothingButThe
     for (int i = 0; i < 100000; ++i)
         bytes += static_cast<char>(i * 7919 >> 3);
     const std::string whole = HEADER + "<Bank>\n" + named("n") + "</Bank>\n";
+
     const std::vector<std::string> texts = {
         "",
         " ",
@@ -519,6 +530,7 @@ TEST_F(ProgramFilesTest, AnyOtherFileInPlaceOfABankOrProgramChangesNothingButThe
         HEADER + "<Controls merge=\"false\"/>",
         HEADER + "<Bank><program name=\"small\"/></Bank>",
     };
+
     for (const std::string& text : texts) {
         m_desk.run([](Mirel& mirel) { mirel.loadProgramFromXml("<X>" + BLOCK + "</X>", 0); });
         std::string expected = BLOCK;
@@ -531,6 +543,7 @@ TEST_F(ProgramFilesTest, AnyOtherFileInPlaceOfABankOrProgramChangesNothingButThe
         EXPECT_TRUE(m_desk.bankNames().empty());
         EXPECT_EQ(m_desk.programXml(), expected);
     }
+
     load(m_desk.file("data"));
     EXPECT_TRUE(m_desk.bankNames().empty());
 }

@@ -140,6 +140,7 @@ TEST(EventLineTest, EachStatusHasItsForm) {
         {0xfe, 1, 2, 7, "\t\tActive Sensing\r\n"},
         {0xff, 1, 2, 7, "\t\tSystem Reset\r\n"},
     };
+
     for (const Line& line : lines)
         EXPECT_EQ(describeEvent(MirelMidiMessage(static_cast<MidiMessage::MessageType>(line.status),
                                                  static_cast<char>(line.d1), static_cast<char>(line.d2),
@@ -219,6 +220,7 @@ TEST_F(DisplayMessageManagerTest, NumbersAreSpentOnlyWhileTheyAreShown) {
     m_display.postSetDisplayNumbers(true);
     m_display.postAddText("text\r\n");
     m_display.postAddOutputEvent(tick(9, 0));
+
     EXPECT_EQ(log(),
               "0  > In 0\t\tTiming Tick\r\n"
               "1  Out 0\t\tTiming Tick\r\n"
@@ -246,18 +248,23 @@ TEST_F(DisplayMessageManagerTest, TextOfAHiddenLogComesWithTheFirstFlush) {
     m_display.postAddText("one ");
     m_display.postAddText("two");
     m_display.waitUntilIdle();
+
     EXPECT_EQ(shown.calls, Strings{"set Mirel Console 3.2\r\n"});
+
     m_display.postFlush();
     m_display.postFlush();
     m_display.postSetListener(nullptr);
     m_display.postAddText("three");
     m_display.postFlush();
     m_display.waitUntilIdle();
+
     EXPECT_EQ(shown.calls, (Strings{"set Mirel Console 3.2\r\n", "append one two"}));
+
     m_display.postSetListener(&shown);
     m_display.postFlush();
     m_display.postSetListener(nullptr);
     m_display.waitUntilIdle();
+
     EXPECT_EQ(shown.calls.at(2), "append three");
 }
 
@@ -271,6 +278,7 @@ TEST_F(DisplayMessageManagerTest, RequestsHaveTheirNumbers) {
         message.lParam = l;
         m_display.handleMessage(message);
     };
+
     request(32875, 0, reinterpret_cast<LPARAM>(static_cast<DisplayListener*>(&shown)));
     request(32870, 0, releaseCopy<LPARAM>(std::string("text ")));
     request(32872, 0, 0);
@@ -292,6 +300,7 @@ TEST_F(DisplayMessageManagerTest, RequestsHaveTheirNumbers) {
         request(nothing, ~WPARAM{0}, -1);
     request(32871, 0, 0);
     const std::string first = "0  > In\t\tTiming Tick\r\n1  Out\t\tTiming Tick\r\n";
+
     EXPECT_EQ(shown.calls,
               (Strings{"append text ", "append " + first, "set text " + first + "Out\t\tTiming Tick\r\n"}));
 }

@@ -17,6 +17,7 @@ struct Case {
 TEST(MessageFormTest, OnlyUntimedEventsWithoutAControlGoWithoutTheHeap) {
     constexpr int LOWEST = std::numeric_limits<int>::min();
     constexpr int HIGHEST = std::numeric_limits<int>::max();
+
     const Case cases[] = {
         {0, 0, -1, MessageForm::ALLOC},       {15, 15, -1, MessageForm::ALLOC},
         {0, 0, 1000, MessageForm::ALLOC},     {16, 15, -1, MessageForm::PARAM},
@@ -27,6 +28,7 @@ TEST(MessageFormTest, OnlyUntimedEventsWithoutAControlGoWithoutTheHeap) {
         {-1, -1, 0, MessageForm::ALLOC},      {-1, -1, 1000, MessageForm::ALLOC},
         {20, 0, 0, MessageForm::ALLOC},       {-1, -1, HIGHEST, MessageForm::ALLOC},
     };
+
     for (const Case& one : cases) {
         EXPECT_EQ(chooseMessageForm(one.row, one.column, one.ppq), one.form)
             << one.row << "," << one.column << " " << one.ppq;

@@ -56,6 +56,7 @@ TEST(MessageManagerMasterTest, FirstManagerThatWantsAMessageIsTheOnlyOneToGetIt)
     for (unsigned int message = 33218; message <= 33221; ++message)
         master.postMessage(message, 0, 0);
     master.stop();
+
     EXPECT_EQ(first.m_handled, (Numbers{33218, 33219, 33220}));
     EXPECT_EQ(second.m_handled, (Numbers{33221}));
     EXPECT_TRUE(first.m_onWorker);
@@ -105,10 +106,12 @@ TEST(MessageManagerMasterTest, MessageArrivesWithBothWords) {
     master.start();
     master.postMessage(FIRST, ~WPARAM{0}, -2);
     master.waitUntilIdle();
+
     EXPECT_TRUE(master.isIdle());
     EXPECT_EQ(received.message, FIRST);
     EXPECT_EQ(received.wParam, ~WPARAM{0});
     EXPECT_EQ(received.lParam, -2);
+
     master.stop();
 }
 
@@ -117,11 +120,13 @@ TEST(MessageManagerMasterTest, PostBeforeStartWaitsForTheWorker) {
     RecordingManager manager(master, FIRST, LAST);
     master.addMessageManager(&manager);
     std::atomic<bool> posted{false};
+
     std::thread poster([&] {
         master.postMessage(FIRST, 0, 0);
         posted.store(true);
     });
     EXPECT_FALSE(posted.load());
+
     master.start();
     poster.join();
     master.stop();
@@ -144,6 +149,7 @@ TEST(MessageManagerMasterTest, PostToAFullQueueWaitsUntilThereIsRoom) {
         for (std::size_t i = 0; i < POSTS; ++i)
             master.postMessage(LAST, 0, 0);
     });
+
     go.set();
     poster.join();
     master.stop();
@@ -160,11 +166,13 @@ TEST(MessageManagerMasterTest, SendWaitsForTheHandler) {
     };
     master.addMessageManager(&manager);
     master.start();
+
     for (WPARAM i = 1; i <= 500; ++i) {
         master.postMessage(FIRST, i, 0);
         master.getWaitEvent().wait();
         ASSERT_EQ(result, static_cast<int>(i) * 2);
     }
+
     master.stop();
 }
 
@@ -173,13 +181,16 @@ TEST(MessageManagerMasterTest, OnlyTheWorkerIsTheManagerThread) {
     RecordingManager manager(master, FIRST, LAST);
     EXPECT_FALSE(master.currentThreadIsManagerThread()) << "before start";
     EXPECT_FALSE(manager.currentThreadIsManagerThread());
+
     bool onWorker = false;
     manager.m_action = [&](const MSG&) {
         onWorker = master.currentThreadIsManagerThread() && manager.currentThreadIsManagerThread();
     };
     master.addMessageManager(&manager);
     master.start();
+
     EXPECT_FALSE(master.currentThreadIsManagerThread());
+
     master.postMessage(FIRST, 0, 0);
     master.stop();
     EXPECT_TRUE(onWorker);
@@ -216,6 +227,7 @@ TEST(MessageManagerMasterTest, MessagesBehindTheQuitMessageAreDisposedOfByTheirM
     master.postMessage(QUIT_BACKEND_WORKER, 0, 0);
     for (const unsigned int message : {33219u, 33220u, 33221u})
         master.postMessage(message, 0, 0);
+
     go.set();
     master.stop();
     EXPECT_EQ(first.m_handled, (Numbers{33218}));
@@ -287,6 +299,7 @@ TEST(MessageManagerMasterTest, ManyPostersKeepTheirOrders) {
     };
     master.addMessageManager(&manager);
     master.start();
+
     std::vector<std::thread> posters;
     for (std::size_t poster = 0; poster < POSTERS; ++poster) {
         posters.emplace_back([&, poster] {
@@ -294,11 +307,13 @@ TEST(MessageManagerMasterTest, ManyPostersKeepTheirOrders) {
                 master.postMessage(FIRST, poster, i);
         });
     }
+
     for (std::thread& poster : posters)
         poster.join();
     master.waitUntilIdle();
     EXPECT_TRUE(inOrder);
     EXPECT_EQ(next, std::vector<LPARAM>(POSTERS, POSTS));
+
     master.stop();
 }
 

@@ -82,8 +82,10 @@ TEST(MessageTest, WhatWasPostedIsOpenedOnce) {
     const std::string text = "a text that is too long for a string to hold it inside";
     const Numbers numbers(50, 3);
     const TestSupport::AllocationCounter heap;
+
     const Posted posted = post(BOTH, text, numbers);
     EXPECT_EQ(heap.count(), 4u);
+
     int calls = 0;
     BOTH.open(posted.w, posted.l, [&](const std::string& first, const Numbers& second) {
         ++calls;

@@ -252,8 +252,10 @@ TEST(RegistrySettingsTest, WhatWasSavedOutlivesTheStoreThatTookIt) {
         settings.setMidiInputEnabled(1, true);
         settings.saveToRegistry(KEY);
     }
+
     const auto store = Platform::createFileSettingsStore(folder.file("settings"));
     RegistrySettings settings(*store);
+
     settings.loadFromRegistry(KEY);
     EXPECT_EQ(settings.getDefaultBank(), "a.bnk");
     EXPECT_EQ(settings.getLiteVelocity(), 5);
@@ -301,6 +303,7 @@ TEST(RegistrySettingsTest, NonsenseInTheStoreLeavesTheDefaults) {
                        {"AlwaysOnTop", "number 4000000000"},
                        {"LiteVelocity", "number 4294967295"}};
     RegistrySettings settings(store);
+
     settings.loadFromRegistry(KEY);
     EXPECT_TRUE(settings.getMidiThru());
     EXPECT_EQ(settings.getDisplayHeight(), 200);
@@ -308,6 +311,7 @@ TEST(RegistrySettingsTest, NonsenseInTheStoreLeavesTheDefaults) {
     EXPECT_EQ(settings.getLastWindowPosition(), (Rect{-1, -1, -1, -1}));
     EXPECT_TRUE(settings.getAlwaysOnTop());
     EXPECT_EQ(settings.getLiteVelocity(), -1);
+
     store.keys[KEY]["DefaultBank"] = "text " + std::string(999, 'x');
     settings.loadFromRegistry(KEY);
     EXPECT_EQ(settings.getDefaultBank().size(), 999u);
@@ -328,14 +332,19 @@ TEST(RegistrySettingsTest, EnablingAPortMakesTheListEndThere) {
     MemoryStore store;
     store.keys[KEY]["EnabledMidiInputs"] = "text yNyX";
     RegistrySettings settings(store);
+
     settings.loadFromRegistry(KEY);
     EXPECT_EQ(settings.getEnabledMidiInputs(), (std::vector<bool>{true, false, true, false}));
+
     settings.setMidiInputEnabled(1, true);
     EXPECT_EQ(settings.getEnabledMidiInputs(), (std::vector<bool>{true, true}));
+
     settings.setMidiInputEnabled(-1, true);
     EXPECT_EQ(settings.getEnabledMidiInputs().size(), 2u);
+
     settings.setMidiOutputEnabled(2, true);
     EXPECT_EQ(settings.getEnabledMidiOutputs(), (std::vector<bool>{false, false, true}));
+
     settings.saveToRegistry(KEY);
     EXPECT_EQ(store.keys[KEY]["EnabledMidiInputs"], "text YY");
     EXPECT_EQ(store.keys[KEY]["EnabledMidiOutputs"], "text NNY");

@@ -89,16 +89,20 @@ TEST(TraceTest, LinesGoToTheFileTooWhenAsked) {
     // A place of its own, as the file is everybody's.
     const std::string place = "unique-" + std::to_string(reinterpret_cast<std::uintptr_t>(&trace)) + "-" +
                               std::to_string(Platform::currentThreadId());
+
     trace.trace(place, 1, "f", "IN");
     EXPECT_EQ(content(Platform::debugFilePath()).find(place), std::string::npos) << "not asked yet";
+
     trace.setWriteToFile(true);
     trace.trace(place, 2, "f", "IN");
     trace.trace(place, 3, "f", "OUT");
     const std::string text = content(Platform::debugFilePath());
+
     for (const char* line : {":2 -- f -- IN\n", ":3 -- f -- OUT\n"}) {
         const std::string whole = Platform::Files::withSystemLineEnds("MIREL_TRACE: " + place + line);
         EXPECT_NE(text.find(whole), std::string::npos) << line;
     }
+
     EXPECT_EQ(debug.texts().size(), 3u);
 }
 
@@ -106,6 +110,7 @@ TEST(TraceTest, LinesOfSeveralThreadsStayWhole) {
     const CapturedDebugText debug;
     Trace trace;
     trace.setEnabled(true);
+
     std::vector<std::thread> threads;
     for (int i = 0; i < 4; ++i) {
         threads.emplace_back([&trace] {
@@ -113,6 +118,7 @@ TEST(TraceTest, LinesOfSeveralThreadsStayWhole) {
                 trace.trace("file", 5, "function", "text");
         });
     }
+
     for (std::thread& thread : threads)
         thread.join();
     const Lines lines = debug.texts();

@@ -138,6 +138,7 @@ TEST_F(Version2ImportTest, ZonesAreTheTransposesUpToTheLastThatIsNotZero) {
         const std::size_t from = text.find("\t<Zones ");
         return text.substr(from, text.find("</Program>") - from);
     };
+
     const std::string none = "\t<Zones merge=\"false\">\n\t</Zones>\n";
     EXPECT_EQ(zones("0 a 0 b 0 c 0 d 0 e 0 f 0 g 0 h 0 i 0 j"), none);
     EXPECT_EQ(zones(""), none);
@@ -145,6 +146,7 @@ TEST_F(Version2ImportTest, ZonesAreTheTransposesUpToTheLastThatIsNotZero) {
         zones("1 a -12 b 0 c 3 d 0 e 0 f 0 g 0 h 0 i 0 j"),
         "\t<Zones merge=\"false\">\n\t\t<Zone id=\"0\" transpose=\"1\"/>\n\t\t<Zone id=\"1\" transpose=\"-12\"/>\n"
         "\t\t<Zone id=\"2\" transpose=\"0\"/>\n\t\t<Zone id=\"3\" transpose=\"3\"/>\n\t</Zones>\n");
+
     std::string ten = "\t<Zones merge=\"false\">\n";
     for (int i = 0; i < 10; ++i)
         ten += "\t\t<Zone id=\"" + std::to_string(i) + "\" transpose=\"" + std::to_string(i + 1) + "\"/>\n";
@@ -198,7 +200,9 @@ TEST_F(Version2ImportTest, TheKeysOfASectionStandOnTheDefaultPreset) {
         "\t\t<Key id=\"Q\" global=\"true\">\n\t\t\t<Function keepSending=\"false\">\n"
         "\t\t\t\t<Down>\n\t\t\t\t\t<ResetMirel/>\n\t\t\t\t</Down>\n"
         "\t\t\t</Function>\n\t\t</Key>\n";
+
     EXPECT_EQ(section("K 87 0 51\n", "ComputerInput"), base + own);
+
     // Sections may come again, in any order, and the next program begins anew.
     const std::string both = importBank("P 1 a\nC 0 0 1 x\n\nK 87 0 51\n\nL 0\nK 69 0 51\nP 1 b\nP 1 c\nK 87 0 51\n");
     EXPECT_EQ(both.find("preset="), both.rfind("preset=")) << "of b alone";
@@ -258,17 +262,20 @@ TEST_F(Version2ImportTest, ALayerThatEndsEarlyTakesTheDefaults) {
 TEST_F(Version2ImportTest, ALayersSequenceIsAPresetByItsOldNumber) {
     m_desk.run([](Mirel& mirel) { mirel.addSequencePreset("001 - Oct 1 Up", "0,12"); });
     const std::string layer = "L 0 0 0 1 0 127 0 127 -1 -1 0 - -1 - 1 1 12 6 0 ";
+
     const auto setting = [&](const std::string& fields) {
         const std::string text = section(layer + fields + "\n", "Layers");
         const std::size_t from = text.find("<SequenceSetting");
         return from == std::string::npos ? std::string("none") : text.substr(from, text.find('>', from) + 1 - from);
     };
+
     EXPECT_EQ(setting("0 1"),
               "<SequenceSetting preset=\"001 - Oct 1 Up\" useNote=\"false\" useVelocity=\"true\" useLength=\"true\">");
     EXPECT_EQ(setting("0 2"),
               "<SequenceSetting preset=\"001 - Oct 1 Up\" useNote=\"true\" useVelocity=\"true\" useLength=\"true\">");
     EXPECT_EQ(setting("0"),
               "<SequenceSetting preset=\"001 - Oct 1 Up\" useNote=\"true\" useVelocity=\"false\" useLength=\"true\">");
+
     for (const char* fields : {"-1 1", "45 1", "1000 1", "", "x"})
         EXPECT_EQ(setting(fields), "none") << fields;
 }
@@ -324,8 +331,10 @@ TEST_F(Version2ImportTest, AFileThatIsGoneStillEndsWithTheLoadAndTheMessage) {
     m_desk.run([this](Mirel& mirel) {
         mirel.importVersion2Bank(m_desk.file("missing"), m_desk.file("new.bnk"), m_notified.window());
     });
+
     EXPECT_EQ(m_desk.bankNames(), std::vector<std::string>{"kept"});
     EXPECT_EQ(m_desk.read("new.bnk"), bank);
+
     m_desk.run([this](Mirel& mirel) {
         mirel.importVersion2Program("", m_desk.file("new.prg"), m_notified.window());
         EXPECT_EQ(mirel.getCurrentProgram().getName(), "single");
@@ -357,6 +366,7 @@ TEST_F(Version2ImportTest, AnyOtherFileMakesABankThatCanBeRead) {
     std::string bytes;
     for (int i = 0; i < 100000; ++i)
         bytes += static_cast<char>(i * 7919 >> 3);
+
     for (const std::string& text :
          {bytes, "P" + bytes, "P 1 a\nL" + bytes + "\nK" + bytes + "\nC" + bytes, std::string("P\0K\0L", 5),
           std::string("<?xml version=\"1.0\"?>\n<Bank/>\n"), std::string("P 1 a\nL ") + std::string(100000, '9'),

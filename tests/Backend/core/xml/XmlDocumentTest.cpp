@@ -38,13 +38,16 @@ TEST(XmlDocumentTest, MissingOrMalformedDocumentHasNoRoot) {
     const TestSupport::TemporaryFolder folder;
     const std::string empty = folder.file("empty.prg");
     const std::string broken = folder.file("broken.prg");
+
     ASSERT_TRUE(Platform::Files::replace(empty, ""));
     ASSERT_TRUE(Platform::Files::replace(broken, "<Program a=\"1\">"));
+
     for (const std::string& path : {empty, broken, folder.file("missing.prg"), folder.path(), std::string()}) {
         const XmlDocument document(path, true);
         EXPECT_FALSE(document.hasRoot()) << path;
         expectNothing(document.getRootElement());
     }
+
     for (const char* text : {"", "<Program", "<a/><b/>", "<!DOCTYPE a><a/>"}) {
         const XmlDocument document(text, false);
         EXPECT_FALSE(document.hasRoot()) << text;
@@ -77,11 +80,13 @@ TEST(XmlDocumentTest, BoolAttributeKnowsEightSpellings) {
         EXPECT_TRUE(element.getBoolAttribute("merge", false)) << text;
         EXPECT_TRUE(element.getBoolAttribute("merge", true)) << text;
     }
+
     for (const char* text : {"false", "FALSE", "no", "NO"}) {
         const XmlElement element = rootOf(std::string("<a merge=\"") + text + "\"/>");
         EXPECT_FALSE(element.getBoolAttribute("merge", false)) << text;
         EXPECT_FALSE(element.getBoolAttribute("merge", true)) << text;
     }
+
     for (const char* text : {"True", "False", "Yes", "nO", "1", "0", "", " true", "true ", "truex"}) {
         const XmlElement element = rootOf(std::string("<a merge=\"") + text + "\"/>");
         EXPECT_FALSE(element.getBoolAttribute("merge", false)) << text;
@@ -111,6 +116,7 @@ TEST(XmlDocumentTest, IntAttributeReadsTheNumberAtItsStart) {
         {"- 1", 42},
         {"99999999999", 42},
     };
+
     for (const auto& one : cases)
         EXPECT_EQ(rootOf(std::string("<a b=\"") + one.text + "\"/>").getIntAttribute("b", 42), one.value) << one.text;
 }

@@ -71,17 +71,20 @@ TEST(RelativeFixedValueTest, SignOrNothingMakesItRelative) {
         int value;
         const char* written;
     };
+
     const Row rows[] = {
         {"", true, 0, ""},       {"  ", true, 0, ""},    {"0", false, 0, "0"},   {"+0", true, 0, ""},
         {"-0", true, 0, ""},     {"+5", true, 5, "+5"},  {"-3", true, -3, "-3"}, {"5", false, 5, "5"},
         {" +5 ", true, 5, "+5"}, {"abc", false, 0, "0"}, {"+x", true, 0, ""},    {"12x", false, 12, "12"},
     };
+
     for (const Row& row : rows) {
         const RelativeFixedValue value{std::string_view(row.text)};
         EXPECT_EQ(value.isRelative(), row.relative) << row.text;
         EXPECT_EQ(value.getValue(), row.value) << row.text;
         EXPECT_EQ(value.toXmlString(), row.written) << row.text;
     }
+
     EXPECT_EQ(RelativeFixedValue(false, -4).toXmlString(), "-4");
 }
 

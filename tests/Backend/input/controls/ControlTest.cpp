@@ -99,15 +99,19 @@ TEST(ControlTest, EventsAreReplacedOrAppended) {
     Control control;
     control.setEvent(1, MidiMessage(MidiMessage::PitchBend));
     control.setEvent(-1, MidiMessage(MidiMessage::PitchBend));
+
     EXPECT_EQ(control.events.size(), 0u);
+
     control.setEvent(0, MidiMessage(MidiMessage::PitchBend));
     ASSERT_EQ(control.events.size(), 1u);
     EXPECT_EQ(control.events[0].output, -1);
     EXPECT_EQ(control.events[0].channel, -1);
     EXPECT_EQ(control.events[0].zone, -1);
+
     control.events[0].output = 3;
     control.setEvent(0, MidiMessage(MidiMessage::ControllerChange, 9));
     control.setEvent(1, MidiMessage());
+
     EXPECT_EQ(control.events[0].output, 3);
     EXPECT_EQ(control.events[0].midiMessage.getD1(), 9);
     EXPECT_TRUE(control.isEventValid(0));
@@ -201,8 +205,10 @@ TEST(ControlManagerTest, TheBuiltInControlsAreThoseOfTheTable) {
     TestSupport::RunningDesk desk;
     desk.start();
     ControlMap controls = desk.mirel().getControls().getControlMap();
+
     const auto rows = TestSupport::readTable("default-controls.txt");
     EXPECT_EQ(controls.size(), rows.size());
+
     for (const auto& row : rows) {
         ASSERT_EQ(row.size(), 9u);
         const Control* control = controls.find(Cell(row[0]));

@@ -73,6 +73,7 @@ TEST_F(MidiEngineMessageManagerTest, RequestsForTheHostReachIt) {
     manager().postSetTempoSource(-1);
     manager().postSetTempoSource(3);
     manager().waitUntilIdle();
+
     EXPECT_EQ(host.calls, (std::vector<std::string>{"input 1 on", "input 0 off", "output 2 on", "output 3 off",
                                                     "tempo 19", "tempo 251"}));
     EXPECT_EQ(host.tempoSource, 3);
@@ -129,16 +130,19 @@ TEST_F(MidiEngineMessageManagerTest, TheReservedNumberIsAResetAndNothingElse) {
 
 TEST_F(MidiEngineMessageManagerTest, OnlyItsThreadIsTheManagersThread) {
     EXPECT_FALSE(manager().currentThreadIsManagerThread());
+
     struct AskingHost : TestSupport::FakeHost {
         void setTempo(int) override { answer = asked->currentThreadIsManagerThread(); }
         MidiEngineMessageManager* asked = nullptr;
         std::optional<bool> answer;
     } otherHost;
+
     const auto other = std::make_unique<MidiEngine>(otherHost.mirel(), otherHost);
     otherHost.asked = &other->getMessageManager();
     other->initialize(0, false);
     other->getMessageManager().postSetTempo(100);
     other->end();
+
     EXPECT_EQ(otherHost.answer, true);
     EXPECT_FALSE(other->getMessageManager().currentThreadIsManagerThread());
 }

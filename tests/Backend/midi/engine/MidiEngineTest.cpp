@@ -144,6 +144,7 @@ TEST_F(MidiEngineTest, ResetsRunOnTheInternalClockAndRestoreTheSource) {
         EXPECT_EQ(host.internalClockRequests, 1);
         engine->sendHardReset();
     }
+
     EXPECT_EQ(host.tempoSource, 2);
     EXPECT_EQ(host.internalClockRequests, 2);
     EXPECT_EQ(host.tempoSourceChanges, 4);
@@ -220,6 +221,7 @@ TEST_F(MidiEngineTest, EventsOfManyThreadsAllArriveInTheOrderOfEach) {
     int next[THREADS] = {};
     for (const MirelMidiMessage& message : host.played)
         EXPECT_EQ(message.getD1() * 128 + message.getD2(), next[static_cast<int>(message.getChannel())]++);
+
     EXPECT_EQ(host.played.size(), std::size_t{THREADS} * EVENTS);
 }
 
@@ -243,13 +245,16 @@ TEST_F(MidiEngineTest, OnlyALayerWithoutAChannelPlaysOnTheDefaultChannel) {
     engine->playTimeSlice(0, 1);
     engine->playTimeSlice(1, 2);
     const bool expected[] = {true, false, false, false, true};
+
     ASSERT_EQ(host.played.size(), std::size(expected));
     ASSERT_EQ(window.shown.size(), std::size(expected));
+
     for (std::size_t i = 0; i < std::size(expected); ++i) {
         EXPECT_EQ(host.played[i].isDefaultChannel(), expected[i]) << i;
         EXPECT_EQ(host.played[i].getChannel(), 0) << i;
         EXPECT_EQ(window.shown[i].isDefaultChannel(), expected[i]) << i;
     }
+
     host.setWindow(nullptr);
 }
 
@@ -316,6 +321,7 @@ TEST_F(MidiEngineTest, ASliceInSteadyStateTakesNothingFromTheHeap) {
     setLayers(TestSupport::repeatLayer(layer, 2));
     host.played.reserve(1 << 20);
     std::int32_t ppq = 1000;
+
     const auto playSome = [&] {
         CriticalSectionLock lock(engine->getCriticalSection());
         for (int round = 0; round < 50; ++round) {
@@ -327,6 +333,7 @@ TEST_F(MidiEngineTest, ASliceInSteadyStateTakesNothingFromTheHeap) {
             ppq += 15;
         }
     };
+
     playSome();
     std::size_t taken = 0;
     {
@@ -334,6 +341,7 @@ TEST_F(MidiEngineTest, ASliceInSteadyStateTakesNothingFromTheHeap) {
         playSome();
         taken = counter.count();
     }
+
     EXPECT_EQ(taken, 0u);
     EXPECT_GT(host.played.size(), 1000u);
 }

@@ -153,6 +153,7 @@ TEST(LayerTest, DescribingTextHasAPartForEachThingThatIsSet) {
         const char* layer;
         const char* text;
     };
+
     const Row rows[] = {
         {"<Layer/>", "L:1  Ch:1"},
         {"<Layer channel='15'/>", "L:1  Ch:16"},
@@ -178,6 +179,7 @@ TEST(LayerTest, DescribingTextHasAPartForEachThingThatIsSet) {
          "L:1  Ch:2  Z:3  VR:3-4  O:Synth  T:-6  K:C#  V:+7  Comp:8/9  TOGGLE1  MONO  STACK OFF  Chord Arp 500 "
          "Len:1/4"},
     };
+
     for (const Row& row : rows)
         EXPECT_EQ(readLayer(row.layer).describe("Synth"), row.text) << row.layer;
 }
@@ -194,6 +196,7 @@ TEST(LayerTest, TenThousandLayersAreReadAndPlayed) {
 TEST(ArpeggioFactoryTest, NamesGiveTheirKinds) {
     const char* const names[][2] = {
         {"ChordArpeggio", "Chord"}, {"UpArpeggio", "Up"}, {"DownArpeggio", "Down"}, {"UpDownArpeggio", "Up + Down"}};
+
     for (int type = 0; type < 4; ++type) {
         const auto byName = ArpeggioManagement::createArpeggio(names[type][0]);
         ASSERT_NE(byName, nullptr);
@@ -209,10 +212,13 @@ TEST(ArpeggioFactoryTest, NamesGiveTheirKinds) {
         EXPECT_EQ(old->getBeat().getPpq(), 240);
         EXPECT_EQ(old->getLength().getPpq(), 120);
     }
+
     for (const char* unknown : {"", "Up", "upArpeggio", "Arpeggio"})
         EXPECT_EQ(ArpeggioManagement::createArpeggio(unknown), nullptr);
+
     for (const int beat : {0, -1})
         EXPECT_EQ(ArpeggioManagement::createArpeggio(beat, 6, 0), nullptr);
+
     for (const int type : {-1, 4})
         EXPECT_EQ(ArpeggioManagement::createArpeggio(12, 6, type), nullptr);
 }

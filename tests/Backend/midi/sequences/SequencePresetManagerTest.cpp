@@ -142,12 +142,14 @@ TEST_F(SequencePresetManagerTest, ASettingOfAPresetHasItsSequence) {
     EXPECT_EQ(setting.getPreset(), "a");
     EXPECT_EQ(setting.getSequence().toString(), "0,12");
     EXPECT_TRUE(setting.getUseNote() && setting.getUseVelocity() && setting.getUseLength());
+
     for (const char* none : {"", "  ", "Off", " Off "}) {
         const SequenceSetting empty(none, m_presets);
         EXPECT_EQ(empty.getPreset(), "") << none;
         EXPECT_FALSE(empty.getSequence().hasNodes()) << none;
         EXPECT_TRUE(empty.getUseNote() && empty.getUseVelocity() && empty.getUseLength()) << none;
     }
+
     EXPECT_TRUE(SequenceSetting().getUseNote());
     EXPECT_TRUE(SequenceSetting().getUseVelocity());
     EXPECT_FALSE(SequenceSetting().getUseLength());
@@ -183,12 +185,14 @@ TEST_F(SequencePresetManagerTest, ASettingIsWrittenWithItsPresetOrItsSequence) {
         setting.writeXml(stream, 1);
         return stream.str();
     };
+
     m_presets.addSequencePreset("a", "0,12");
     SequenceSetting setting("a", m_presets);
     ASSERT_TRUE(setting.getSequence().hasNodes());
     EXPECT_EQ(write(setting),
               "\t<SequenceSetting preset=\"a\" useNote=\"true\" useVelocity=\"true\" useLength=\"true\">\n"
               "\t</SequenceSetting>\n");
+
     setting.setPreset("");
     setting.setUseNote(false);
     EXPECT_EQ(write(setting),

@@ -23,6 +23,7 @@ TEST(SequenceTest, TextGivesNodesAndItems) {
         const char* text;
         const char* shape;
     };
+
     const Row rows[] = {
         {"", ""},
         {"  ", ""},
@@ -49,6 +50,7 @@ TEST(SequenceTest, TextGivesNodesAndItems) {
         {"|", "[rest 0/0/1920;]"},
         {",", "[rest 0/0/1920;]"},
     };
+
     for (const Row& row : rows)
         EXPECT_EQ(shape(Sequence(std::string_view(row.text))), row.shape) << '"' << row.text << '"';
 }
@@ -58,6 +60,7 @@ TEST(SequenceTest, TextIsWrittenInOneWay) {
         const char* text;
         const char* written;
     };
+
     const Row rows[] = {
         {"", ""},
         {" 0 , 12|7 V5 , - ", "0,12|7 V5,-"},
@@ -67,6 +70,7 @@ TEST(SequenceTest, TextIsWrittenInOneWay) {
         {"+5 v-3", "5 V-3"},
         {"0 L-1", "0 L-1"},
     };
+
     for (const Row& row : rows)
         EXPECT_EQ(Sequence(std::string_view(row.text)).toString(), row.written) << row.text;
 }

@@ -61,12 +61,14 @@ TEST(AttributeFormats, NumbersHaveTheirRanges) {
     const Bounds byte = {0, 127};
     const Bounds byteOrNone = {-1, 127};
     const Bounds channel = {-1, 15};
+
     struct Row {
         Place place;
         const char* tag;
         const char* name;
         Bounds bounds;
     };
+
     const std::vector<Row> rows = {
         {IN_LAYERS, "Layer", "minVelocity", byte},
         {IN_LAYERS, "Layer", "maxVelocity", byte},
@@ -90,6 +92,7 @@ TEST(AttributeFormats, NumbersHaveTheirRanges) {
         {IN_BANK, "Program", "tempo", {20, 250}},
         {IN_BANK, "Program", "tempoSource", byteOrNone},
     };
+
     for (const Row& row : rows)
         expectBounds(row.place, row.tag, row.name, row.bounds);
 }

@@ -119,11 +119,13 @@ TEST_F(CheckCommand, FindsPresetsBesideTheFileAndAboveIt) {
         "<ComputerInput merge=\"false\"><Key id=\"Q\" global=\"true\"><Function keepSending=\"false\"><Down>"
         "<LoadLayerPreset preset=\"Odd One\"/></Down></Function></Key></ComputerInput>";
     ASSERT_TRUE(Files::createFolders(path("deep")));
+
     const std::string beside = write("a.pst", content);
     const std::string below = write("deep/a.pst", content);
     EXPECT_EQ(check({beside, below}), 1);
     EXPECT_EQ(m_printed, beside + ":1: there is no layer preset \"Odd One\"\n" + below +
                              ":1: there is no layer preset \"Odd One\"\n");
+
     for (const char* const place : {"Default/Layer Presets", "Layer Presets"}) {
         ASSERT_TRUE(Files::createFolders(path(place)));
         const std::string preset = write(std::string(place) + "/Odd One.pst", FINE);
@@ -165,6 +167,7 @@ TEST_F(CheckCommand, SaysNothingOfWhatTheDeskWrites) {
                              "preset save layers Layers\npreset save layers OneLayer 2\n"
                              "sequence add Steps \"0 V10,-|12,7 L20\"\nsequence add Nothing \"\"\n"
                              "preset load keys Keys\nsave 3\nprint program\n");
+
     for (const char* const file :
          {"bank.bnk", "other.bnk", "program.prg", "Computer Input Presets/Keys.pst",
           "Computer Input Presets/SomeKeys.pst", "Control Presets/Faders.pst", "Control Presets/OneFader.pst",
@@ -172,6 +175,7 @@ TEST_F(CheckCommand, SaysNothingOfWhatTheDeskWrites) {
         SCOPED_TRACE(file);
         expectSilence({"--data", m_folder.path(), path(file)});
     }
+
     EXPECT_NE(printed.find("<MirelProgramFile>"), std::string::npos);
     expectSilence({"--data", m_folder.path(), write("printed.prg", printed)});
     // What is saved last is in the bank that was saved to, and names the preset of its keys.

@@ -393,6 +393,7 @@ TEST(FileCheck, JudgesEventsOfControls) {
         return "<Controls merge=\"false\">\n<Control " + CONTROL_ATTRIBUTES + ">\n<Function " + attributes +
                "/>\n</Control></Controls>";
     };
+
     const std::string routing = " output=\"-1\" channel=\"-1\" zone=\"-1\"";
     EXPECT_EQ(check(event("midiEvent=\"Note On,60\"" + routing)), Said());
     EXPECT_EQ(check(event("midiEvent=\"Note on\"" + routing)),
@@ -511,8 +512,10 @@ TEST_F(PresetReferences, AreLookedUpInTheDataFolder) {
     addPreset("Control Presets", "Faders.pst");
     addPreset("Default/Layer Presets", "Split.pst");
     addPreset("Sequences", "Up.seq");
+
     EXPECT_EQ(checkInData(program(" Mine ")), Said());
     EXPECT_EQ(checkInData(program("Faders")), Said{"2: there is no computer input preset \"Faders\""});
+
     for (const auto& [function, preset] :
          {std::pair("LoadComputerInputPreset", "Mine"), std::pair("LoadControlPreset", "Faders"),
           std::pair("LoadLayerPreset", "Split")}) {
@@ -521,6 +524,7 @@ TEST_F(PresetReferences, AreLookedUpInTheDataFolder) {
         EXPECT_EQ(checkInData(keyWith(tag + "\"/>")), Said());
         EXPECT_EQ(checkInData(keyWith(tag + "Up\"/>")).size(), 1u);
     }
+
     EXPECT_EQ(checkInData(keyWith("<LoadLayerPreset preset=\"gone\"/>")), Said{"3: there is no layer preset \"gone\""});
     EXPECT_EQ(checkInData(keyWith("<LoadControlPreset preset=\"gone\"/>")),
               Said{"3: there is no control preset \"gone\""});

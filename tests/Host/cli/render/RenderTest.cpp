@@ -102,11 +102,13 @@ TEST_F(RenderTest, PresetsComeFromTheDataFolderAndNeverFromTheCurrentOne) {
         ASSERT_TRUE(Platform::Files::createFolders(path("Sequences")));
         ASSERT_TRUE(Platform::Files::replace(path(file), "<Sequence>7</Sequence>"));
     }
+
     const std::string layers =
         "<Layers><Layer><Arpeggio><UpArpeggio beat='480' length='120'/></Arpeggio>"
         "<SequenceSetting preset='p'/></Layer></Layers>";
     ASSERT_EQ(renderWithLayers(layers, {"--data", m_folder.path()}), 0) << m_complained;
     EXPECT_EQ(output(), (std::vector<std::string>{"0 on ch0 67 100", "120 off ch0 67 100"}));
+
     const TestSupport::CurrentFolder there(m_folder.path());
     ASSERT_EQ(renderWithLayers(layers), 0) << m_complained;
     EXPECT_EQ(output(), (std::vector<std::string>{"0 on ch0 60 100", "120 off ch0 60 100"}));
@@ -116,6 +118,7 @@ TEST_F(RenderTest, ItSaysWhatItReadPlayedAndDropped) {
     MidiFileEvent sysex;
     sysex.status = MIDI_FILE_SYSEX;
     sysex.data = "\x7e\x7f\xf7";
+
     writeInput({sysex, event(0, NOTE_ON, 0, 60, 100), event(10, NOTE_ON, 0, 30, 100), event(20, NOTE_OFF, 0, 30, 0),
                 event(480, NOTE_OFF, 0, 60, 30)});
     ASSERT_EQ(renderWithLayers("<Layers><Layer minNote='C4'/></Layers>"), 0) << m_complained;
@@ -223,8 +226,10 @@ TEST_F(RenderTest, BadInputGetsOneLineAndNoOutput) {
     ASSERT_TRUE(Platform::Files::replace(path("in.mid"), ""));
     EXPECT_EQ(render(), 2);
     EXPECT_EQ(m_complained.find(path("in.mid") + ": byte 0"), 0u) << m_complained;
+
     writeInput({event(0, NOTE_ON, 0, 60, 100)});
     const std::string whole = *Platform::Files::read(path("in.mid"));
+
     for (std::size_t size = 0; size < whole.size(); ++size) {
         ASSERT_TRUE(Platform::Files::replace(path("in.mid"), whole.substr(0, size)));
         ASSERT_EQ(render(), 2) << size;
@@ -249,6 +254,7 @@ TEST_F(RenderTest, SongsPlayThroughTheExampleBandAndNothingHangs) {
     const std::string folder = "/usr/share/games/openttd/baseset/openmsx";
     const auto songs = Platform::Files::list(folder, ".mid");
     ASSERT_GE(songs.size(), 10u);
+
     for (std::size_t i = 0; i < songs.size(); i += 5) {
         const auto bytes = Platform::Files::read(Platform::Files::join(folder, songs[i]));
         ASSERT_TRUE(bytes && Platform::Files::replace(path("in.mid"), *bytes));
@@ -306,11 +312,13 @@ TEST_F(RenderTest, OptionsThatMakeNoSenseAreRefused) {
         {"--through", "1,"}, {"--zone", "0"},     {"--zone", "129"},  {"--zone", "x"},     {"--nothing", "1"},
         {"--tempo"},         {"third.mid"},
     };
+
     for (const auto& options : bad) {
         EXPECT_EQ(render(options), 2) << options.front() << " " << options.back();
         EXPECT_EQ(m_complained.find("mirel: "), 0u) << m_complained;
         EXPECT_FALSE(Platform::Files::size(path("out.mid")));
     }
+
     for (const char* good : {"20", "250"})
         EXPECT_EQ(render({"--tempo", good}), 0) << m_complained;
 }

@@ -44,6 +44,7 @@ TEST(RunOptionsTest, BadArgumentsAreRefusedWithOneLine) {
         {{"--seconds", "nan"}, "--seconds takes a number of seconds, not \"nan\""},
         {{"--seconds", "2x"}, "--seconds takes a number of seconds, not \"2x\""},
     };
+
     for (const auto& [arguments, message] : cases) {
         std::string error;
         EXPECT_FALSE(RunOptions::parse(arguments, error));

@@ -195,6 +195,7 @@ TEST(ClockFollowerTest, TicksInBunchesKeepTheirCountAndTempo) {
     ClockFollower follower;
     // A sound server hands on what came in a block of 21.3 ms at its end.
     const double block = 1024.0 / 48;
+
     double last = 0;
     for (int i = 0; i < 480; ++i) {
         const double due = i * periodOf(180);
@@ -204,6 +205,7 @@ TEST(ClockFollowerTest, TicksInBunchesKeepTheirCountAndTempo) {
         EXPECT_GE(position, last);
         last = position;
     }
+
     EXPECT_NEAR(last, 480 * 20, 60);
     EXPECT_NEAR(follower.tempo(), 180, 25);
 }
@@ -212,6 +214,7 @@ TEST(ClockFollowerTest, TimesThatMakeNoSenseDoNoHarm) {
     ClockFollower follower;
     double last = 0;
     std::mt19937 random(11);
+
     for (int i = 0; i < 20000; ++i) {
         const double time = static_cast<double>(random() % 100000) / 10;
         switch (random() % 16) {

@@ -89,11 +89,14 @@ TEST_F(PortDeskTest, PortThatFailsAnewIsToldAnew) {
     desk->start();
     // It is tried again and again, and told once.
     const int times = system->timesOpened("Synth");
+
     system->refuse("Synth", false);
     ASSERT_TRUE(eventually([&] { return system->timesOpened("Synth") > times && system->isOutputOpen("Synth"); }));
     EXPECT_EQ(count(readLog(desk->mirel().getDisplayMessageManager()), SYNTH_FAILS), 1);
+
     const int looks = system->timesListed();
     ASSERT_TRUE(eventually([&] { return system->timesListed() > looks + 1; })) << "the desk sees that it works";
+
     system->refuse("Synth", true);
     system->breakPort("Synth", true);
     ASSERT_TRUE(eventually([&] {
@@ -127,12 +130,16 @@ TEST_F(PortDeskTest, NotesOfAnOutputThatIsSwitchedOffEndInTheTake) {
     const auto desk = make(true);
     desk->start();
     const int synth = findOutput(*desk, "Synth");
+
     play(*desk, synth, MidiMessage::NoteOn, 60);
     ASSERT_TRUE(eventually([&] { return desk->ports().recorder().size() == 1; }));
+
     desk->mirel().getMessageManager().postEnableMidiOutput(synth, false);
     EXPECT_TRUE(eventually([&] { return desk->ports().recorder().size() == 2; }));
+
     desk->mirel().getMessageManager().postEnableMidiOutput(synth, true);
     desk->waitUntilIdle();
+
     play(*desk, synth, MidiMessage::NoteOn, 61);
     EXPECT_TRUE(eventually([&] { return desk->ports().recorder().size() == 3; }));
     EXPECT_TRUE(desk->stop());
@@ -162,6 +169,7 @@ TEST_F(PortDeskTest, SwitchedOutputStaysSoInTheNextRun) {
         EXPECT_TRUE(eventually([&] { return !system->isOutputOpen("Module"); }));
         EXPECT_TRUE(desk->stop());
     }
+
     const auto desk = make();
     desk->start();
     EXPECT_FALSE(desk->ports().outputs().at(static_cast<std::size_t>(findOutput(*desk, "Module"))).settings.enabled);
@@ -176,6 +184,7 @@ TEST_F(PortDeskTest, HearsOfPortsThatComeWhileItStarts) {
         system->plugOutputs({"Synth", "Late"});
     });
     desk->start();
+
     user.join();
     // The desk plays to none that it has not heard of.
     EXPECT_TRUE(eventually([&] {

@@ -154,6 +154,7 @@ TEST_F(PortPlayerTest, ThreadPlaysSlicesThatJoin) {
     std::atomic<bool> joins{true};
     std::int32_t end = -1;  // Of the thread alone.
     std::int32_t start = -1;
+
     player.start([&](std::int32_t from, std::int32_t to) {
         joins = joins && to >= from && (end < 0 || from == end);
         if (start < 0)
@@ -167,11 +168,13 @@ TEST_F(PortPlayerTest, ThreadPlaysSlicesThatJoin) {
     EXPECT_EQ(player.getThreadId(), thread);
     EXPECT_NE(player.getThreadId(), Platform::currentThreadId());
     EXPECT_FALSE(player.hasEnded());
+
     player.stop();
     EXPECT_TRUE(player.hasEnded());
     EXPECT_TRUE(joins);
     EXPECT_GT(end, start);
     EXPECT_EQ(player.failure(), nullptr);
+
     const int count = slices;
     player.start([&](std::int32_t, std::int32_t) { ++slices; });
     EXPECT_TRUE(eventually([&] { return slices > count; })) << "it may be started again";

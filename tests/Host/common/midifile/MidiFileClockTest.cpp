@@ -29,6 +29,7 @@ TEST(MidiFileClockTest, TicksOfAQuarterBecomePpqRoundedHalfUp) {
         std::int64_t tick;
         std::int64_t expected;
     };
+
     for (const Case& c :
          {Case{480, 0, 0},  Case{480, 12345, 12345}, Case{96, 1, 5},          Case{96, 97, 485},  Case{960, 1, 1},
           Case{960, 2, 1},  Case{960, 3, 2},         Case{1920, 1, 0},        Case{1920, 2, 1},   Case{1920, 5, 1},
@@ -51,6 +52,7 @@ TEST(MidiFileClockTest, TicksOfAFrameBecomePpqAtTheTempoGiven) {
         std::int64_t tick;
         std::int64_t expected;
     };
+
     // A second at 120 quarters a minute is 960 ppq.
     for (const Case& c :
          {Case{25, 40, 120, 1000, 960}, Case{25, 40, 60, 1000, 480}, Case{25, 40, 120, 1, 1}, Case{24, 4, 120, 96, 960},

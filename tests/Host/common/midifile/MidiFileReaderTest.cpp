@@ -56,6 +56,7 @@ TEST(MidiFileReaderTest, EventsOfATrackAreReadAsTheyStand) {
                 0xf9, 1,    0xfa, 1, 0xfb, 1, 0xfc, 1, 0xfd, 1, 0xfe, 1,    0xc0, 9}),
          "12:c0.0(09,00)"},
     };
+
     for (const TrackCase& c : cases) {
         const MidiFileResult result = readMidiFile(oneTrack(c.body + END));
         ASSERT_FALSE(result.error) << c.name << ": " << *result.error;
@@ -75,6 +76,7 @@ TEST(MidiFileReaderTest, BadTracksAreRefusedWithPlaceAndReason) {
     const std::string varLength = "a variable-length number of more than four bytes";
     const std::string noStatus = "a data byte without a status before it";
     const std::string wrongStatus = "a status where a data byte belongs";
+
     const std::vector<ErrorCase> cases{
         {"data before any status", bytes({0, 60, 64}), "byte 23, track 1: " + noStatus},
         {"data after a meta", bytes({0, 0x90, 60, 64, 0, 0xff, 1, 0, 0, 60, 64}), "byte 31, track 1: " + noStatus},
@@ -103,6 +105,7 @@ TEST(MidiFileReaderTest, BadTracksAreRefusedWithPlaceAndReason) {
          "byte 25, track 1: 1 byte expected, but the file ends at byte 25"},
         {"end in a meta", bytes({0, 0xff}), "byte 24, track 1: 1 byte expected, but the file ends at byte 24"},
     };
+
     for (const ErrorCase& c : cases) {
         const MidiFileResult result = readMidiFile(oneTrack(c.file));
         EXPECT_EQ(result.error.value_or("none"), c.expected) << c.name;
@@ -152,6 +155,7 @@ TEST(MidiFileReaderTest, BadHeadersAndChunksAreRefusedWithPlaceAndReason) {
         {"unknown chunk cut off", header(1, 1, 96) + "XYZ " + bigEndian(9, 4),
          "byte 14: a chunk of 9 bytes is cut off, the file ends at byte 22"},
     };
+
     for (const ErrorCase& c : cases) {
         const MidiFileResult result = readMidiFile(c.file);
         EXPECT_EQ(result.error.value_or("none"), c.expected) << c.name;
@@ -173,6 +177,7 @@ TEST(MidiFileReaderTest, FormatAndDivisionComeFromTheHeader) {
         std::size_t word;
         MidiFileDivision expected;
     };
+
     for (const Case& c :
          {Case{0, 1, {1, 0, 0}}, Case{1, 480, {480, 0, 0}}, Case{1, 0x7fff, {32767, 0, 0}}, Case{1, 0xe804, {0, 24, 4}},
           Case{1, 0xe728, {0, 25, 40}}, Case{1, 0xe350, {0, 29, 80}}, Case{0, 0xe2ff, {0, 30, 255}}}) {
@@ -225,14 +230,18 @@ TEST(MidiFileReaderTest, EachKindOfEventIsCounted) {
     for (int kind = 0; kind < 7; ++kind)
         for (int i = 0; i <= kind; ++i)
             body += bytes({0, 0x80 + 0x10 * kind + i, 1}) + (kind == 4 || kind == 5 ? "" : "\x02");
+
     body += bytes({0, 0xf0, 1, 1, 0, 0xf7, 1, 2, 0, 0xf7, 1, 0xf7, 0, 0xf7, 1, 0xf8, 0, 0xf0, 1, 0xf7, 0, 0xf7, 1, 5});
     body += bytes({0, 0xff, 0x51, 2, 1, 1, 0, 0xff, 0x51, 3, 0, 0, 0, 0, 0xff, 0x58, 3, 4, 2, 24, 0, 0xff, 1, 0});
     body += bytes({0, 0xf8, 0, 0xf2, 1, 2});
+
     const MidiFileResult result = readMidiFile(oneTrack(body + END));
     ASSERT_FALSE(result.error) << *result.error;
+
     const MidiFileCounts& counts = result.file.counts;
     for (std::size_t kind = 0; kind < 7; ++kind)
         EXPECT_EQ(counts.channelEventsOf(static_cast<std::uint8_t>(0x80 + 0x10 * kind)), kind + 1);
+
     EXPECT_EQ(counts.channelEventsOf(0xf0), 0u);
     EXPECT_EQ(counts.channelEventsOf(0x7f), 0u);
     EXPECT_EQ(counts.sysexes, 2u);

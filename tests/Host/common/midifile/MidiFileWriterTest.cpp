@@ -53,6 +53,7 @@ TEST(MidiFileWriterTest, DeltasTakeAsFewBytesAsTheyNeed) {
         std::int64_t delta;
         std::string expected;
     };
+
     for (const Case& c : {Case{0, bytes({0})}, Case{0x7f, bytes({0x7f})}, Case{0x80, bytes({0x81, 0})},
                           Case{0x3fff, bytes({0xff, 0x7f})}, Case{0x4000, bytes({0x81, 0x80, 0})},
                           Case{0x1fffff, bytes({0xff, 0xff, 0x7f})}, Case{0x200000, bytes({0x81, 0x80, 0x80, 0})},
@@ -124,10 +125,12 @@ TEST(MidiFileWriterTest, ATrackEndsAtItsSetEndOrItsLastEvent) {
     ASSERT_TRUE(writer.add(track, note(100, 60)));
     ASSERT_TRUE(writer.setEnd(track, 50));
     ASSERT_TRUE(writer.setEnd(MidiFileWriter::CONDUCTOR, 0x20000000));
+
     const MidiFileResult tracks = readMidiFile(writer.content(Layout::TRACKS).value());
     ASSERT_FALSE(tracks.error) << *tracks.error;
     EXPECT_EQ(tracks.file.tracks.at(0).endTick, 0x20000000);
     EXPECT_EQ(tracks.file.tracks.at(1).endTick, 100);
+
     const MidiFileResult single = readMidiFile(writer.content(Layout::SINGLE_TRACK).value());
     ASSERT_FALSE(single.error) << *single.error;
     EXPECT_EQ(single.file.tracks.at(0).endTick, 0x20000000);
@@ -155,9 +158,11 @@ TEST(MidiFileWriterTest, WhatCantStandInAFileIsNotAdded) {
         {"end of track", {0, MIDI_FILE_META, 0, META_END_OF_TRACK, 0, {}}},
         {"too much data", {0, MIDI_FILE_SYSEX, 0, 0, 0, std::string(0x10000000, '\xf7')}},
     };
+
     MidiFileWriter writer;
     for (const auto& [name, event] : cases)
         EXPECT_FALSE(writer.add(0, event)) << name;
+
     EXPECT_FALSE(writer.add(1, note(0, 60)));
     EXPECT_EQ(writer.content(Layout::SINGLE_TRACK), header(0, 1, 480) + chunk("MTrk", END));
 }
@@ -187,15 +192,19 @@ TEST(MidiFileWriterTest, AFileOfAnotherDivisionKeepsItsTempiInPpq) {
                              chunk("MTrk", bytes({7, 0x90, 60, 64, 89, 0x80, 60, 0}) + END);
     const MidiFileResult in = readMidiFile(file);
     ASSERT_FALSE(in.error) << *in.error;
+
     const MidiFileClock clock(in.file);
+
     MidiFileWriter writer;
     for (const MidiFileTempo& tempo : clock.ppqTempi())
         ASSERT_TRUE(writer.add(MidiFileWriter::CONDUCTOR, makeTempo(tempo.tick, tempo.microsecondsPerQuarter)));
+
     const std::size_t track = writer.addTrack();
     for (MidiFileEvent event : in.file.tracks.at(1).events) {
         event.tick = clock.ppq(event.tick);
         ASSERT_TRUE(writer.add(track, event));
     }
+
     const MidiFileResult out = readMidiFile(writer.content(Layout::TRACKS).value());
     ASSERT_FALSE(out.error) << *out.error;
     EXPECT_EQ(out.file.tempi, (std::vector<MidiFileTempo>{{0, 600000}, {240, 0x030000}}));

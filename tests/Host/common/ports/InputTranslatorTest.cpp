@@ -107,15 +107,18 @@ TEST_F(InputTranslatorTest, SysexAndWhatOnlyConcernsTheCableDoNotEnter) {
 TEST_F(InputTranslatorTest, TimingMessagesEnterAndReachTheClockOfTheirInput) {
     receive({0xf8}, 1);
     EXPECT_TRUE(clockMessages().empty()) << "it is not the tempo source";
+
     clock->listenTo(INPUT + 1);
     receive({0xf8}, 2);
     EXPECT_TRUE(clockMessages().empty());
+
     clock->listenTo(INPUT);
     entered();
     receive({0xfa}, 3);
     receive({0x90, 0xf8, 60, 100}, 4);
     receive({0xfc}, 5);
     receive({0xfb}, 6);
+
     EXPECT_EQ(clockMessages(), (std::vector<ClockMessage>{{ClockMessageKind::START, 3},
                                                           {ClockMessageKind::TICK, 4},
                                                           {ClockMessageKind::STOP, 5},

@@ -85,12 +85,14 @@ TEST_F(MidiPortsTest, DeskGetsThePortsWithNamesAndFlags) {
     ports->enableInput(1, false);
     system->plugInputs({"Keys"});
     update(*ports);
+
     const std::vector<MidiInputPort> inputs = ports->inputPorts();
     ASSERT_EQ(inputs.size(), 2u);
     EXPECT_EQ(inputs[0].name, "Keys");
     EXPECT_TRUE(inputs[0].enabled && inputs[0].available);
     EXPECT_EQ(inputs[1].name, "Keys (2)");
     EXPECT_FALSE(inputs[1].enabled || inputs[1].available);
+
     const std::vector<MidiOutputPort> outputs = ports->outputPorts();
     ASSERT_EQ(outputs.size(), 2u);
     EXPECT_EQ(outputs[0].name, "Recorder");
@@ -134,11 +136,14 @@ TEST_F(MidiPortsTest, NextProgramFindsItsRowsAndSettings) {
         ports->setInputSettings(1, {true, true, 0x0003});
         ports->enableOutput(1, false);
     }
+
     EXPECT_EQ(Platform::Files::read(folder.file("Midi Inputs.txt")),
               Platform::Files::withSystemLineEnds("1 0 ffff 1 Keys\n1 1 0003 1 Pads\n"));
+
     system->plugInputs({"New", "Pads"});
     const auto ports = make();
     EXPECT_EQ(names(ports->inputs()), (Names{"Keys-", "Pads-"}));
+
     update(*ports);
     EXPECT_EQ(names(ports->inputs()), (Names{"Keys-", "Pads+", "New+"}));
     EXPECT_EQ(ports->inputs()[1].settings, (PortSettings{true, true, 0x0003}));
@@ -170,6 +175,7 @@ TEST_F(MidiPortsTest, SwitchesForNowAreForgottenByTheNextProgram) {
         system->plugOutputs({"Out A", "Out B", "Out C"});
         update(*second);
     }
+
     const auto third = make();
     update(*third);
     EXPECT_TRUE(third->inputs()[0].settings.enabled);
@@ -205,16 +211,22 @@ TEST_F(MidiPortsTest, EnablingOpensAndDisablingCloses) {
     system->plugInputs({"Keys"});
     system->plugOutputs({"Synth"});
     const auto ports = make();
+
     update(*ports);
     EXPECT_TRUE(system->isInputOpen("Keys") && system->isOutputOpen("Synth"));
+
     ports->enableInput(0, false);
     ports->enableOutput(1, false);
+
     settle(*ports);
     EXPECT_FALSE(system->isInputOpen("Keys") || system->isOutputOpen("Synth"));
+
     ports->enableInput(0, true);
     ports->enableOutput(1, true);
+
     settle(*ports);
     EXPECT_TRUE(system->isInputOpen("Keys") && system->isOutputOpen("Synth"));
+
     for (const int port : {-1, 2, 127, 128, 100000}) {
         ports->enableInput(port, true);
         ports->enableOutput(port, true);
@@ -255,10 +267,12 @@ TEST_F(MidiPortsTest, PortThatFailsIsOpenedAgain) {
 TEST_F(MidiPortsTest, IncomingEventsReachTheDeskWithTheirInput) {
     system->plugInputs({"Keys", "Pads"});
     const auto ports = make();
+
     update(*ports);
     ports->setInputSettings(1, {true, true, 0x0002});
     ASSERT_TRUE(system->receive("Keys", {0x93, 60, 100}));
     ASSERT_TRUE(system->receive("Pads", {0x90, 61, 100, 0x91, 62, 100}));
+
     const std::vector<MirelMidiMessage> events = takeEvents();
     ASSERT_EQ(events.size(), 2u);
     EXPECT_EQ(events[0].getInput(), 0);
@@ -324,19 +338,24 @@ TEST_F(MidiPortsTest, VirtualPortsAreBuiltInAndConnectable) {
 TEST_F(MidiPortsTest, HungPortStopsNeitherTheOthersNorTheEnd) {
     system->plugOutputs({"Hung", "Fine"});
     auto ports = make();
+
     update(*ports);
     system->hang("Hung", true);
     ports->play(1, NOTE_ON, 0);
     ASSERT_TRUE(eventually([this] { return system->hanging() == 1; }));
+
     for (int i = 0; i < 10000; ++i)
         ports->play(1, NOTE_ON, 0);
     EXPECT_GT(ports->droppedEvents(), 0u);
     EXPECT_TRUE(ports->play(2, NOTE_ON, 0));
     EXPECT_TRUE(eventually([this] { return system->sent("Fine").size() == 1; }));
+
     ports->update();
     EXPECT_FALSE(ports->close(std::chrono::milliseconds(50)));
+
     ports = nullptr;
     EXPECT_EQ(system->sent("Fine"), (Sent{{0x90, 0x3c, 0x64}, {0x80, 0x3c, 0x40}}));
+
     system->hang("Hung", false);
     EXPECT_TRUE(eventually([this] { return !system->isOutputOpen("Hung"); }));
 }
@@ -345,6 +364,7 @@ TEST_F(MidiPortsTest, CloseEndsEverythingForGood) {
     system->plugInputs({"Keys"});
     system->plugOutputs({"Synth"});
     const auto ports = make();
+
     update(*ports);
     ports->play(1, NOTE_ON, 0);
     settle(*ports);
@@ -354,6 +374,7 @@ TEST_F(MidiPortsTest, CloseEndsEverythingForGood) {
     EXPECT_FALSE(system->isInputOpen("Keys") || system->isOutputOpen("Synth"));
     EXPECT_FALSE(ports->play(1, NOTE_OFF, 0));
     EXPECT_FALSE(ports->update());
+
     ports->enableOutput(1, true);
     EXPECT_FALSE(system->isOutputOpen("Synth"));
 }

@@ -53,6 +53,7 @@ TEST(OutputQueueTest, LastPlacesAreKeptForEndings) {
     OutputQueue queue;
     for (std::size_t i = 0; i < FOR_NOTES; ++i)
         ASSERT_TRUE(queue.push(noteOn(1)));
+
     EXPECT_FALSE(queue.push(noteOn(2)));
     EXPECT_FALSE(queue.push(event(0xe0, 0, 64)));
     EXPECT_FALSE(queue.push(event(0xb0, 64, 127))) << "a pedal pressed";
@@ -87,14 +88,18 @@ TEST(OutputQueueTest, NoEndingIsLostHoweverFullTheQueueIs) {
     std::size_t queued = 0;
     while (queue.push(noteOn(1)))
         ++queued;
+
     for (; queued < OutputQueue::CAPACITY; ++queued)
         ASSERT_TRUE(queue.push(noteOff(1)));
+
     const std::vector<OutputEvent> endings = allEndings();
     for (int times = 0; times < 3; ++times)
         for (const OutputEvent& ending : endings)
             ASSERT_TRUE(queue.push(ending));
+
     std::vector<OutputEvent> popped = popAll(queue);
     ASSERT_EQ(popped.size(), OutputQueue::CAPACITY + endings.size()) << "each of them once";
+
     popped.erase(popped.begin(), popped.begin() + OutputQueue::CAPACITY);
     EXPECT_EQ(popped, endings);
     EXPECT_TRUE(queue.isEmpty());
@@ -104,14 +109,17 @@ TEST(OutputQueueTest, OwedNoteOffNeverCutsOffALaterNote) {
     OutputQueue queue;
     while (queue.push(noteOn(1))) {
     }
+
     for (std::size_t i = 0; i < OutputQueue::RESERVED_FOR_ENDINGS; ++i)
         queue.push(noteOff(1));
     ASSERT_TRUE(queue.push(noteOff(60)));  // Owed from here on.
+
     OutputEvent next;
     for (std::size_t i = 0; i < OutputQueue::CAPACITY; ++i) {
         ASSERT_TRUE(queue.pop(next));
         ASSERT_FALSE(queue.push(noteOn(60))) << "would come before the note-off that is owed";
     }
+
     ASSERT_TRUE(queue.pop(next));
     EXPECT_EQ(next, event(0x80, 60, 64));
     EXPECT_FALSE(queue.push(noteOn(60))) << "that note-off is not sent yet";
@@ -156,14 +164,18 @@ TEST(OutputQueueTest, NothingSoundsOnAfterAnOverflowBetweenTwoThreads) {
             }
         }
     });
+
     for (unsigned i = 0; i < 400000; ++i) {
         queue.push(noteOn(i % 128));
         ASSERT_TRUE(queue.push(noteOff(i % 128)));
     }
+
     isDone = true;
     port.join();
+
     for (std::size_t note = 0; note < sounds.size(); ++note)
         EXPECT_FALSE(sounds[note]) << note;
+
     EXPECT_TRUE(queue.isEmpty());
 }
 

@@ -74,7 +74,9 @@ TEST_F(PortLineTest, WhatSoundsEndsBeforeThePortIsClosed) {
     line.play(word(0x80, 60, 0), 0);
     line.play(word(0xb1, 64, 127), 0);
     line.finish();
+
     EXPECT_TRUE(line.waitUntilFinished(farOff()));
+
     const Sent sent = system->sent(PORT);
     // Of what still waited only the endings are sent, so the beginning may be missing, and then its end is not needed.
     int sounding = 0;
@@ -84,6 +86,7 @@ TEST_F(PortLineTest, WhatSoundsEndsBeforeThePortIsClosed) {
         if (bytes[0] == 0x81)
             --sounding;
     }
+
     EXPECT_EQ(sounding, 0);
     EXPECT_FALSE(system->isOutputOpen(PORT));
 }
@@ -105,16 +108,21 @@ TEST_F(PortLineTest, EndOfNotesIsSentBehindWhatIsQueued) {
 TEST_F(PortLineTest, HungPortHoldsUpNobody) {
     open();
     system->hang(PORT, true);
+
     line.play(word(0x90, 60, 100), 0);
     ASSERT_TRUE(eventually([this] { return system->hanging() == 1; }));
+
     // None of these may wait for it.
     for (int i = 0; i < 10000; ++i)
         line.play(word(0x90, 61, 100), 0);
+
     line.endNotes();
     line.close();
     line.open([s = system] { return s->openOutput({PORT, 1}); });
+
     EXPECT_GT(line.dropped(), 0u);
     EXPECT_FALSE(line.isIdle());
+
     system->hang(PORT, false);
     ASSERT_TRUE(becomesIdle());
     EXPECT_TRUE(line.isOpen()) << "the newest wish counts";
@@ -131,6 +139,7 @@ TEST_F(PortLineTest, HungPortIsLeftBehindAtTheEnd) {
         doomed.finish();
         EXPECT_FALSE(doomed.waitUntilFinished(std::chrono::steady_clock::now()));
     }
+
     // Its thread lives on with all that it needs, and cleans up when the system lets go.
     system->hang(PORT, false);
     EXPECT_TRUE(eventually([this] { return !system->isOutputOpen(PORT); }));
@@ -174,14 +183,17 @@ TEST_F(PortLineTest, PortThatFailsIsClosedAndMayBeOpenedAgain) {
     open();
     line.play(word(0x90, 60, 100), 0);
     ASSERT_TRUE(becomesIdle());
+
     system->breakPort(PORT, true);
     line.play(word(0x90, 61, 100), 0);
     ASSERT_TRUE(becomesIdle());
     EXPECT_TRUE(line.hasFailed());
     EXPECT_FALSE(line.isOpen());
     EXPECT_FALSE(system->isOutputOpen(PORT));
+
     system->breakPort(PORT, false);
     open();
+
     line.endNotes();
     ASSERT_TRUE(becomesIdle());
     EXPECT_EQ(system->sent(PORT), (Sent{{0x90, 60, 100}})) << "nothing of before sounds on the new port";

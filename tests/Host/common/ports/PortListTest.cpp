@@ -111,6 +111,7 @@ TEST(PortListTest, LinesThatMakeNoSenseArePassedOver) {
 TEST(PortListTest, NonsenseOfAnyKindIsSurvived) {
     std::mt19937 random(7);
     const std::string letters = "01 f\n\r\\a\xff-";
+
     for (int round = 0; round < 2000; ++round) {
         std::string text;
         for (int i = 0; i < 200; ++i)
@@ -121,6 +122,7 @@ TEST(PortListTest, NonsenseOfAnyKindIsSurvived) {
         again.readText(list.toText());
         ASSERT_EQ(again.rows(), list.rows()) << text;
     }
+
     PortList list;
     list.readText(std::string(PortList::MAX_FILE_SIZE + 1, '1'));
     EXPECT_TRUE(list.rows().empty());

@@ -196,12 +196,15 @@ TEST_F(FrameWindowTest, ADockedDeskWithoutAPlaceBeginsAtTheBottom) {
 TEST_F(FrameWindowTest, DocksAtTheBottomOfTheScreen) {
     open();
     show();
+
     tell(Gui::UM_DOCK_CHANGED, TRUE);
     EXPECT_EQ(position().bottom, workArea().bottom);
     EXPECT_EQ(position().left, 200);
+
     const Rect docked = position();
     tell(Gui::UM_DOCK_CHANGED, FALSE);
     EXPECT_EQ(position(), docked);
+
     // The desk grows and asks for as much upwards.
     tell(Gui::UM_SIZE_CHANGED, 300, 200);
     tell(Gui::UM_MOVE_WINDOW, packWindowMove({true, 0}), static_cast<LPARAM>(packWindowMove({true, -100})));
@@ -242,11 +245,14 @@ TEST_F(FrameWindowTest, ChangesItsBorderAroundTheDesk) {
     open();
     show();
     POINT before{0, 0};
+
     ClientToScreen(window(), &before);
     EXPECT_FALSE((style() & WS_CAPTION) == WS_CAPTION);
+
     tell(Gui::UM_SKIN_BORDER_CHANGED, FALSE);
     EXPECT_TRUE((style() & WS_CAPTION) == WS_CAPTION);
     EXPECT_FALSE(frame->hasSkinBorder());
+
     for (const bool skin : {false, true}) {
         tell(Gui::UM_SKIN_BORDER_CHANGED, skin);
         POINT after{0, 0};
@@ -285,11 +291,14 @@ TEST_F(FrameWindowTest, FollowsTheDeskWhileItIsMinimised) {
     open();
     show();
     ShowWindow(window(), SW_MINIMIZE);
+
     pump();
     ASSERT_TRUE(IsIconic(window()));
+
     tell(Gui::UM_SIZE_CHANGED, 350, 250);
     tell(Gui::UM_MOVE_WINDOW, packWindowMove({true, 11}), static_cast<LPARAM>(packWindowMove({true, -7})));
     EXPECT_TRUE(IsIconic(window()));
+
     frame->comeToFront();
     pump();
     ASSERT_FALSE(IsIconic(window()));
@@ -331,21 +340,28 @@ TEST_F(FrameWindowTest, AButtonActsWhenItIsLetGoWhereItWasPressed) {
     show();
     const FrameLayout layout = FrameLayout::around(300, 100);
     const Rect close = layout.close();
+
     tell(WM_NCLBUTTONDOWN, HTCLOSE, screenPoint(close.left + 5, close.top + 5));
     EXPECT_EQ(GetCapture(), window());
+
     tell(WM_MOUSEMOVE, MK_LBUTTON, clientPoint(100, 60));
     tell(WM_LBUTTONUP, 0, clientPoint(100, 60));
+
     pump();
     EXPECT_EQ(listener.closes, 0);
     EXPECT_EQ(GetCapture(), nullptr);
+
     tell(WM_NCLBUTTONDOWN, HTCLOSE, screenPoint(close.left + 5, close.top + 5));
     tell(WM_LBUTTONUP, 0, clientPoint(close.left + 5, close.top + 5));
+
     pump();
     EXPECT_EQ(listener.closes, 1);
     EXPECT_TRUE(IsWindow(window()));  // The listener decides.
+
     const Rect minimise = layout.minimise();
     tell(WM_NCLBUTTONDOWN, HTMINBUTTON, screenPoint(minimise.left + 5, minimise.top + 5));
     tell(WM_LBUTTONUP, 0, clientPoint(minimise.left + 5, minimise.top + 5));
+
     EXPECT_TRUE(pumpUntil([this] { return IsIconic(window()) != FALSE; }));
 }
 

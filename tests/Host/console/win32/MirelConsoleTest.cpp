@@ -149,15 +149,19 @@ TEST_F(MirelConsoleTest, ShowsADeskThatFillsItsFrameAndClosesIt) {
     const HWND frame = program.waitForFrame();
     ASSERT_NE(frame, nullptr) << readOutput();
     EXPECT_TRUE(waitForTitle(frame, "Mirel Console 3 LE"));
+
     const HWND desk = FindWindowExA(frame, nullptr, "MirelGuiWindow2008LE", nullptr);
     ASSERT_NE(desk, nullptr);
+
     RECT client;
     RECT inside;
+
     GetClientRect(frame, &client);
     GetClientRect(desk, &inside);
     EXPECT_EQ(client.right, inside.right);
     EXPECT_EQ(client.bottom, inside.bottom);
     EXPECT_GT(inside.right, 300);
+
     PostMessageA(frame, WM_CLOSE, 0, 0);
     EXPECT_EQ(program.wait(), 0u);
     EXPECT_TRUE(Platform::Files::size(folder.file("data/settings")));
@@ -342,16 +346,20 @@ TEST_F(MirelConsoleTest, ComesBackWhereItWas) {
 TEST_F(MirelConsoleTest, WritesWhatWasPlayed) {
     const std::string record = folder.file("played.mid");
     const Program program(data() + " --record \"" + record + "\"", output());
+
     const HWND frame = program.waitForFrame();
     ASSERT_NE(frame, nullptr) << readOutput();
+
     const HWND desk = FindWindowExA(frame, nullptr, "MirelGuiWindow2008LE", nullptr);
     // A key of the built-in keys that plays a note.
     SendMessageA(desk, WM_KEYDOWN, 'Q', 1);
     SendMessageA(desk, WM_KEYUP, 'Q', static_cast<LPARAM>(0xc0000001));
     SendMessageA(desk, WM_KEYDOWN, 'Z', 1);
     SendMessageA(desk, WM_KEYUP, 'Z', static_cast<LPARAM>(0xc0000001));
+
     PostMessageA(frame, WM_CLOSE, 0, 0);
     EXPECT_EQ(program.wait(), 0u);
+
     const std::string content = Platform::Files::read(record).value_or("");
     EXPECT_TRUE(content.starts_with("MThd"));
     EXPECT_NE(content.find('\x90'), std::string::npos);

@@ -129,6 +129,7 @@ TEST_P(KilledSaveTest, SettingsAreTheOldOrTheNewOnesWhereverASaveEnds) {
         settings.saveToRegistry("key");
     };
     save(0);
+
     std::set<std::string> seen;
     for (int i = 0; i < SETTINGS_KILLS && !HasFailure(); ++i) {
         killWhileSaving([&] { return save; }, m_random);
@@ -140,6 +141,7 @@ TEST_P(KilledSaveTest, SettingsAreTheOldOrTheNewOnesWhereverASaveEnds) {
         ASSERT_EQ(settings.getDisplayHeight(), static_cast<int>(bank.size())) << "one save, not parts of two";
         seen.insert(bank);
     }
+
     EXPECT_EQ(seen.size(), 2u) << "the kills came too early or too late to tell";
 }
 
@@ -152,6 +154,7 @@ TEST(FullDiskTest, WhatIsThereSurvivesASaveThatFindsNoRoom) {
     desk.write("a.prg", "old");
     desk.write("old.bnk", "P 1 " + std::string(5000, 'a') + "\n");
     std::string preset;
+
     desk.run([&](Mirel& mirel) {
         mirel.loadBank(desk.file("a.bnk"));
         mirel.getLayers().loadDefaultLayers();
@@ -176,6 +179,7 @@ TEST(FullDiskTest, WhatIsThereSurvivesASaveThatFindsNoRoom) {
     EXPECT_EQ(desk.read("a.prg"), "old");
     EXPECT_EQ(Files::read(desk.dataFile("Layer Presets", "a.pst")), preset);
     EXPECT_EQ(Files::size(desk.dataFile("Layer Presets", "b.pst")), std::nullopt);
+
     int entries = 0;
     for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(desk.file("")))
         ++entries;
@@ -190,12 +194,14 @@ TEST(FullDiskTest, SettingsThatFindNoRoomStayTheOldOnes) {
     settings.setDefaultBank("old");
     settings.saveToRegistry("key");
     const auto text = Files::read(path);
+
     {
         const FileSizeLimit full(10);
         settings.setDefaultBank("new");
         settings.saveToRegistry("key");
         EXPECT_EQ(store->open("key"), nullptr);
     }
+
     EXPECT_EQ(Files::read(path), text);
 }
 

@@ -120,6 +120,7 @@ TEST_F(InstallerTest, UninstallRemovesJustItsOwnDrivers) {
          {"midi6", "MirelMidiPort.dll"}});
     set(HKEY_LOCAL_MACHINE, INSTALLED, {{"midi2", "mirelmidiport.dll"}, {"midi5", "x.dll"}, {"midi6", "y.dll"}});
     set(HKEY_LOCAL_MACHINE, DESCRIPTIONS, {{"mirelmidiport.dll", "Mirel Console"}, {"other.dll", "Other"}});
+
     EXPECT_EQ(uninstall(), 0);
     EXPECT_EQ(get(DRIVERS), (Values{{"midi", "mirelmidiport.dll"},
                                     {"midi0", "mirelmidiport.dll"},

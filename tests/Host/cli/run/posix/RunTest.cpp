@@ -187,6 +187,7 @@ TEST_F(RunTest, RecordHoldsWhatCameOut) {
     m_player->send({0xc0, 5});
     m_player->send({0x80, 60, 64});
     m_player->send({0x90, 62, 100});
+
     ASSERT_TRUE(isHeard("92 4a 64"));
     EXPECT_EQ(endBy(SIGINT), 0) << m_program->output();
     ASSERT_TRUE(isHeard("82 4a 40")) << "what still sounds ends";
@@ -239,6 +240,7 @@ TEST_F(RunTest, TicksOfAnInputAreTheClock) {
     // Each tick in a cycle of its own, with a mark behind it.
     std::uint8_t mark = 0;
     std::size_t sent = 0;
+
     const auto sendTick = [&] {
         if (m_player->sent().size() < sent)
             return false;
@@ -247,16 +249,20 @@ TEST_F(RunTest, TicksOfAnInputAreTheClock) {
         sent += 2;
         return true;
     };
+
     // Events play as time passes. What is sent before the ports are connected is lost.
     ASSERT_TRUE(eventually([&] {
         if (mark < 40)
             sendTick();
         return !heard().empty();
     })) << m_program->output();
+
     m_player->send({0x90, 60, 100});
     ++sent;
     std::size_t ticks = 0;
+
     ASSERT_TRUE(eventually([&] { return (ticks += sendTick()) == QUARTERS * TICKS_IN_QUARTER; }));
+
     // What came with several ticks at once waits for another one.
     const std::string last = toText({0xb0, 0x10, mark});
     ASSERT_TRUE(eventually([&] {
@@ -266,6 +272,7 @@ TEST_F(RunTest, TicksOfAnInputAreTheClock) {
             ticks += sendTick();
         return false;
     })) << last;
+
     const std::size_t notes = count(heard(), "90 3c 64");
     EXPECT_GE(notes, QUARTERS);
     EXPECT_LE(notes, ticks / TICKS_IN_QUARTER + 2);
@@ -319,15 +326,19 @@ TEST_F(RunTest, TerminalThatTellsReleasesHoldsNotes) {
     startServer();
     ChildProcess& program = runWithPlayer({"--keys"}, ChildProcess::Streams::TERMINAL);
     ASSERT_TRUE(eventually([&] { return program.output().find("\x1b[?u") != std::string::npos; }));
+
     program.type("\x1b[?11u");
     // As the answer counts from the next keys on, and longer than a press that nobody ends.
     program.type("\x1b[113;1:1u\x1b[119;1:1u");
     ASSERT_TRUE(isHeard("92 4a 64"));
+
     program.type("\x1b[113;1:2u\x1b[113;1:3u");
     ASSERT_TRUE(isHeard("82 48 64"));
     EXPECT_EQ(heardAfterMark(), (Sequence{"90 3c 64", "92 48 64", "90 3e 64", "92 4a 64", "80 3c 64", "82 48 64"}));
+
     program.type("\x1b[119;1:3u");
     ASSERT_TRUE(isHeard("82 4a 64"));
+
     program.type("\x1b[99;5:1u");
     EXPECT_EQ(program.waitForExit(), 0) << program.output();
 }
@@ -351,6 +362,7 @@ TEST_F(RunTest, PauseEndsNotesAndGivesTheTerminalBackUntilItIsOver) {
     startServer();
     // Only a shell can have a program that pauses go on.
     m_shell = {"bash", "-c", R"(set -m; "$0" "$@"; echo paused; stty -a; read -r; fg; echo ended $?)"};
+
     for (const bool tellsKeys : {false, true}) {
         ChildProcess& program = runWithPlayer({"--keys"}, ChildProcess::Streams::TERMINAL);
         const auto asks = [&program](int times) {
@@ -392,13 +404,16 @@ TEST_F(RunTest, SongPlaysThroughTheDeskWhichThenEnds) {
     startServer();
     const std::string song = m_folder.file("song.mid");
     MidiFileWriter writer;
+
     writer.add(MidiFileWriter::CONDUCTOR, {0, 0xb0, 0, 7, 80, ""});
     writer.add(MidiFileWriter::CONDUCTOR, {240, 0x90, 0, 60, 100, ""});
     writer.add(MidiFileWriter::CONDUCTOR, {480, 0x80, 0, 60, 64, ""});
     ASSERT_TRUE(Files::replace(song, *writer.content(MidiFileWriter::Layout::SINGLE_TRACK)));
+
     const std::string record = m_folder.file("record.mid");
     run({"--in", m_player->output(), "--out", m_player->input(), "--bank", m_bank, "--play", song, "--record", record});
     EXPECT_EQ(m_program->waitForExit(), 0);
+
     const Sequence expected = {"b0 07 50", "b2 07 50", "90 3c 64", "92 48 64", "80 3c 40", "82 48 40"};
     ASSERT_TRUE(eventually([&] { return count(heard(), "82 48 40") > 0; }));
     EXPECT_EQ(heard(), expected);
@@ -447,15 +462,19 @@ TEST_F(RunTest, ServerThatHangsAtTheEndIsTold) {
 TEST_F(RunTest, VirtualPortsStandBetweenOtherPrograms) {
     // A server that waits for its clients hangs on those that end without a word.
     ASSERT_TRUE(m_server.start(JackTestServer::Cycles::IN_TIME)) << m_server.process()->output();
+
     ChildProcess dump({"stdbuf", "-o0", "jack_midi_dump"});
     ChildProcess sequencer({"jack_midiseq", "Seq", "4800", "0", "60", "2400"});
+
     run({"--virtual", "--bank", m_bank, "--in", "Mirel", "--out", "Mirel"});
     ASSERT_FALSE(m_program->hasEnded()) << m_program->output();
     ASSERT_TRUE(connect("Mirel:Mirel out", "midi-monitor:input")) << dump.output();
     ASSERT_TRUE(connect("Seq:out", "Mirel:Mirel in")) << sequencer.output();
+
     // Four rounds in a row: on a busy computer a client may miss a cycle before.
     const Sequence round = {"90 3c 40", "92 48 40", "80 3c 40", "82 48 40"};
     Sequence rounds;
+
     for (int i = 0; i < 4; ++i)
         rounds.insert(rounds.end(), round.begin(), round.end());
     EXPECT_TRUE(eventually([&] {

@@ -158,15 +158,19 @@ TEST_F(JackTest, PortsOfOtherProgramsAreListedAndTheOwnAreNot) {
     startServer();
     startMonitor();
     startSequencer();
+
     MidiPorts& ports = startPorts(DESK);
     EXPECT_GE(find(ports.inputs(), SEQUENCER), 0);
     EXPECT_GE(find(ports.outputs(), MONITOR), 0);
+
     const auto other = createMidiSystem("Other");
     EXPECT_EQ(other->name(), "JACK");
     EXPECT_TRUE(eventually([&other] { return contains(other->list().inputs, "Mirel:Mirel out"); }));
+
     update();
     for (const PortRow& row : ports.inputs())
         EXPECT_FALSE(row.id.name.starts_with("Mirel:")) << row.id.name;
+
     for (const PortRow& row : ports.outputs())
         EXPECT_FALSE(row.id.name.starts_with("Mirel:")) << row.id.name;
 }
@@ -188,14 +192,17 @@ TEST_F(JackTest, EventsOfAnotherProgramReachTheDesk) {
     startServer();
     startSequencer();
     MidiPorts& ports = startPorts();
+
     const int input = find(ports.inputs(), SEQUENCER);
     ASSERT_GE(input, 0);
+
     const auto isNote = [input](bool isOn) {
         return [input, isOn](const MirelMidiMessage& event) {
             return (isOn ? event.isNoteOn() : event.isNoteOff()) && event.getD1() == 60 && event.getInput() == input &&
                    event.isDefaultChannel();
         };
     };
+
     EXPECT_TRUE(comesIn(isNote(true)));
     EXPECT_TRUE(comesIn(isNote(false)));
 }
@@ -204,20 +211,26 @@ TEST_F(JackTest, ProgramThatComesBackTakesItsOldRow) {
     startServer();
     MidiPorts& ports = startPorts();
     EXPECT_EQ(find(ports.inputs(), SEQUENCER), -1);
+
     ChildProcess& sequencer = startSequencer();
     update();
+
     const int input = find(ports.inputs(), SEQUENCER);
     ASSERT_GE(input, 0);
+
     const auto isNoteOn = [](const MirelMidiMessage& event) { return event.isNoteOn(); };
     EXPECT_TRUE(comesIn(isNoteOn));
+
     sequencer.end();
     ASSERT_TRUE(eventually([&] {
         update();
         return find(ports.inputs(), SEQUENCER) == -1;
     }));
     EXPECT_FALSE(ports.inputs()[static_cast<std::size_t>(input)].available);
+
     m_events.take();
     startSequencer();
+
     update();
     EXPECT_EQ(find(ports.inputs(), SEQUENCER), input);
     EXPECT_TRUE(comesIn(isNoteOn));
@@ -228,17 +241,21 @@ TEST_F(JackTest, VirtualPortsAreConnectedByOtherPrograms) {
     ChildProcess& monitor = startMonitor();
     startSequencer();
     MidiPorts& ports = startPorts(DESK);
+
     for (int i = 0; i < static_cast<int>(ports.inputs().size()); ++i)
         if (ports.inputs()[static_cast<std::size_t>(i)].id.copy != PortList::BUILT_IN)
             ports.enableInput(i, false);
     for (int i = 0; i < static_cast<int>(ports.outputs().size()); ++i)
         if (ports.outputs()[static_cast<std::size_t>(i)].id.name == MONITOR)
             ports.enableOutput(i, false);
+
     EXPECT_TRUE(eventually([&ports] { return ports.isIdle(); }));
     ASSERT_TRUE(hasInput("Mirel:Mirel out") && hasOutput("Mirel:Mirel in"));
+
     connect(SEQUENCER, "Mirel:Mirel in");
     connect("Mirel:Mirel out", MONITOR);
     EXPECT_TRUE(comesIn([](const MirelMidiMessage& event) { return event.isNoteOn() && event.getD1() == 60; }));
+
     const int output = find(ports.outputs(), DESK);
     EXPECT_TRUE(playUntilPrinted(output, 0x0b07b3, monitor, "b3 07 0b")) << monitor.output();
 }
@@ -259,24 +276,30 @@ TEST_F(JackTest, DesksDoNotTakeEachOthersConnectionsForPorts) {
     startServer();
     startMonitor();
     startSequencer();
+
     MidiPorts& ports = startPorts(DESK);
     ASSERT_TRUE(hasInput("Mirel:to midi-monitor input") && hasOutput("Mirel:from Seq out"));
+
     MidiPorts second(createMidiSystem(DESK), MidiPorts::Options{std::string(), DESK}, [](const MirelMidiMessage&) {});
     second.update();
     ASSERT_TRUE(eventually([&second] { return second.isIdle(); }));
     ASSERT_TRUE(hasInput("Mirel 2:to midi-monitor input") && hasOutput("Mirel 2:from Seq out"));
+
     const auto isConnection = [](const PortRow& row) {
         return row.id.name.find(":to ") != std::string::npos || row.id.name.find(":from ") != std::string::npos;
     };
+
     // Each would make a new connection to the last one of the other at every look.
     for (int look = 0; look < 3; ++look) {
         update();
         second.update();
         ASSERT_TRUE(eventually([&second] { return second.isIdle(); }));
     }
+
     for (const std::vector<PortRow>& rows : {ports.inputs(), ports.outputs(), second.inputs(), second.outputs()})
         for (const PortRow& row : rows)
             EXPECT_FALSE(isConnection(row)) << row.id.name;
+
     EXPECT_GE(find(ports.inputs(), "Mirel 2:Mirel out"), 0);
     EXPECT_GE(find(second.outputs(), "Mirel:Mirel in"), 0);
 }
@@ -305,6 +328,7 @@ TEST_F(JackTest, PortsCloseWhileOtherProgramsChangeTheirs) {
         while (!isOver)
             other->openVirtualOutput("Notes");
     });
+
     for (int round = 0; round < ROUNDS; ++round) {
         auto first = desk->openVirtualOutput("First");
         auto second = desk->openVirtualInput("Second", [](const std::uint8_t*, std::size_t, std::int64_t) {});
@@ -312,6 +336,7 @@ TEST_F(JackTest, PortsCloseWhileOtherProgramsChangeTheirs) {
         const std::jthread closing([&first] { first = nullptr; });
         second = nullptr;
     }
+
     isOver = true;
 }
 
@@ -319,9 +344,11 @@ TEST_F(JackTest, DeskSurvivesTheEndOfTheServerAndFindsTheNextOne) {
     startServer();
     ChildProcess& first = startMonitor();
     MidiPorts& ports = startPorts();
+
     const int output = find(ports.outputs(), MONITOR);
     ASSERT_GE(output, 0);
     ASSERT_TRUE(playUntilTaken(output, 0x643c90));
+
     server().kill();
     first.kill();  // A client of the same name, left over, would take the next one's wake-ups.
     // More than the library's buffers hold: it must not wait for ever for room in them.
@@ -331,6 +358,7 @@ TEST_F(JackTest, DeskSurvivesTheEndOfTheServerAndFindsTheNextOne) {
         return find(ports.outputs(), MONITOR) == -1;
     }));
     EXPECT_FALSE(ports.play(output, 0x643c90, 0));
+
     startServer();
     ChildProcess& monitor = startMonitor();
     ASSERT_TRUE(eventually([&] {
@@ -344,18 +372,23 @@ TEST_F(JackTest, EndsOfNotesWaitForAServerThatHangs) {
     startServer(JackTestServer::Cycles::COMPLETE);  // What is played once must be heard.
     const JackTestClient synth("synth");
     MidiPorts& ports = startPorts();
+
     const int output = find(ports.outputs(), synth.input());
     ASSERT_GE(output, 0);
+
     const auto isHeard = [&synth](const std::vector<std::uint8_t>& bytes) {
         return eventually([&] {
             const auto events = synth.heard();
             return std::any_of(events.begin(), events.end(), [&](const auto& event) { return event.bytes == bytes; });
         });
     };
+
     ASSERT_TRUE(playUntilTaken(output, 0x643c91));
     ASSERT_TRUE(isHeard({0x91, 60, 100}));
+
     server().suspend(true);
     EXPECT_FALSE(ports.close()) << "who closes is told";
+
     server().suspend(false);
     EXPECT_TRUE(isHeard({0x81, 60, 64}));
 }
@@ -379,9 +412,12 @@ TEST_F(JackTest, ServerThatHangsHoldsUpNeitherTheSlicesNorTheEnd) {
     startServer();
     startMonitor();
     MidiPorts& ports = startPorts();
+
     const int output = find(ports.outputs(), MONITOR);
     ASSERT_TRUE(playUntilTaken(output, 0x643c90));
+
     server().suspend(true);
+
     std::atomic<int> slices{0};
     {
         PortPlayer player(ports);
@@ -392,8 +428,10 @@ TEST_F(JackTest, ServerThatHangsHoldsUpNeitherTheSlicesNorTheEnd) {
         });
         EXPECT_TRUE(eventually([&slices] { return slices > 200; }));
     }
+
     EXPECT_GT(ports.droppedEvents(), 0u) << "the port took no more";
     EXPECT_FALSE(ports.close(std::chrono::milliseconds(100)));
+
     server().suspend(false);
     endPorts();
     EXPECT_TRUE(eventually([] {
