@@ -50,11 +50,11 @@ Value sample() {
     else if constexpr (std::is_same_v<Value, Key>)
         return Key("Shift F1");
     else if constexpr (std::is_same_v<Value, SelectControlType::Mode>)
-        return SelectControlType::specific;
+        return SelectControlType::SPECIFIC;
     else if constexpr (std::is_same_v<Value, OnOffToggle>)
-        return OnOffToggle(OnOffToggle::off);
+        return OnOffToggle(OnOffToggle::OFF);
     else if constexpr (std::is_same_v<Value, NoteToggle>)
-        return NoteToggle(NoteToggle::type2);
+        return NoteToggle(NoteToggle::TYPE2);
     else if constexpr (std::is_same_v<Value, MidiEngine::MirelMidiMessage>)
         return MidiEngine::MirelMidiMessage(MidiEngine::MidiMessage::NoteOn, 60, 100, 3, 2, 1, 0, -1);
     else
