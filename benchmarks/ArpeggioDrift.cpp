@@ -1,4 +1,4 @@
-// How far does an arpeggio drift from the grid of 120 beats a minute within half a minute?
+// How far does an arpeggio drift from the grid within half a minute at 120 beats a minute?
 #include "Backend/core/MirelMessageManager.h"
 #include "Backend/core/installation/MirelUtils.h"
 #include "Backend/core/xml/XmlDocument.h"
@@ -35,7 +35,7 @@ constexpr std::int64_t LENGTH = 30000000;
 constexpr double GRID = 125000;                   // A sixteenth in microseconds.
 constexpr double TICK = 60 * 1e6 / (120 * 24.0);  // Of a clock master.
 
-// A computer with an input and an output that are this program's own. It keeps when notes come out.
+// A computer whose input and output belong to this program. It records when notes come out.
 class MeasuringSystem : public Host::MidiSystem {
 public:
     std::string name() override { return "measuring"; }
@@ -84,7 +84,7 @@ private:
     std::vector<std::int64_t> m_noteTimes;
 };
 
-// Sends the ticks of a master for as long, with what it is late itself.
+// Sends a master's ticks for the whole time, and returns how late each was sent.
 std::vector<double> sendTicks(MeasuringSystem& system) {
     const Platform::RaisedPriority priority;
     Platform::PreciseWait wait;
@@ -100,7 +100,7 @@ std::vector<double> sendTicks(MeasuringSystem& system) {
     return late;
 }
 
-// Each note against the place on the grid that it is nearest to; the first one is on the grid.
+// Compares each note with the nearest place on the grid; the first one defines the grid.
 bool reportDrift(const std::string& name, const std::vector<std::int64_t>& times) {
     if (static_cast<double>(times.size()) < static_cast<double>(LENGTH) / GRID * 0.9)
         return false;

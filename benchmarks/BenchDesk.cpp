@@ -25,7 +25,7 @@ public:
     std::unique_ptr<Host::OpenMidiPort> openVirtualOutput(const std::string&) override { return nullptr; }
 };
 
-// The desk takes the folder when it is made.
+// The desk uses the folder when it is created.
 std::string useFolder(const std::string& folder) {
     Backend::MirelUtils::useDataFolder(folder);
     return folder;

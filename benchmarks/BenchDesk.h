@@ -11,7 +11,7 @@
 
 namespace Benchmarks {
 
-// A desk with all its threads, on a computer without ports: its one output is the Recorder. It keeps its settings in a
+// A desk with all its threads, on a computer without ports: its only output is the Recorder. It keeps its settings in a
 // folder.
 class BenchDesk {
 public:
@@ -27,13 +27,13 @@ public:
 
     Backend::Mirel& mirel() { return m_mirel; }
 
-    // Waits asleep until the desk has done all that was posted.
+    // Waits, asleep, until the desk has handled everything that was posted.
     void waitUntilIdle();
 
-    // The same without sleep, for what is shorter than a wake-up.
+    // The same without sleeping, for what is shorter than a wake-up.
     void spinUntilIdle();
 
-    // How many slices somebody waited for so far.
+    // How many slices somebody has waited for so far.
     std::int64_t awaitedSlices() const { return m_awaitedSlices; }
 
     // [any] How many events the desk has handed to its host so far, and when the last one, on the monotonic clock.

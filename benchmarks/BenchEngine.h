@@ -9,7 +9,7 @@
 
 namespace Benchmarks {
 
-// An engine with one output, whose host and controls do nothing with what they are given.
+// An engine with one output whose host and controls ignore what they are given.
 class BenchEngine : private Backend::MidiEngine::MidiPlayer {
 public:
     explicit BenchEngine(const std::string& layersXml);

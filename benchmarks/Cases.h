@@ -9,16 +9,16 @@
 
 namespace Benchmarks {
 
-// One thing that is measured, set up and ready.
+// One thing to measure, set up and ready.
 class Case {
 public:
     virtual ~Case() = default;
 
-    // Does the measured operation this many times.
+    // Runs the measured operation this many times.
     virtual void run(std::int64_t operations) = 0;
 };
 
-// Adds a case that is set up by make. At the start of the program.
+// Adds a case that make sets up. Call it at the start of the program.
 void addCase(const std::string& name, std::function<std::unique_ptr<Case>()> make);
 
 }

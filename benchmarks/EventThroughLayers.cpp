@@ -1,4 +1,4 @@
-// What does an event cost on its way from the queue through the layers to the host?
+// What does an event cost from the queue through the layers to the host?
 #include "benchmarks/BenchEngine.h"
 #include "benchmarks/Cases.h"
 
@@ -15,7 +15,7 @@ std::vector<Backend::MidiEngine::MirelMidiMessage> makeEvents() {
     return events;
 }
 
-// Notes on and off in turn, many to a slice, so that the slice itself counts little.
+// Notes on and off in turn, many in one slice, so that the slice itself counts little.
 class EventThroughLayers : public Case {
 public:
     EventThroughLayers(const char* layer, int count) : m_engine(repeatLayer(layer, count)) { run(2 * EVENTS_A_SLICE); }

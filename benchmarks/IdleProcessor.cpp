@@ -1,4 +1,4 @@
-// How much of a processor does a desk take that does nothing, at a slice a millisecond?
+// How much processor time does an idle desk take, with one slice per millisecond?
 #include "Platform/MonotonicClock.h"
 #include "Platform/PreciseWait.h"
 #include "Platform/RaisedPriority.h"
@@ -16,7 +16,7 @@ namespace {
 
 constexpr int SECONDS = 30;
 
-// What nobody gets below on this computer: a thread that does nothing but wake up each millisecond.
+// The lower bound on this computer: a thread that does nothing but wake up each millisecond.
 void measurePausesAlone() {
     constexpr std::int64_t MILLISECOND = 1000;
     const Platform::RaisedPriority priority;
@@ -34,7 +34,7 @@ void measurePausesAlone() {
                        "% of a core");
 }
 
-// What each thread of a process has had so far in nanoseconds, by name.
+// The processor time of each thread of a process so far, in nanoseconds, by name.
 std::map<std::string, double> threadTimes(int pid) {
     std::map<std::string, double> times;
     for (const auto& thread : std::filesystem::directory_iterator("/proc/" + std::to_string(pid) + "/task")) {

@@ -1,10 +1,10 @@
-// How long does a note take through a running desk, from another JACK program and back to it?
+// How long does a note take from another JACK program through a running desk and back?
 //
-// The server has the dummy driver, 64 frames at 48000 a second. Frames are the server's own count: in it are the rest
-// of the cycle in which the note was sent, the slice that plays it and the wait for the cycle that carries it back, as
-// a loop of programs costs a cycle more than a chain. What a card would add for its buffers is not. The clock tells
-// when the program had the note in its hands, so there is in it what the system was late with waking the server and its
-// programs.
+// The server has the dummy driver, with 64 frames at 48000 a second. Frames are the server's own count: they include
+// the rest of the cycle in which the note was sent, the slice that plays it and the wait for the cycle that carries it
+// back, as a loop of programs costs one cycle more than a chain. What a sound card would add for its buffers is not
+// included. The clock gives the moment when the program had the note in its hands, so it includes the system's delay in
+// waking the server and its programs.
 #include "Platform/MonotonicClock.h"
 #include "Platform/Sleep.h"
 #include "Platform/TemporaryFolder.h"
@@ -43,7 +43,7 @@ std::optional<Host::JackTestClient::Event> findNote(const std::vector<Host::Jack
     return found == events.rend() ? std::nullopt : std::optional(*found);
 }
 
-// Sends a note that no other one near is like, and waits for it. Nothing if it does not come back.
+// Sends a note that differs from all others nearby, and waits for it. Nothing if it doesn't come back.
 std::optional<Latency> measure(Host::JackTestClient& player, std::uint8_t note, std::uint32_t frame) {
     player.forget();
     player.send({0x90, note, 100}, frame);

@@ -1,4 +1,4 @@
-// How long does it take from a key of the computer until the engine has its note?
+// How long does it take from a key press until the engine has its note?
 #include "Backend/core/MirelMessageManager.h"
 #include "Backend/input/Key.h"
 #include "Platform/MessageThread.h"
@@ -23,7 +23,7 @@ double microsecondsSince(Clock::time_point start) {
     return std::chrono::duration<double, std::micro>(Clock::now() - start).count();
 }
 
-// The threads between are asleep before each key, as they are when somebody plays.
+// Before each key the threads in between are asleep, as when somebody plays.
 void waitForNextPress() {
     Platform::sleepMilliseconds(2);
 }
@@ -47,7 +47,7 @@ void measureDesk() {
     reportSpread("from a key to the engine", microseconds, "us", AIM_MICROSECONDS);
 }
 
-// What nobody gets below on this computer: one thread wakes another, which wakes a third.
+// The lower bound on this computer: one thread wakes another, which wakes a third.
 void measureWakesAlone() {
     std::atomic<int> arrived{0};
     Platform::MessageThread first;

@@ -1,4 +1,4 @@
-// How much memory does a desk take that has been started and does nothing?
+// How much memory does a started desk take while it does nothing?
 #include "Platform/Sleep.h"
 #include "Platform/TemporaryFolder.h"
 #include "benchmarks/Report.h"
@@ -10,7 +10,7 @@
 
 namespace {
 
-// The sum of the lines of a process's memory map that begin so, in MiB.
+// The sum of the lines of a process's memory map that start with this, in MiB.
 double sumOf(int pid, const std::string& begin) {
     constexpr double KIBIBYTES_IN_MEBIBYTE = 1024;
     std::ifstream map("/proc/" + std::to_string(pid) + "/smaps_rollup");

@@ -10,7 +10,7 @@ using Backend::MidiEngine::MirelMidiMessage;
 
 class PostToEngine : public Case {
 public:
-    // A timed event takes the way over the heap.
+    // A timed event goes through the heap.
     explicit PostToEngine(std::int32_t ppq)
         : m_engine("<Layers/>"), m_event(MidiMessage::NoteOn, 60, 100, {}, {.ppq = ppq}) {}
 

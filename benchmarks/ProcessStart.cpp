@@ -22,13 +22,13 @@ double millisecondsSince(std::int64_t start) {
     return static_cast<double>(Platform::monotonicMicroseconds() - start) / 1000;
 }
 
-// The first start of all does that.
+// The very first start does that.
 bool makeFolders(const std::string& folder) {
     RunningProgram program(folder);
     return program.waitUntilPlaying();
 }
 
-// On a computer without MIDI: until it says that it plays, at which moment a note would be played.
+// On a computer without MIDI: until it reports that it plays, at which moment a note would be played.
 bool measureAlone(const std::string& folder) {
     std::vector<double> milliseconds;
     for (int i = 0; i < STARTS; ++i) {
@@ -42,7 +42,7 @@ bool measureAlone(const std::string& folder) {
     return true;
 }
 
-// At a JACK server: until the first of the notes that another program plays all the time comes back to it.
+// At a JACK server: until the first of the notes that another program keeps playing comes back to it.
 bool measureAtServer(const std::string& folder) {
     Host::JackTestServer server;
     if (!server.start(Host::JackTestServer::Cycles::IN_TIME, FRAMES_IN_CYCLE))

@@ -1,4 +1,4 @@
-// How long does it take, from the reset until all is rebuilt, to change the program while the player runs?
+// How long does a change of program take while the player runs, from the reset until everything is rebuilt?
 #include "Backend/core/MirelMessageManager.h"
 #include "Backend/core/files/Bank.h"
 #include "Backend/core/files/Program.h"
@@ -17,9 +17,9 @@ namespace {
 using namespace Benchmarks;
 
 constexpr int CHANGES = 200;
-constexpr int PROGRAMS = 8;  // All of a bank is read for one program of it; how large that may be is BankLoad's matter.
+constexpr int PROGRAMS = 8;  // The whole bank is read for one program of it; BankLoad measures how the size matters.
 
-// False if the desk did not do what it was asked for.
+// False if the desk did not do what was asked.
 bool measure(const std::string& folder, BenchDesk::Slices slices, const char* name, std::optional<double> aim) {
     const std::string bank = Platform::Files::join(folder, "full.bnk");
     if (!Platform::Files::replace(bank, makeFullBank(PROGRAMS)))

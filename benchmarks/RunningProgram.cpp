@@ -21,7 +21,7 @@ RunningProgram::RunningProgram(const std::string& dataFolder, const std::vector<
 bool RunningProgram::waitUntilPlaying() {
     constexpr auto PATIENCE = std::chrono::seconds(20);
     const auto limit = std::chrono::steady_clock::now() + PATIENCE;
-    // What it plays with is the last thing it says.
+    // Its last line names what it plays with.
     while (m_process.output().find(" bpm\n") == std::string::npos) {
         if (std::chrono::steady_clock::now() > limit)
             return false;

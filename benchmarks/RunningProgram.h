@@ -7,12 +7,12 @@
 
 namespace Benchmarks {
 
-// "mirel run" as a process of its own, on a data folder of the caller's.
+// "mirel run" as a separate process, on the caller's data folder.
 class RunningProgram {
 public:
     RunningProgram(const std::string& dataFolder, const std::vector<std::string>& options = {});
 
-    // Waits until it has said that it plays. False if it never does.
+    // Waits until it has reported that it plays. False if it never does.
     bool waitUntilPlaying();
 
     int pid() const { return m_process.pid(); }

@@ -1,4 +1,4 @@
-# Language, warnings and sanitizers, the same for every target of ours.
+# Language, warnings and sanitizers, the same for all of our targets.
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)

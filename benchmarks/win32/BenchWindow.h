@@ -9,7 +9,7 @@
 
 namespace Benchmarks {
 
-// The window of a desk, in a frame of its own, with all its screens showing. The thread that makes it is the window's.
+// The window of a desk, in a frame of its own, with all its screens showing. It belongs to the thread that creates it.
 class BenchWindow {
 public:
     explicit BenchWindow(BenchDesk& desk);
@@ -21,10 +21,10 @@ public:
     HWND handle() { return m_gui->getWindowHandle(); }
     HWND frame() { return m_frame; }
 
-    // Hands out the messages that wait.
+    // Dispatches the waiting messages.
     void pump();
 
-    // Hands out messages until the desk and its log have done all.
+    // Dispatches messages until the desk and its log have finished.
     void pumpUntilIdle();
 
 private:

@@ -1,4 +1,4 @@
-// How long does it take from a key of the keyboard, through the window, until the desk hands the note to its host?
+// How long does it take from a key press, through the window, until the desk hands the note to its host?
 #include "Platform/MonotonicClock.h"
 #include "Platform/Sleep.h"
 #include "Platform/TemporaryFolder.h"

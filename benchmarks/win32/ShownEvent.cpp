@@ -1,4 +1,4 @@
-// What does an event cost that the window shows, on the window's thread and until its line stands in the log?
+// What does an event shown in the window cost, on the window's thread and until its line is in the log?
 #include "Platform/MonotonicClock.h"
 #include "Platform/TemporaryFolder.h"
 #include "benchmarks/Report.h"

@@ -1,4 +1,4 @@
-// How soon does the window answer while ten thousand events a second pour through the desk for twenty seconds?
+// How soon does the window answer while the desk handles ten thousand events a second for twenty seconds?
 #include "Platform/MonotonicClock.h"
 #include "Platform/Sleep.h"
 #include "Platform/TemporaryFolder.h"

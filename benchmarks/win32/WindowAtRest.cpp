@@ -1,4 +1,4 @@
-// How much memory and how many objects of the system does a desk hold whose window shows and which does nothing?
+// How much memory and how many system objects does a desk hold while its window shows and nothing happens?
 #include "Platform/TemporaryFolder.h"
 #include "benchmarks/Report.h"
 #include "benchmarks/win32/BenchWindow.h"

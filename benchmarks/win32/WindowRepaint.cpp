@@ -1,4 +1,4 @@
-// How long does it take to paint the whole window anew?
+// How long does it take to repaint the whole window?
 #include "Platform/MonotonicClock.h"
 #include "Platform/TemporaryFolder.h"
 #include "benchmarks/Report.h"

@@ -37,7 +37,7 @@ HWND findWindow(DWORD process) {
     return search.found;
 }
 
-// Milliseconds; below 0 if no window shows.
+// Milliseconds; negative if no window shows.
 double measureStart(const std::string& folder) {
     std::string command = std::string(MIREL_CONSOLE) + " --data \"" + folder + "\"";
     STARTUPINFOA startup = {};

@@ -13,7 +13,7 @@ from desk import DataFolder, presets
 
 PROGRAM = []
 
-# What sounds while keys are held: one row a preset, of pairs of the held keys and the (channel, note, velocity) that
+# What sounds while keys are held: one row per preset, of pairs of the held keys and the (channel, note, velocity) that
 # sound. The keys of a pair go down in order, and all go up before the next pair.
 HELD = {
     "000 - Default": [("Q", {(0, 60, 100)}), ("Z E", {(0, 48, 100), (0, 64, 100)})],
@@ -79,7 +79,7 @@ TOGGLED = {"013 - Toggled Drones", "014 - Latched Bass Pedal"}
 
 
 def sounding(played):
-    """The (channel, note, velocity) that go on."""
+    """The (channel, note, velocity) that keep sounding."""
     velocities = {(event.channel, event.d1): event.d2 for event in played if event.status == 0x90}
     return {(*note, velocities[note]) for note in listening.hanging(played)}
 
@@ -95,7 +95,7 @@ class LayerPresetsTest(unittest.TestCase):
     def testEachPresetIsHeard(self):
         self.assertEqual(sorted({*HELD, *ARPEGGIOS, *TOGGLED}), presets("layers"))
 
-    # The presets are loaded one after the other in one desk; what one left behind would be heard in the next one.
+    # The presets are loaded one after the other in one desk, so that anything left behind shows in the next one.
     def testHeldKeys(self):
         take = listening.Take("desk")
         times = []

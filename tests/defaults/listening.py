@@ -1,4 +1,4 @@
-"""What a desk sounds like: which notes it starts, and which of them go on."""
+"""What a desk sounds like: which notes it starts, and which of them keep sounding."""
 import collections
 import re
 
@@ -9,7 +9,7 @@ Event = collections.namedtuple("Event", "time status d1 d2 channel")
 
 
 def events(lines):
-    """The events that a script's lines tell of."""
+    """The events in the lines that a script printed."""
     found = []
     for line in lines:
         match = re.match(r"@(-?\d+) play 0x(\w\w) (\d+) (\d+) ch=(\d+) out=0$", line)
@@ -40,7 +40,7 @@ def onsets(played, start):
 
 
 class Take:
-    """A script with a clock: it writes commands down and remembers where they stand in time."""
+    """A script with a clock: it records commands and when they happen."""
 
     def __init__(self, *lines):
         self.now = 0

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Every note key of every program and of every layer preset sounds, and nothing sounds on after it, or after a reset.
+"""Every note key of every program and every layer preset sounds, and nothing keeps sounding after it or after a reset.
 
 usage: no_hanging_note_test.py PROGRAM...
 """
@@ -13,7 +13,7 @@ from desk import DEFAULTS, DataFolder, presets
 PROGRAM = []
 BANK = "Factory.bnk"
 NAMES = re.findall(r'<Program name="([^"]*)"', (DEFAULTS / BANK).read_text())
-# Keys of a set-up whose layers toggle sound until they are pressed again.
+# If its layers toggle, the keys of a set-up sound until they are pressed again.
 TOGGLES = ("Toggled Drones", "Latched")
 
 

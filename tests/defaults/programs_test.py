@@ -121,7 +121,7 @@ class ProgramsTest(unittest.TestCase):
         self.assertEqual([row.name for row in ROWS], NAMES)
         self.assertEqual(len(NAMES), len(set(NAMES)))
 
-    # One after the other in one desk, so that what a program leaves behind would be heard in the next one.
+    # One after the other in one desk, so that anything a program leaves behind shows in the next one.
     def testProgramsPlay(self):
         take = listening.Take("outputs 1", f"bank {BANK}")
         starts = []
@@ -171,7 +171,7 @@ class ProgramsTest(unittest.TestCase):
             lines = (DEFAULTS / "Layer Presets" / f"{preset}.pst").read_text().splitlines()[2:]
             self.assertIn("\n".join(f"\t{line}" for line in lines), block(name), name)
 
-    # Loads a program afresh for each row, presses and releases its keys one after the other, then holds the last one.
+    # Reloads a program for each row, presses and releases its keys one after the other, then holds the last one.
     # Compares what begins then, as (channel, note).
     def checkHeardAfter(self, name, rows):
         take = listening.Take("outputs 1", f"bank {BANK}")
@@ -280,7 +280,7 @@ class ProgramsTest(unittest.TestCase):
         tempos = [int(line.split()[0]) for line in self.data.run(lines)]
         self.assertEqual([tempo for _, _, tempo in rows], tempos)
 
-    # Loads a program afresh for each row, presses its keys, and returns the events that each row sends.
+    # Reloads a program for each row, presses its keys, and returns the events that each row sends.
     def sentBy(self, name, rows):
         take = listening.Take("outputs 1", f"bank {BANK}")
         starts = []

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Every file that comes with the desk is as the desk itself writes it: nothing in it is ignored or defaulted.
+"""Every file that comes with the desk is exactly what the desk itself writes: nothing in it is ignored or defaulted.
 
 usage: round_trip_test.py PROGRAM...
 """

@@ -30,7 +30,7 @@ def eventually(condition, what):
 
 
 def xdotool(*words):
-    """What a user does. The X server has it in order when this returns."""
+    """Sends a user's input. The X server has it, in order, when this returns."""
     return subprocess.run(["xdotool", *map(str, words)], capture_output=True, text=True).stdout
 
 
@@ -43,7 +43,7 @@ def click(x, y, button=1):
 
 
 def drag(begin, *ways):
-    """Presses at a point, moves over others and lets go at the last."""
+    """Presses at a point, moves over others and releases at the last one."""
     words = ["mousemove", *begin, "mousedown", 1]
     for point in ways:
         words += ["mousemove", *point]
@@ -123,7 +123,7 @@ class Console(Window):
 
     def _wait_until_ready(self, has_program):
         super().__init__(eventually(lambda: self.find_window("Mirel Console 3 LE$"), "the desk's window shows"))
-        # All is drawn once the last button is.
+        # Everything is drawn once the last button is.
         eventually(lambda: self.button_colour("K") == BUTTON, "the desk's buttons show")
         if has_program:
             eventually(lambda: self.find_window("Test - Mirel Console 3 LE$"), "the program is loaded")
@@ -138,7 +138,7 @@ class Console(Window):
         self._temporary.cleanup()
 
     def find_window(self, title):
-        """The X window of this process whose title has this in it, or None."""
+        """The X window of this process with this in its title, or None."""
         found = xdotool("search", "--all", "--onlyvisible", "--pid", self._process.pid, "--name", title).split()
         return found[0] if found else None
 
@@ -149,7 +149,7 @@ class Console(Window):
         self.click(*self.BUTTONS[button])
 
     def button_colour(self, button):
-        """Of its ground: that of a point beside the letters."""
+        """The colour of its background, at a point beside the letters."""
         x, y = self.BUTTONS[button]
         return self.picture(x - 8, y - 8, 1, 1).at(0, 0)
 
@@ -170,7 +170,7 @@ class Console(Window):
         return self.picture(12, self.LOG_TOP, 60, 96)
 
     def wait_for_log(self, lines):
-        """Until it shows as many lines, up to eight; the first one is the product's name."""
+        """Waits until it shows this many lines, up to eight; the first one is the product's name."""
         def shown():
             picture = self.log()
             return sum(any(picture.at(x, y) == TEXT for x in range(picture.width) for y in range(top, top + LINE))

@@ -1,4 +1,4 @@
-"""The desk as a user has it before him: a program on a screen, with a mouse and a keyboard.
+"""The desk as users see it: a program on a screen, with a mouse and a keyboard.
 
 Runs on an X server without a window manager; MIREL_CONSOLE is the program, MIREL_LOOP_DRIVER a driver of MIDI devices.
 """
@@ -17,7 +17,7 @@ ALL_SOUND_OFF = 120
 
 
 def key(name, *functions, use_key_up_mod=False):
-    """What a program says of a key. Its release is one with modifiers only if they are used."""
+    """A key's entry in a program. Its release looks at modifiers only if they are used."""
     return (f'<ComputerInput merge="false" useKeyUpMod="{str(use_key_up_mod).lower()}">'
             f'<Key id="{name}">{"".join(functions)}</Key></ComputerInput>')
 

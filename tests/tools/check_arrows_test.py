@@ -1,4 +1,4 @@
-"""The arrows check finds each kind of break, and nothing in a tree without one."""
+"""check-arrows finds each kind of violation, and nothing in a tree without one."""
 import pathlib
 import subprocess
 import sys
@@ -15,7 +15,7 @@ GOOD = {
     "Host/common/ports/win32/Midi.cpp": '#include "Host/common/ports/win32/Midi.h"\n#include <windows.h>\n#ifdef _WIN64\n#endif\n',
     "Host/cli/main.cpp": '#include "Gui/MirelGui.h"\n#include "Backend/midi/engine/MidiEngine.h"\n',
 }
-# What a file holds, and what is said of it.
+# The content of a file, and the complaint about it.
 BAD = {
     "Platform/Clock.cpp": ('#include "Backend/core/Text.h"\n', "Platform must not know Backend/core/Text.h"),
     "Backend/midi/Layer.cpp": ('#include "Gui/Utils/Panel.h"\n', "Backend must not know Gui/Utils/Panel.h"),

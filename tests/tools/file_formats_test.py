@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Files of the desk as another XML library sees them.
+"""The desk's files as another XML library sees them.
 
 usage: file_formats_test.py PROGRAM...
 
@@ -30,7 +30,7 @@ class FileFormatsTest(unittest.TestCase):
             (self.folder / name).write_bytes((DATA / "banks" / name).read_bytes())
 
     def run_script(self, *lines):
-        """Runs these commands, and gives what they print."""
+        """Runs these commands and returns what they print."""
         done = subprocess.run([*PROGRAM, "script", "--data", "data", "-"], cwd=self.folder, capture_output=True,
                               input="\n".join(lines).encode())
         self.assertEqual(done.stderr.decode(), "")
