@@ -10,7 +10,7 @@
 
 namespace Gui {
 
-// Posts one conversion when it opens, and closes when the desk has done it. [gui]
+// Posts one conversion when it opens, and closes when the desk has finished it. [gui]
 template <void (Backend::MirelMessageManager::*POST)(const std::string& from, const std::string& to, HWND notify),
           UINT DONE>
 class ImportVersion2Dialog : public ModalDialog {

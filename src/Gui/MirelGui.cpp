@@ -1,5 +1,5 @@
-// The window's life. What it does while it lives stands in MirelGuiWindow.cpp (messages and keys), MirelGuiPanels.cpp
-// (which screens show), MirelGuiChanges.cpp (what the desk tells) and MirelGuiDialogs.cpp.
+// The window's life. Its other parts are in MirelGuiWindow.cpp (messages and keys), MirelGuiPanels.cpp (which screens
+// show), MirelGuiChanges.cpp (changes from the desk) and MirelGuiDialogs.cpp.
 #include "Gui/MirelGui.h"
 
 #include "Backend/core/MirelIF.h"
@@ -56,7 +56,7 @@ MirelGui::MirelGui(Backend::MirelIF& mirel, const Backend::RegistrySettings& set
 
 MirelGui::~MirelGui() = default;
 
-// Where the installer put the desk, or, for a desk that was only copied somewhere, where it is.
+// Where the installer put the desk or, for a desk that was merely copied, where it is.
 std::string MirelGui::findHookFolder() {
     std::string folder = Backend::MirelUtils::getMirelProgDir();
     if (!folder.empty())
@@ -103,7 +103,7 @@ void MirelGui::createWindows() {
     subclass(m_focusWindow, "ORIG_PROC", focusControlProc);
 }
 
-// Thru and global keyboard stand in one place; only the latter is ever shown.
+// Thru and global keyboard share one place; only the latter is ever shown.
 void MirelGui::createButtons() {
     constexpr int RESET_X = 5;
     constexpr int SECOND_X = 37;
@@ -187,10 +187,10 @@ void MirelGui::initialize() {
 void MirelGui::destroy() {
     if (!std::exchange(m_isCreated, false))
         return;
-    if (m_windowHandle)  // The host may have destroyed it with its own.
+    if (m_windowHandle)  // The host may have destroyed it along with its own.
         DestroyWindow(m_windowHandle);
     m_mirelIF.setGuiWindowHandle(nullptr);
-    // The log's thread must not show anything to a panel that is gone.
+    // The log's thread must not use a panel that is gone.
     m_mirelIF.getDisplayMessageManager().sendSetListener(nullptr);
     m_keyboardHookProxy.setEnabled(false);
     m_keyboardHookProxy.setWindowHandle(nullptr);

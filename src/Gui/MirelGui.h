@@ -27,11 +27,11 @@
 
 namespace Gui {
 
-// The desk's window: a child of a window of the host, with all screens in it. It owns the screens' copies of what they
-// show, and is the one way between them and the desk. See MirelGuiIF.
+// The desk's window: a child of a window of the host, with all screens in it. It owns the copies of what the screens
+// show; all traffic between them and the desk passes through it. See MirelGuiIF.
 class MirelGui : public MirelGuiIF, private Button::Listener {
 public:
-    // [backend] Takes copies of all that it is given, and of the desk's present bank and program.
+    // [backend] Copies everything it is given, and the desk's current bank and program.
     MirelGui(Backend::MirelIF& mirel, const Backend::RegistrySettings& settings,
              const std::vector<Backend::MidiEngine::MidiInputPort>& inputs,
              const std::vector<Backend::MidiEngine::MidiOutputPort>& outputs,
@@ -145,7 +145,7 @@ public:
     void handleLargeDisplayFontChanged(bool large) override;
     void handleClickZoneChannelTransposeChanged(bool value) override;
 
-    // Change the window's copy of a setting, and nothing else.
+    // These only change the window's copy of a setting.
     void handleDisplayNumbersChanged(bool numbers);
     void handleDisplayMidiInputEventsChanged(bool display);
     void handleDisplayMidiOutputEventsChanged(bool display);

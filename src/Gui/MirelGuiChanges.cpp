@@ -1,4 +1,4 @@
-// What the desk tells its window: each change goes into the window's own copy and then to the screens that show it.
+// Changes from the desk: each goes into the window's own copy and then to the screens that show it.
 #include "Gui/MirelGui.h"
 
 #include "Backend/core/MirelIF.h"
@@ -159,7 +159,7 @@ void MirelGui::enableHook(bool enable) {
 void MirelGui::showGlobalKeyboard() {
     m_systemPanel.refreshSettings();
     m_globalKeyButton.setState(m_settings.getGlobalKeyboard());
-    // The keys that the hook has brought end elsewhere from now on.
+    // The releases of keys that came through the hook go elsewhere from now on.
     if (!m_settings.getGlobalKeyboard() && !hasKeyboard())
         releaseHeldKeys();
 }
@@ -197,13 +197,13 @@ void MirelGui::addSequencePreset(const std::string& name, const std::string& seq
     getMirelMessageManager().postAddSequencePreset(name, sequence);
 }
 
-// The desk may wait for its log, and that for this thread's windows.
+// The desk may wait for its log, and the log for this thread's windows.
 void MirelGui::waitForDesk() const {
     while (!m_mirelIF.getMessageManagerMaster().isIdle())
         Platform::sleepAnsweringWindows(1);
 }
 
-// A preset may just be on its way to its file.
+// A preset may be about to be written to its file.
 void MirelGui::editSequencePreset(const std::string& name, const std::string& newName) {
     waitForDesk();
     SequencePresetManager presets = readSequencePresets();

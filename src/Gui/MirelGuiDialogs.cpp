@@ -1,4 +1,4 @@
-// What the window asks the user, and what it tells.
+// The window's questions and messages to the user.
 #include "Gui/MirelGui.h"
 
 #include "Backend/core/MirelMessageManager.h"

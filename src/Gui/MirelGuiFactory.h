@@ -14,7 +14,7 @@ namespace Gui {
 
 class MirelGuiIF;
 
-// Where windows come from. What implements it belongs to the build: the screens, or nothing.
+// Creates the desk's window. The build decides which implementation it has: the screens, or nothing.
 class MirelGuiFactory {
 public:
     // [backend] A new GUI with copies of what it is given, not yet on the screen; null in a build without windows. The

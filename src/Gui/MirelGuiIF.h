@@ -41,23 +41,23 @@ class PresetGuiOwner;
 
 // The desk's window, as the host, the backend and the panels see it.
 //
-// All is for the thread of the window [gui], but for the construction, which happens on the backend's thread and
-// touches no window. The getters give the window's own copies. The handle... operations take over what the backend has
-// changed; nothing here changes the desk but by the messages of getMirelMessageManager().
+// Everything is for the window's thread [gui], except the construction, which happens on the backend's thread and
+// touches no window. The getters return the window's own copies. The handle... operations take over what the backend
+// has changed; nothing here changes the desk except through the messages of getMirelMessageManager().
 class MirelGuiIF {
 public:
     virtual ~MirelGuiIF() = default;
 
-    // [gui, after create] Fills the screens with what the desk holds.
+    // [gui, after create] Fills the screens with the desk's data.
     virtual void initialize() = 0;
 
     // Does nothing.
     virtual void update() = 0;
 
-    // [host's gui thread] Makes the window with its panels as a child of this one. Once.
+    // [host's gui thread] Creates the window and its panels as a child of this one. Call it once.
     virtual void create(HWND parentWindow) = 0;
 
-    // Destroys the window and tells the desk that there is none.
+    // Destroys the window and lets the desk know.
     virtual void destroy() = 0;
 
     virtual GdiManager& getGdiManager() = 0;
@@ -83,7 +83,7 @@ public:
     virtual const Backend::Program& getCurrentProgram() const = 0;
     virtual Backend::Program& getCurrentProgram() = 0;
 
-    // Ask the user, and post what was chosen.
+    // Ask the user, and post the choice.
     virtual void showLoadDialog() = 0;
     virtual void showSetupDialog() = 0;
     virtual void importVersion2File() = 0;
@@ -116,7 +116,7 @@ public:
     virtual void toggleOutput() = 0;
     virtual bool isOutputPanelShowing() = 0;
 
-    // The next three lie in the output panel, which shows with them.
+    // CC, layer and zone lie in the output panel, which shows with them.
     virtual void showCc(bool show) = 0;
     virtual void toggleCc() = 0;
     virtual bool isCcPanelShowing() = 0;
@@ -130,7 +130,7 @@ public:
     virtual void toggleZone() = 0;
     virtual bool isZonePanelShowing() = 0;
 
-    // Asks the host to move; relative values move from where it is, fixed ones are of the screen. In pixels.
+    // Asks the host to move. Relative values are offsets, fixed ones screen positions. In pixels.
     virtual void moveWindow(const RelativeFixedValue& x, const RelativeFixedValue& y) = 0;
 
     // Shows an event that was played.
@@ -156,7 +156,7 @@ public:
     virtual void deleteSequencePreset(const std::string& name) = 0;
     virtual Backend::SequenceManagement::SequencePresetList& getSequencePresetList() = 0;
 
-    // Gives the keyboard to the desk.
+    // Gives the desk the keyboard focus.
     virtual void setFocus() = 0;
 
     virtual void showProgramMenu() = 0;
@@ -177,7 +177,7 @@ public:
     virtual void displayHelp(HWND window) = 0;
     virtual void displayHelp(int id) = 0;
 
-    // Of the host's window, on the screen.
+    // The place of the host's window on the screen.
     virtual Rect getMainWindowPosition() = 0;
 
     virtual bool isVstPlugin() = 0;

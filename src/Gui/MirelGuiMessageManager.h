@@ -6,7 +6,7 @@ namespace Gui {
 
 class MirelGui;
 
-// Brings the desk's notifications to its window (Backend/core/WindowMessages.h). [gui]
+// Passes the desk's notifications to its window (Backend/core/WindowMessages.h). [gui]
 class MirelGuiMessageManager : public Backend::GuiMessageManager {
 public:
     explicit MirelGuiMessageManager(MirelGui& gui) : m_gui(gui) {}

@@ -9,7 +9,7 @@ namespace Gui {
 
 namespace {
 
-// The window without a screen: nothing but its edges, before the first one shows, or a strip with two buttons.
+// The window without a screen: only its edges, before the first one shows, or a strip with two buttons.
 constexpr int EMPTY_WIDTH = 0;
 constexpr int EMPTY_HEIGHT = 10;
 constexpr int COLLAPSED_WIDTH = 104;
@@ -100,7 +100,7 @@ void MirelGui::toggleOutput() {
     showOutput(!m_outputPanel.isVisible());
 }
 
-// A panel of the output screen can be seen with that screen only.
+// A panel of the output screen is visible only together with that screen.
 void MirelGui::showInOutput(Panel& panel, Button& button, bool show) {
     if (show && !m_outputPanel.isVisible())
         showOutput(true);

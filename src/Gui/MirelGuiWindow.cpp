@@ -69,7 +69,7 @@ LRESULT MirelGui::windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lP
             m_focusWindow = nullptr;
             return 0;
         case WM_SIZE:
-            m_windowHandle = window;  // The first one comes before its creation has returned.
+            m_windowHandle = window;  // The first message comes before the creation has returned.
             handleSize(wParam, lParam);
             return 0;
         case WM_ERASEBKGND: {
@@ -82,12 +82,12 @@ LRESULT MirelGui::windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lP
         case UM_RETURN_FOCUS: setFocus(); return 0;
         case WM_MOUSEWHEEL: handleMouseWheel(wParam, lParam); return 0;
         case UM_HOVER: m_helpPanel.showHelp(reinterpret_cast<HWND>(lParam)); return 0;
-        case WM_SYSCHAR: return 0;  // Alt with a key makes no sound.
+        case WM_SYSCHAR: return 0;  // Keeps Alt with a key from beeping.
         default: return DefWindowProcA(window, message, wParam, lParam);
     }
 }
 
-// In a plug-in the main window belongs to another program's keys; this control has the keyboard in its stead.
+// In a plug-in another program takes the main window's keys, so this control has the keyboard instead.
 LRESULT CALLBACK MirelGui::focusControlProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     constexpr const char* ORIGINAL = "ORIG_PROC";
     switch (message) {
@@ -142,7 +142,7 @@ void MirelGui::showKeyReleased(const Key& key) {
     keyboard.redraw();
 }
 
-// Whoever gets the keyboard now will hear how these keys come up, and not the desk. Their notes would never end.
+// Whoever gets the keyboard now will get the releases of these keys instead of the desk, and their notes would hang.
 void MirelGui::releaseHeldKeys() {
     for (const Key& key : m_heldKeys.takeAll()) {
         showKeyReleased(key);
@@ -165,7 +165,7 @@ void MirelGui::handleSize(WPARAM wParam, LPARAM lParam) {
 // The wheel turns what is under the pointer, whatever has the keyboard.
 void MirelGui::handleMouseWheel(WPARAM wParam, LPARAM lParam) const {
     const HWND window = WindowFromPoint({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
-    // To the windows of other programs the number means something else.
+    // To windows of other programs, the number means something else.
     if (window && GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId())
         SendMessageA(window, UM_MOUSEWHEEL, wParam, lParam);
 }
@@ -200,13 +200,13 @@ void MirelGui::handleDestroy(HWND window) {
     getMirelMessageManager().postRemoveGuiWindowHandle();
 }
 
-// What the desk has sent in messages belongs to whoever takes them, and the system only forgets those of a window that
-// is gone.
+// The receiver of a message owns the objects that the desk sent in it, and the system silently drops messages to a
+// window that is gone.
 void MirelGui::takeLastMessages(HWND window) {
     std::optional<int> exitCode;
     MSG message;
     while (PeekMessageA(&message, window, Backend::MIREL_GUI_RANGE.first, Backend::ZONE_GUI_RANGE.last, PM_REMOVE)) {
-        if (message.message == WM_QUIT)  // It comes through any filter.
+        if (message.message == WM_QUIT)  // It passes any filter.
             exitCode = static_cast<int>(message.wParam);
         // A menu would wait for a choice.
         if (message.hwnd != window || message.message == Backend::WindowMessages::SHOW_PROGRAM_MENU.NUMBER ||

@@ -1,10 +1,10 @@
-// Every id of the library's resources. Also read by the resource compiler, so it holds nothing but definitions.
+// Every id of the library's resources. The resource compiler reads this too, so it holds only definitions.
 #pragma once
 
 // The red cursor of a value that follows the mouse without a button.
 #define IDC_RED_CURSOR 119
 
-// Menus. The two of values have the commands 1 to 128 for 0 to 127.
+// Menus. The two value menus have the commands 1 to 128 for 0 to 127.
 #define IDR_DISPLAY_MENU 102
 #define IDR_DATA_MENU 117
 #define IDR_GM_PROGRAM_MENU 124
@@ -86,7 +86,7 @@
 #define HELP_SHOW_OSCILLATOR 5221
 #define HELP_SHOW_JOYSTICK 5222
 
-// The help screen, and what several screens have.
+// The help screen, and what several screens share.
 #define HELP_MANUAL 142
 #define HELP_ABOUT 143
 #define HELP_HELP 144

@@ -1,4 +1,4 @@
-// Sleeping until a word changes: the cheapest wait that both systems have.
+// Sleeping until a word changes: the cheapest wait that both systems offer.
 #pragma once
 
 #include <atomic>
@@ -6,7 +6,7 @@
 
 namespace Platform {
 
-// [any] Sleeps while the word holds this value. May also return early, so callers look again.
+// [any] Sleeps while the word holds this value. May return early, so callers check again.
 void waitWhileEqual(const std::atomic<std::uint32_t>& word, std::uint32_t value);
 
 // [any, rt] Wakes one sleeper, after the word was changed. Costs a system call.

@@ -18,7 +18,7 @@ public:
     // [any] Blocks without a time limit until the event is set, and unsets it.
     void wait();
 
-    // [any] The same for a thread that may have windows: it answers what other threads send to them meanwhile.
+    // [any] Like wait, for a thread that may have windows: it keeps answering what other threads send to them.
     void waitAnsweringWindows();
 
 private:

@@ -2,12 +2,12 @@
 
 #include <memory>
 
-// The one lock class. The owner may enter again and leaves as often as it entered.
+// The one lock class. The owner may enter again, and must leave as often as it entered.
 class CriticalSection {
 public:
     CriticalSection();
 
-    // Leaves the section if the calling thread is inside, and then destroys it.
+    // Leaves the section if the calling thread is inside, then destroys it.
     ~CriticalSection();
 
     CriticalSection(const CriticalSection&) = delete;
@@ -16,11 +16,11 @@ public:
     // [any] Blocks until the calling thread is inside.
     void enter();
 
-    // [owner] Leaves once. A thread that is not inside changes nothing.
+    // [owner] Leaves once. Does nothing if the calling thread is not inside.
     void leave();
 
-    // [any, made for window threads] Enters while the thread's own messages go on being dispatched.
-    // False, and not inside, if WM_QUIT arrived while waiting.
+    // [any, made for window threads] Enters, dispatching the thread's own messages while it waits. False, and not
+    // inside, if WM_QUIT arrived meanwhile.
     bool waitWithMessageLoop();
 
 private:
@@ -28,7 +28,7 @@ private:
     std::unique_ptr<State> m_state;
 };
 
-// Inside a section for the length of a block.
+// Holds a section for the length of a block.
 class CriticalSectionLock {
 public:
     explicit CriticalSectionLock(CriticalSection& section) : m_section(section) { m_section.enter(); }

@@ -11,10 +11,10 @@ using Sink = std::function<void(const std::string&)>;
 
 struct CurrentSink {
     std::mutex mutex;
-    std::shared_ptr<const Sink> sink;  // Shared, so that it can be replaced while another thread is inside it.
+    std::shared_ptr<const Sink> sink;  // Shared, so that it can be replaced while another thread is using it.
 };
 
-// Never destroyed: static objects may still write when the program ends.
+// Never destroyed, because static objects may still write when the program ends.
 CurrentSink& current() {
     static CurrentSink& object = *new CurrentSink;
     return object;

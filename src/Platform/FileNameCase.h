@@ -4,8 +4,7 @@
 
 namespace Platform {
 
-// [any] Whether two names mean the same file of a folder, as the system's file names go: on Windows whatever their
-// case.
+// [any] Whether two names mean the same file in a folder, by the system's rules: Windows ignores case.
 bool isSameFileName(const std::filesystem::path& left, const std::filesystem::path& right);
 
 }

@@ -1,6 +1,5 @@
-// Settings in one text file: "[key]" lines, each followed by its values as "name=kind:value". Text and names are
-// escaped as "%" and two hexadecimal digits where they would be taken for something else; bytes are hexadecimal digits
-// alone.
+// Settings in one text file: "[key]" lines, each followed by its values as "name=kind:value". Characters in texts and
+// names that would be ambiguous are escaped as "%" and two hexadecimal digits; bytes are hexadecimal digits only.
 #include "Platform/Files.h"
 #include "Platform/SettingsStore.h"
 
@@ -18,7 +17,7 @@ constexpr std::string_view HEX_DIGITS = "0123456789abcdef";
 
 struct Value {
     std::string kind;
-    std::string content;  // As it stands in the file.
+    std::string content;  // Exactly as in the file.
 };
 
 using Values = std::map<std::string, Value>;
@@ -83,7 +82,7 @@ std::string_view takeLine(std::string_view& rest) {
     return line;
 }
 
-// A line that makes no sense is passed over.
+// Skips lines that make no sense.
 Keys parse(std::string_view rest) {
     Keys keys;
     Values* values = nullptr;
@@ -122,7 +121,7 @@ public:
         m_wasThere = !m_keys.try_emplace(m_key).second;
     }
 
-    // Whether the file had the key before.
+    // Whether the key was already in the file.
     bool wasThere() const { return m_wasThere; }
 
     std::optional<std::uint32_t> readNumber(const std::string& name) const override {
@@ -176,12 +175,12 @@ class FileSettingsStore : public SettingsStore {
 public:
     explicit FileSettingsStore(std::string path) : m_path(std::move(path)) {}
 
-    // The key exists from here on.
+    // Creates the key if necessary.
     std::unique_ptr<SettingsKey> open(const std::string& key) override {
         const auto folderEnd = m_path.find_last_of("/\\");
         if (folderEnd != std::string::npos && folderEnd > 0 && !Files::createFolders(m_path.substr(0, folderEnd)))
             return nullptr;
-        // What is there but can't be read is not replaced by nothing.
+        // A file that exists but can't be read must not be overwritten with an empty one.
         if (Files::size(m_path) && !Files::read(m_path))
             return nullptr;
         auto opened = std::make_unique<FileSettingsKey>(m_path, key);

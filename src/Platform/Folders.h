@@ -4,8 +4,7 @@
 
 namespace Platform {
 
-// [any] The folder for data of the user's own programs on this machine, which is made if it is missing; empty if there
-// is none.
+// [any] The folder for the user's program data on this machine, created if missing; empty if there is none.
 std::string userDataFolder();
 
 }

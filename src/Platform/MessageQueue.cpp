@@ -12,8 +12,8 @@ thread_local MessageQueue* currentQueue = nullptr;
 
 }
 
-// All that is counted or marked is in one order that all threads agree on, as reader, posters and waiters each write
-// one word and then look at another's.
+// All counting and marking happens in one order that every thread agrees on, because reader, posters and waiters each
+// write one word and then read another's.
 MessageQueue::MessageQueue(std::size_t capacity) : m_capacity(capacity), m_slots(std::make_unique<Slot[]>(capacity)) {}
 
 void MessageQueue::open() {
@@ -35,7 +35,7 @@ bool MessageQueue::isOpen() const {
 bool MessageQueue::post(UINT message, WPARAM wParam, LPARAM lParam) {
     std::uint64_t in = m_in.load();
     do {
-        // The reader may have gone on since m_in was read; then the exchange fails.
+        // The reader may have moved on since m_in was read; then the exchange fails.
         const auto waiting = static_cast<std::int64_t>(postsOf(in) - m_out.load());
         if ((in & CLOSED) != 0 || waiting >= static_cast<std::int64_t>(m_capacity))
             return false;

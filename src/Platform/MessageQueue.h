@@ -10,19 +10,19 @@
 namespace Platform {
 
 // The queue of one thread: a ring of messages that is allocated once. It has no lock, so no post waits for another one
-// or for the reader, and a post to a reader that is not asleep costs no system call.
+// or for the reader, and posting to a reader that is awake needs no system call.
 //
-// A post claims a place by counting m_in up, writes its message there and marks the place as filled. The reader takes
-// the oldest message once its place is filled, and frees the place by counting m_out up.
+// A post claims a place by incrementing m_in, writes its message there and marks the place as filled. The reader takes
+// the oldest message once its place is filled, and frees the place by incrementing m_out.
 class MessageQueue {
 public:
-    // A closed queue for this many messages.
+    // A closed queue with room for this many messages.
     explicit MessageQueue(std::size_t capacity);
 
     MessageQueue(const MessageQueue&) = delete;
     MessageQueue& operator=(const MessageQueue&) = delete;
 
-    // [any] Empties the queue and lets posts in.
+    // [any] Empties the queue and starts accepting posts.
     void open();
 
     // [any] Refuses posts from now on. What is in the queue stays. A closed queue is idle.
@@ -34,7 +34,7 @@ public:
     // [any, rt] Appends. False, and nothing is kept, if the queue is closed or full.
     [[nodiscard]] bool post(UINT message, WPARAM wParam, LPARAM lParam);
 
-    // [reader] Blocks until a message comes and takes it. False for WM_QUIT. There is one reader at a time.
+    // [reader] Blocks until a message comes and takes it. False for WM_QUIT. Only one reader at a time.
     [[nodiscard]] bool get(MSG& message);
 
     // [reader, or whoever is left when it has gone] Takes the oldest message if there is one.
@@ -49,7 +49,7 @@ public:
     // [any] The queue that the calling thread reads, or null.
     static MessageQueue* ofCurrentThread();
 
-    // [any] Makes this the calling thread's queue; null when it has none any more.
+    // [any] Makes this the calling thread's queue; null removes it.
     static void setOfCurrentThread(MessageQueue* queue);
 
 private:
@@ -60,7 +60,7 @@ private:
         LPARAM lParam;
     };
 
-    // m_in is twice the count of posts, plus this while the queue is closed: so no post gets in past a close.
+    // Twice the number of posts, plus this while the queue is closed, so that no post slips in past a close.
     static constexpr std::uint64_t CLOSED = 1;
     static std::uint64_t postsOf(std::uint64_t in) { return in / 2; }
 
@@ -81,7 +81,7 @@ private:
     std::atomic<bool> m_readerAsleep{false};
     std::atomic<unsigned> m_idleWaiters{0};
 
-    // Words to sleep on, counted up before their sleepers are woken.
+    // Words to sleep on, incremented before their sleepers are woken.
     std::atomic<std::uint32_t> m_posted{0};
     std::atomic<std::uint32_t> m_idled{0};
 };

@@ -33,7 +33,7 @@ struct MessageThread::State {
     std::atomic<DWORD> id{0};
     std::atomic<bool> running{false};
     std::atomic<std::uint32_t> step{CREATED};
-    std::mutex lifecycle;  // Of start and join alone.
+    std::mutex lifecycle;  // Serialises start and join, nothing else.
     std::thread thread;
 
     void advance(std::uint32_t next) {
@@ -85,7 +85,7 @@ bool MessageThread::post(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void MessageThread::postUntilAccepted(UINT message, WPARAM wParam, LPARAM lParam) {
-    // This thread may have a window that the other one sends something to before it goes on with its queue.
+    // This thread may have a window to which the other one sends something before it goes on with its queue.
     while (!post(message, wParam, lParam))
         sleepAnsweringWindows(RETRY_MILLISECONDS);
 }
@@ -117,7 +117,7 @@ void MessageThread::join() {
 void MessageThread::stop(UINT message) {
     if (!isRunning())
         return;
-    // An open queue that refuses a post is full; a closed one is that of a thread at its end.
+    // An open queue that refuses a post is full; a closed one belongs to a thread that is ending.
     while (!post(message, 0, 0) && m_state->queue.isOpen())
         sleepMilliseconds(RETRY_MILLISECONDS);
     join();

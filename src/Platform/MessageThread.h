@@ -8,26 +8,26 @@
 
 namespace Platform {
 
-// [any, rt] The id by which the system knows the calling thread.
+// [any, rt] The system's id of the calling thread.
 DWORD currentThreadId();
 
-// A thread with a queue of messages, each a number and two machine words. What one thread posts arrives in the order
-// of posting.
+// A thread with a queue of messages, each a number and two machine words. Messages from one thread arrive in the order
+// in which it posted them.
 class MessageThread {
 public:
-    // What a queue holds at most; a post to a full queue fails.
+    // The most a queue holds; posting to a full queue fails.
     static constexpr std::size_t CAPACITY = 10000;
 
     MessageThread();
 
-    // Ends a running thread as by join; its body must be on its way out.
+    // Joins a running thread; its body must be about to return.
     ~MessageThread();
 
     MessageThread(const MessageThread&) = delete;
     MessageThread& operator=(const MessageThread&) = delete;
 
     // [any] Runs body on a new thread that debuggers see under this name (at most 15 bytes are shown). The id is valid
-    // before the body begins. A thread that runs already is left alone. A thread that was joined may start again, with
+    // before the body begins. Does nothing if the thread is already running. A joined thread may be started again, with
     // an empty queue.
     void start(const char* name, std::function<void()> body);
 
@@ -37,11 +37,11 @@ public:
     // [any, rt] True between start and join.
     bool isRunning() const;
 
-    // [any, rt] Appends to the queue. False, and nothing is kept, while the thread does not run or its queue is full.
+    // [any, rt] Appends to the queue. False, and nothing is kept, if the thread is not running or its queue is full.
     [[nodiscard]] bool post(UINT message, WPARAM wParam, LPARAM lParam);
 
-    // [any] Posts, and while that fails sleeps 10 milliseconds and tries again, for ever. Windows of the calling thread
-    // answer what is sent to them meanwhile.
+    // [any] Posts, retrying every 10 milliseconds without a limit until the post succeeds. Windows of the calling
+    // thread keep answering what is sent to them.
     void postUntilAccepted(UINT message, WPARAM wParam, LPARAM lParam);
 
     // [this thread] Blocks until a message comes and takes it. False for WM_QUIT.
@@ -54,14 +54,14 @@ public:
     // the thread has ended.
     void waitUntilIdle();
 
-    // [any, rt] Whether the queue is empty and the thread waits in get(), or does not run.
+    // [any, rt] Whether the queue is empty and the thread waits in get(), or is not running.
     [[nodiscard]] bool isIdle() const;
 
     // [another thread] Waits without a time limit for the body to return.
     void join();
 
-    // [another thread] Posts the message that ends the body, as postUntilAccepted does unless the body has returned
-    // already, and joins. Does nothing if the thread does not run.
+    // [another thread] Posts the message that ends the body, retrying as postUntilAccepted does until the body has
+    // returned, then joins. Does nothing if the thread is not running.
     void stop(UINT message);
 
 private:

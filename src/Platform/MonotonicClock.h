@@ -4,8 +4,8 @@
 
 namespace Platform {
 
-// [any, rt] Microseconds of a clock that only goes forward, whatever happens to the time of day. Its origin means
-// nothing.
+// [any, rt] Microseconds on a clock that only moves forward, whatever happens to the time of day. Its origin is
+// arbitrary.
 std::int64_t monotonicMicroseconds();
 
 }

@@ -5,8 +5,8 @@
 
 namespace Platform {
 
-// Waiting until a moment of the monotonic clock as exactly as the system can, unless somebody wakes the waiter before.
-// For one waiter at a time.
+// Waits until a moment of the monotonic clock as precisely as the system can, unless woken before. For one waiter at a
+// time.
 class PreciseWait {
 public:
     PreciseWait();
@@ -15,10 +15,10 @@ public:
     PreciseWait& operator=(const PreciseWait&) = delete;
 
     // [the waiter] Sleeps until monotonicMicroseconds() reaches this, or until wake(); a wake() since the last wait
-    // counts. Allocates nothing. A moment that has passed returns at once.
+    // counts. Allocates nothing. Returns at once if the moment has passed.
     void waitUntil(std::int64_t microseconds);
 
-    // [any, rt] Ends the present wait, or the next one.
+    // [any, rt] Ends the current wait, or else the next one.
     void wake();
 
 private:

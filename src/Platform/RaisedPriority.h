@@ -4,17 +4,17 @@
 
 namespace Platform {
 
-// Makes the calling thread one that keeps time, as far as the system lets it: raised priority and fine timers. Where
-// the user may not have that, everything stays as it was, in silence.
+// Gives the calling thread what it needs to keep time, as far as the system allows: raised priority and fine timers. If
+// the user lacks the rights, everything silently stays as it was.
 class RaisedPriority {
 public:
     RaisedPriority();
-    // [the same thread] Gives it back.
+    // [the same thread] Restores the old priority.
     ~RaisedPriority();
     RaisedPriority(const RaisedPriority&) = delete;
     RaisedPriority& operator=(const RaisedPriority&) = delete;
 
-    // [any] Whether the system agreed to the priority.
+    // [any] Whether the system granted the priority.
     bool isRaised() const;
 
 private:

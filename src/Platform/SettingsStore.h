@@ -9,8 +9,8 @@
 
 namespace Platform {
 
-// The values under one key of a store: numbers, texts and runs of bytes, each by its name. A value of another kind than
-// the one asked for counts as missing.
+// The values under one key of a store: numbers, texts and runs of bytes, each by its name. A value of a different kind
+// than the one asked for counts as missing.
 class SettingsKey {
 public:
     virtual ~SettingsKey() = default;
@@ -23,8 +23,8 @@ public:
     virtual void writeText(const std::string& name, const std::string& value) = 0;
     virtual void writeBytes(const std::string& name, std::string_view value) = 0;
 
-    // Makes what was written last. False if that failed; the store is then what it was, or holds a part of it where the
-    // system keeps each value on its own.
+    // Makes the writes durable. False if that failed; the store is then unchanged, or partly changed where the system
+    // stores each value separately.
     virtual bool save() = 0;
 };
 
@@ -33,18 +33,18 @@ class SettingsStore {
 public:
     virtual ~SettingsStore() = default;
 
-    // Opens a key, and makes it if it is missing. Names of keys are divided by "\". Null if that is impossible.
+    // Opens a key, creating it if missing. Names of keys are separated by "\". Null if that is impossible.
     [[nodiscard]] virtual std::unique_ptr<SettingsKey> open(const std::string& key) = 0;
 
-    // Opens a key that is there already; null for any other. Changes nothing in the store.
+    // Opens an existing key; null for any other. Changes nothing in the store.
     [[nodiscard]] virtual std::unique_ptr<SettingsKey> openExisting(const std::string& key) = 0;
 };
 
-// The user's own store: the registry below HKEY_CURRENT_USER on Windows, elsewhere a file in the folder for the user's
-// configuration.
+// The user's own store: the registry below HKEY_CURRENT_USER on Windows, elsewhere a file in the user's configuration
+// folder.
 [[nodiscard]] std::unique_ptr<SettingsStore> createUserSettingsStore();
 
-// A store in one file. Several keys share it; a file that is missing or holds nonsense holds no values.
+// A store in one file. Several keys share it; a missing or malformed file holds no values.
 [[nodiscard]] std::unique_ptr<SettingsStore> createFileSettingsStore(const std::string& path);
 
 }

@@ -6,7 +6,7 @@ namespace Platform {
 
 namespace {
 
-// Of what follows.
+// Guards the stand-ins below.
 std::mutex& standInLock() {
     static std::mutex lock;
     return lock;

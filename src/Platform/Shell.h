@@ -1,4 +1,4 @@
-// What a program without windows of its own asks of the user's system.
+// What a program without windows of its own needs from the user's system.
 #pragma once
 
 #include <functional>
@@ -7,17 +7,16 @@
 
 namespace Platform {
 
-// [any] Tells the user something and waits until it was read. Where there are no message boxes it goes to standard
-// error.
+// [any] Shows the user a message and waits until it was read. Without message boxes it goes to standard error.
 void showMessage(const std::string& text, const std::string& title);
 
-// [any] Replaces what showMessage does, so that a test can see it; an empty one brings the system's back.
+// [any] Replaces what showMessage does, so that a test can see it; an empty function restores the system's.
 void setMessageSink(std::function<void(const std::string& text, const std::string& title)> sink);
 
 // [any] What showMessage does without a sink.
 void showSystemMessage(const std::string& text, const std::string& title);
 
-// [any] Opens a file with the user's program for it. A file that is missing is ignored.
+// [any] Opens a file with the program the user has chosen for it. Ignores a missing file.
 void openWithUsersProgram(const std::string& path);
 
 // [any] The names of the MIDI inputs that the system itself lists; none where it keeps no such list.

@@ -5,8 +5,8 @@ namespace Platform {
 // [any] Suspends the calling thread for at least this many milliseconds.
 void sleepMilliseconds(unsigned milliseconds);
 
-// [any] The same for a thread that may have windows: it answers what other threads send to them meanwhile. Whatever it
-// sleeps for may need such an answer first.
+// [any] Like sleepMilliseconds, for a thread that may have windows: it keeps answering what other threads send to them,
+// which whatever it sleeps for may need first.
 void sleepAnsweringWindows(unsigned milliseconds);
 
 }

@@ -2,7 +2,7 @@
 
 namespace Platform {
 
-// [main, at the start] Makes standard input and output carry bytes as they are, so that a line ends the same way on all
+// [main, at the start] Makes standard input and output pass bytes unchanged, so that lines end the same way on all
 // systems.
 void useBinaryStandardStreams();
 

@@ -6,11 +6,11 @@
 
 namespace Platform {
 
-// [any] A UTF-8 path as the file system's own. Nothing for text that can be no path: empty, with a zero byte or, where
-// paths are Unicode, not UTF-8.
+// [any] A UTF-8 path as the file system's own type. Nothing for text that can't be a path: empty, with a zero byte or,
+// where paths are Unicode, not UTF-8.
 std::optional<std::filesystem::path> systemPath(const std::string& path);
 
-// [any] The way back.
+// [any] The reverse of systemPath.
 std::string utf8Path(const std::filesystem::path& path);
 
 }

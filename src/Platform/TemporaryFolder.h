@@ -4,10 +4,10 @@
 
 namespace Platform {
 
-// A new folder for this object alone, which goes with it and all that is in it.
+// A new folder for this object alone, removed with its contents when the object is destroyed.
 class TemporaryFolder {
 public:
-    // [any] Throws std::runtime_error if there is no place for one.
+    // [any] Throws std::runtime_error if no folder can be created.
     TemporaryFolder();
     ~TemporaryFolder();
     TemporaryFolder(const TemporaryFolder&) = delete;

@@ -2,8 +2,8 @@
 
 namespace Platform {
 
-// [any] Takes all messages that wait for the calling thread. Those for windows are dispatched, those for no window are
-// dropped. False as soon as one is WM_QUIT.
+// [any] Takes all messages waiting for the calling thread. Dispatches those for windows and drops the others. Returns
+// false as soon as one is WM_QUIT.
 [[nodiscard]] bool dispatchThreadMessages();
 
 }

@@ -2,8 +2,8 @@
 
 namespace Platform {
 
-// [any] Names the calling thread for debuggers and for the system's tools. Names that are too long for the system are
-// cut; a system without names ignores it.
+// [any] Names the calling thread for debuggers and system tools. Cuts names too long for the system; does nothing on a
+// system without thread names.
 void nameCurrentThread(const char* name);
 
 }

@@ -6,8 +6,8 @@
 
 namespace Backend {
 
-// [any] Posts a message to a window. Copies of what it carries are made only if there is one, and destroyed if it does
-// not take them. Whether it did.
+// [any] Posts a message to a window. Copies of its content are made only if there is a window, and destroyed if the
+// window does not take them. Returns whether it did.
 template <class Row, class... Values>
 bool postToWindow(HWND window, Row row, const Values&... values) {
     const auto post = [window](UINT number, WPARAM wParam, LPARAM lParam) {
@@ -16,7 +16,7 @@ bool postToWindow(HWND window, Row row, const Values&... values) {
     return window && row.post(post, values...);
 }
 
-// [any] The same to the desk's window.
+// [any] Posts a message to the desk's window in the same way.
 template <class Row, class... Values>
 bool postToGui(MirelIF& mirel, Row row, const Values&... values) {
     return postToWindow(mirel.getGuiWindowHandle(), row, values...);

@@ -1,4 +1,4 @@
-// The desk's life, and what only passes through it. Settings and ports are in MirelSettings.cpp, programs and banks in
+// The desk's life, and what it merely passes on. Settings and ports are in MirelSettings.cpp, programs and banks in
 // MirelPrograms.cpp.
 #include "Backend/core/Mirel.h"
 

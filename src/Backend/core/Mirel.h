@@ -29,10 +29,10 @@ namespace Backend {
 
 class XmlElement;
 
-// The one object of the backend. It is large, so it lives on the heap.
+// The backend as one object. It is large, so it lives on the heap.
 class Mirel : public MirelIF {
 public:
-    // [host] name is the product's, for the key of the settings. The player must outlive this object.
+    // [host] name is the product's, for the settings key. The player must outlive this object.
     Mirel(const std::string& name, MidiEngine::MidiPlayer& player);
 
     // [host] The backend thread must have been stopped.
@@ -41,7 +41,7 @@ public:
     Mirel(const Mirel&) = delete;
     Mirel& operator=(const Mirel&) = delete;
 
-    // [any] The engine itself, for hosts that look closer.
+    // [any] The engine itself, for hosts that need more detail.
     MidiEngine::MidiEngine& getMidiEngine() { return m_midiEngine; }
 
     // [backend] The sequence presets.
@@ -192,7 +192,7 @@ private:
     std::vector<MidiEngine::MidiOutputPort> m_midiOutputPorts;
     MidiEngine::MidiEngine m_midiEngine;
     Display::DisplayMessageManager m_display;
-    SequenceManagement::SequencePresetManager m_sequencePresets;  // Before the layers, which read from it.
+    SequenceManagement::SequencePresetManager m_sequencePresets;  // Before the layers, which use it.
     ComputerInput::ComputerInputManager m_computerInput;
     Controls::ControlManager m_controls;
     Layers::LayerManager m_layers;

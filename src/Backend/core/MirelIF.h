@@ -64,9 +64,9 @@ class ZoneMessageManager;
 
 // The backend, as its parts and its users see it.
 //
-// Operations that change state are for the backend thread, but for those tagged otherwise; other threads reach them
-// through the MirelMessageManager. Getters take no lock: what they refer to changes on the backend thread. What tells
-// the window does nothing while there is none. notify is a window that learns when a file operation is done, or null.
+// Operations that change state are for the backend thread unless tagged otherwise; other threads reach them through the
+// MirelMessageManager. Getters take no lock: what they refer to changes on the backend thread. Notifications to the
+// window do nothing while there is none. notify is a window to be notified when a file operation is done, or null.
 class MirelIF {
 public:
     virtual ~MirelIF() = default;
@@ -75,7 +75,7 @@ public:
     // built-in defaults.
     virtual void initialize() = 0;
 
-    // Sends all controls that send on their own.
+    // Sends all controls that send automatically.
     virtual void endInitialize() = 0;
 
     // Stops what initialize started and saves the settings.
@@ -85,7 +85,7 @@ public:
     virtual void start() = 0;
     virtual void stop() = 0;
 
-    // [any] The window that notifications go to; null while there is none.
+    // [any] The window that gets notifications; null while there is none.
     virtual HWND getGuiWindowHandle() = 0;
     virtual void setGuiWindowHandle(HWND window) = 0;
 
@@ -98,41 +98,41 @@ public:
     virtual void removeGuiWindowHandle() = 0;
     virtual void setDockToBottomEdge(bool dock) = 0;
 
-    // The bank that the host opens at the start; it is loaded at once as well.
+    // The bank that the host opens at the start; also loads it at once.
     virtual void setDefaultBank(const std::string& path) = 0;
     virtual void setMouseSensitivity(int sensitivity) = 0;
 
-    // Replace the lists of ports, whose order gives them their indices.
+    // Replace the lists of ports, whose order gives the ports their indices.
     virtual void setMidiInputPorts(const std::vector<MidiEngine::MidiInputPort>& ports) = 0;
     virtual void setMidiOutputPorts(const std::vector<MidiEngine::MidiOutputPort>& ports) = 0;
     virtual std::vector<MidiEngine::MidiInputPort> getMidiInputPorts() = 0;
     virtual std::vector<MidiEngine::MidiOutputPort> getMidiOutputPorts() = 0;
 
-    // An index without a port is ignored for inputs. For outputs only the setting changes and the host is told.
+    // For inputs, an index without a port is ignored. For outputs only the setting changes, and the host is notified.
     virtual void enableMidiInput(int index, bool enabled) = 0;
     virtual void enableMidiOutput(int index, bool enabled) = 0;
 
-    // Shows an event that came in from a port in the log. It is not played.
+    // Logs an event that came in from a port. It is not played.
     virtual void processMidiInputEvent(const MidiEngine::MirelMidiMessage& message) = 0;
 
-    // Ends all that sounds and loads a program: from a file, or from the current bank by its index from 0. Without
-    // such a program only the program's name and tempo are cleared.
+    // Ends all sounding notes and loads a program: from a file, or from the current bank by its index from 0. Without
+    // such a program, only the program's name and tempo are cleared.
     virtual void loadProgram(const std::string& path) = 0;
     virtual void changeProgramFromBank(int index) = 0;
 
     // The same from the text of getProgramXml. Blank text loads nothing.
     virtual void loadProgramFromXml(const std::string& xml, int index) = 0;
 
-    // Makes a file the current bank and loads the program of the current index from it. An empty path does nothing.
+    // Makes a file the current bank and loads the program at the current index from it. Does nothing for an empty path.
     virtual void loadBank(const std::string& path) = 0;
 
-    // Convert files of version 2 and load the result; to is a path, for a preset its name, and a preset is not loaded.
+    // Convert files of version 2 and load the result; to is a path or, for a preset, its name. Presets are not loaded.
     virtual void importVersion2Bank(const std::string& from, const std::string& to, HWND notify) = 0;
     virtual void importVersion2Program(const std::string& from, const std::string& to, HWND notify) = 0;
     virtual void importVersion2Preset(const std::string& from, const std::string& to, HWND notify) = 0;
 
-    // Write the current program: over the one of this index in the current bank, into a copy of the current bank at
-    // the present index, and into a file of its own. Files that can't be written stay as they are.
+    // Write the current program: over the one with this index in the current bank, into a copy of the current bank at
+    // the current index, or into a file of its own. Files that can't be written stay as they are.
     virtual void saveToCurrentBank(int index, HWND notify) = 0;
     virtual void saveToBank(const std::string& path, HWND notify) = 0;
     virtual void saveToProgram(const std::string& path, HWND notify) = 0;
@@ -163,7 +163,7 @@ public:
     // [any] Hands an event to the engine.
     virtual void playMidi(const MidiEngine::MirelMidiMessage& message) = 0;
 
-    // In pixels of the screen; relative values move, fixed ones place.
+    // In screen pixels; relative values move, fixed ones place.
     virtual void moveWindow(const RelativeFixedValue& x, const RelativeFixedValue& y) = 0;
 
     virtual ComputerInput::ComputerInputManager& getComputerInput() = 0;
@@ -171,7 +171,7 @@ public:
     virtual void showComputerInput(bool show) = 0;
     virtual void toggleComputerInput() = 0;
 
-    // [any] A key event, as posted to the backend thread.
+    // [any] A key event, posted to the backend thread.
     virtual void postKeyDown(const Key& key, bool isRepeat) = 0;
     virtual void postKeyUp(const Key& key) = 0;
 
@@ -201,20 +201,20 @@ public:
     virtual int getTempo() = 0;
     virtual int getTempoSource() = 0;
 
-    // A tempo outside 20 to 250, or an input that isn't there, is ignored.
+    // A tempo outside 20 to 250, or a missing input, is ignored.
     virtual void changeTempo(const RelativeFixedValue& value, bool notifyGui) = 0;
     virtual void setTempoSource(char source, bool notifyGui) = 0;
 
-    // Makes the zones follow the keys that refer to them.
+    // Updates the zones to the keys that refer to them.
     virtual void updateZonesFromKeys() = 0;
 
-    // Ends all that sounds, arpeggios included, and silences the default output.
+    // Ends all sounding notes and arpeggios, and silences the default output.
     virtual void resetMirel() = 0;
 
-    // Adds empty programs to the current bank or cuts programs off its end. 0 and less are ignored.
+    // Adds empty programs to the current bank or removes programs from its end. 0 or less is ignored.
     virtual void changeBankSize(int size, HWND notify) = 0;
 
-    // Reaches the file with the next save.
+    // Takes effect in the file with the next save.
     virtual void changeProgramName(const std::string& name) = 0;
 
     virtual const SequenceManagement::SequencePresetList& getSequencePresetList() = 0;
@@ -226,7 +226,7 @@ public:
     // A program beyond either end of the bank is ignored.
     virtual void changeProgram(const SelectType& type) = 0;
 
-    // Takes outputs that are enabled and available only.
+    // Only accepts outputs that are enabled and available.
     virtual void changeDefaultMidiOutput(const SelectType& type) = 0;
 
     virtual void showProgramMenu() = 0;
@@ -246,13 +246,13 @@ public:
     virtual void changeLayerSolo(const SelectType& type, const OnOffToggle& value) = 0;
     virtual void changeLayerNoteToggle(const SelectType& type, const NoteToggle& value) = 0;
 
-    // The desk's window, not yet on the screen; null in a build without one. The caller owns it.
+    // The desk's window, not yet on the screen; null in a build without windows. The caller owns it.
     virtual Gui::MirelGuiIF* createMirelGui(bool isVstPlugin) = 0;
 
     // [any] Adds text to the log.
     virtual void displayString(const std::string& text) = 0;
 
-    // Settings that also reach the first layer, if there is one: a fixed velocity, a channel from 0, stacked notes.
+    // Settings that also change the first layer, if there is one: a fixed velocity, a channel from 0, stacked notes.
     virtual void setLiteVelocity(int velocity) = 0;
     virtual void setLiteChannel(int channel) = 0;
     virtual void setLiteStackNotes(bool stackNotes) = 0;

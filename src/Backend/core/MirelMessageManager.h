@@ -25,9 +25,9 @@ namespace MidiEngine {
 class MirelMidiMessage;
 }
 
-// The way of other threads into the desk. Each operation is carried out on the backend thread by the operation of
-// MirelIF of like name; arguments are copied. send... returns when that is done, and only one thread at a time may be
-// in such a call, never the backend thread; post... returns at once.
+// How other threads reach the desk. The operation of MirelIF with the same name carries out each call on the backend
+// thread; arguments are copied. send... returns when that is done, and only one thread at a time may be in such a call,
+// never the backend thread; post... returns at once.
 class MirelMessageManager : public MessageManager {
 public:
     MirelMessageManager(MessageManagerMaster& master, MirelIF& mirel);
@@ -46,7 +46,7 @@ public:
     void postEnableMidiInput(int index, bool enabled);
     void postEnableMidiOutput(int index, bool enabled);
 
-    // [any] Files. notify is a window that learns when it is done, or null.
+    // [any] Files. notify is a window to be notified when it is done, or null.
     void postLoadProgram(const std::string& path);
     void postLoadBank(const std::string& path);
     void postSaveToCurrentBank(int index, HWND notify);

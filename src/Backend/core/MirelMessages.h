@@ -1,5 +1,5 @@
-// Messages to the MirelMessageManager, each for the operation of MirelIF of like name, as rows of what their first and
-// second word carry.
+// Messages to the MirelMessageManager, each for the operation of MirelIF with the same name, as rows of what their
+// first and second word carry.
 #pragma once
 
 #include "Backend/core/messages/MessageFamily.h"

@@ -23,7 +23,7 @@ namespace {
 
 constexpr std::string_view PROGRAM_FILE_END = ".prg";
 
-// The program of an ordinal among the children of a file's root, or an element that isn't there.
+// The program with an ordinal among the children of a file's root, or a missing element.
 XmlElement findProgram(const XmlElement& root, int ordinal) {
     for (auto child = root.begin(); child != root.end(); child.next())
         if (child.getName() == BankFile::PROGRAM_TAG && ordinal-- == 0)
@@ -180,7 +180,8 @@ void Mirel::saveToBankFile(const std::string& target, int index, HWND notify) {
     const auto source = BankFile::readBank(m_currentBank.getPath(), program);
     if (!source)
         return;
-    // A program that makes the bank unreadable, as by its size, is not saved: all others would be lost.
+    // A program that would make the bank unreadable, for instance by its size, is not saved, since all others would be
+    // lost.
     const std::string bank = BankFile::replaceProgram(*source, index, program);
     const bool isReplacement = index < static_cast<int>(m_currentBank.getProgramNames().size());
     const bool isLossless = isReplacement ? BankFile::remainsReadable(*source, bank) : bank.size() <= Files::MAX_SIZE;

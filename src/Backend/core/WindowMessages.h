@@ -1,5 +1,5 @@
 // Messages from the backend to the main window, as rows of what their first and second word carry. Those of the
-// components stand in their own headers. Nothing sends those of the retro recording.
+// components are in their own headers. Nobody sends those of the retro recording.
 #pragma once
 
 #include "Backend/core/messages/MessageFamily.h"
@@ -84,9 +84,9 @@ inline constexpr auto FAMILY = familyOf<MIREL_GUI_RANGE>(
     RETRO_RECORD_ENABLED_CHANGED, MIDI_THRU_CHANGED, GLOBAL_KEYBOARD_CHANGED, MOUSE_SENSITIVITY_CHANGED,
     CLICK_ZONE_CHANNEL_TRANSPOSE_CHANGED);
 
-// Posted to the window that a file operation was given, once it is done.
+// Posted to the window named in a file operation, once the operation is done.
 inline constexpr Message<32881> SAVE_TO_PROGRAM_DONE;
-inline constexpr Message<32882> SAVE_TO_BANK_DONE;  // Also of the current bank.
+inline constexpr Message<32882> SAVE_TO_BANK_DONE;  // Also for the current bank.
 inline constexpr Message<32883> CHANGE_BANK_SIZE_DONE;
 inline constexpr Message<32891> IMPORT_VERSION_2_BANK_DONE;
 inline constexpr Message<32892> IMPORT_VERSION_2_PROGRAM_DONE;

@@ -29,7 +29,7 @@ public:
     using ActionFunction::ActionFunction;
 };
 
-// This desk has no such dialog. Files that name it keep it.
+// This desk has no such dialog. Files that mention it keep it.
 class ShowSaveDialog final : public ConcreteFunction<ShowSaveDialog, ActionSettingsType> {
 public:
     using ConcreteFunction::ConcreteFunction;

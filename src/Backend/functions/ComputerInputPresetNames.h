@@ -4,7 +4,7 @@
 
 namespace Backend::FunctionManagement {
 
-// The presets of the computer keyboard that version 2 knew by number, from 1.
+// The computer keyboard's presets that version 2 referred to by number, from 1.
 inline constexpr std::array VERSION_2_COMPUTER_INPUT_PRESETS = {
     "001 - Zone 2 Position I",
     "002 - Zone 2 Position II",

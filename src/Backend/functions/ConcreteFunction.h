@@ -12,8 +12,8 @@
 
 namespace Backend::FunctionManagement {
 
-// What all function classes share. Self, the class, has a row in FUNCTION_LIST and tells its parameters by
-// attributes(), a tuple of Attribute.
+// What all function classes share. The class Self has a row in FUNCTION_LIST and lists its parameters in attributes(),
+// a tuple of Attribute.
 template <class Self, class Kind>
 class FunctionOfKind : public Function, public Kind {
 public:
@@ -21,7 +21,7 @@ public:
 
     static std::tuple<> attributes() { return {}; }
 
-    // Takes the parameters from the function's element.
+    // Reads the parameters from the function's element.
     void readXml(const XmlElement& element) { readAttributes(element, self()); }
 
     void writeXml(std::ostream& stream, int indent) const override {
@@ -57,7 +57,7 @@ private:
     MirelIF* m_mirel;  // Never null.
 };
 
-// The same for kinds whose members have a visitor, which are all but that of NoFunction.
+// The same for kinds whose members have a visitor, which is all except NoFunction's.
 template <class Self, class Kind>
 class ConcreteFunction : public FunctionOfKind<Self, Kind> {
 public:

@@ -38,7 +38,7 @@ public:
     bool allowsSelected() const override { return false; }
 };
 
-// Puts the keyboard's focus on a control.
+// Moves the keyboard focus to a control.
 class SetWidgetFocus final : public ControlFunction<SetWidgetFocus> {
 public:
     explicit SetWidgetFocus(MirelIF& mirel) : ControlFunction(mirel, SelectControlType::RIGHT) {}

@@ -10,17 +10,17 @@ namespace Backend::FunctionManagement {
 
 class FunctionVisitor;
 
-// One thing that a key or a button does. Its owner decides whether that is on the press or on the release.
+// One thing that a key or a button does. Its owner decides whether it happens on press or on release.
 class Function {
 public:
     virtual ~Function() = default;
 
-    // Whether the other is of the same class with equal parameters.
+    // Whether the other one is of the same class with equal parameters.
     virtual bool operator==(const Function& other) const = 0;
 
     [[nodiscard]] virtual std::unique_ptr<Function> clone() const = 0;
 
-    // [backend] Does it. What it needs and does not find makes it do nothing.
+    // [backend] Executes it. Does nothing if something it needs is missing.
     virtual void execute() = 0;
 
     // The name of its element.
@@ -28,13 +28,13 @@ public:
 
     virtual void accept(FunctionVisitor& visitor) = 0;
 
-    // Its element on a line of its own, indent tabs deep.
+    // Writes its element on a line of its own, indented by this many tabs.
     virtual void writeXml(std::ostream& stream, int indent) const = 0;
 
-    // The zone and note that it plays; no notes if there are none.
+    // The zone and note that it plays; no notes if it plays none.
     virtual Zones::Zone getZoneRange() const;
 
-    // The id of its line of help in the program's strings; 0 for none.
+    // The id of its line of help among the program's strings; 0 for none.
     virtual int getHelpId() const { return 0; }
 
 protected:

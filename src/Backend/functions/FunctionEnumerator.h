@@ -4,7 +4,7 @@
 
 namespace Backend::FunctionManagement {
 
-// Learns of all functions that the user can choose.
+// Receives all functions that the user can choose.
 class FunctionEnumerator {
 public:
     virtual ~FunctionEnumerator() = default;

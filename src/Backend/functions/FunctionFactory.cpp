@@ -7,7 +7,7 @@ namespace Backend::FunctionManagement {
 
 namespace {
 
-// Makes the function of a tag and gives it to use while its class is known; null if there is none.
+// Creates a tag's function and passes it to use while its class is known; null if there is none.
 template <class Use>
 std::unique_ptr<Function> createAndUse(const std::string& xmlTag, MirelIF& mirel, Use use) {
     std::unique_ptr<Function> created;

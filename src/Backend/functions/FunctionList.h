@@ -9,7 +9,7 @@
 
 namespace Backend::FunctionManagement {
 
-// One function class. A function without a name to show can't be chosen by the user.
+// One function class. Users can't choose a function without a display name.
 template <class Function>
 struct FunctionRow {
     const char* displayName;
@@ -84,7 +84,7 @@ inline constexpr std::tuple FUNCTION_LIST = {
     FunctionRow<Functions::ChangeLayerMono>{"Change Layer Mono", "ChangeLayerMono", 5393, "Change layer's mono setting."},
     FunctionRow<Functions::ChangeLayerSolo>{"Change Layer Solo", "ChangeLayerSolo", 5394, "Change layer's solo setting."},
     FunctionRow<Functions::ChangeLayerNoteToggle>{"Change Layer Note Toggle", "ChangeLayerNoteToggle", 5395, "Change layer's note toggle setting."},
-    // Comes from files only.
+    // Only comes from files.
     FunctionRow<Functions::MidiEndOfSysEx>{nullptr, "MidiEndOfSysEx", 5361, "Play a midi end of sysex event (0xF7)."},
 };
 // clang-format on
@@ -103,7 +103,7 @@ struct ClassesOfRows<const std::tuple<FunctionRow<Functions>...>> {
     using Type = TypeList<Functions...>;
 };
 
-// The classes of the list in its order.
+// The classes in the list, in its order.
 using AllFunctions = ClassesOfRows<decltype(FUNCTION_LIST)>::Type;
 
 static_assert(AllFunctions::HAS_TYPES_OF<FunctionVisitorOrder>);

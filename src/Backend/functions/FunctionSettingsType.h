@@ -4,7 +4,7 @@ namespace Backend::FunctionManagement {
 
 class FunctionSettingsTypeVisitor;
 
-// What about a function can be edited. Functions of one kind are edited in the same way.
+// The editable settings of a function. Functions of one kind are edited in the same way.
 class FunctionSettingsType {
 public:
     virtual ~FunctionSettingsType() = default;

@@ -1,5 +1,5 @@
-// The kinds of settings. Each has a visitor of its own, which tells its members apart. Setters are for the thread that
-// owns the function; one of something that a member does not have does nothing.
+// The kinds of settings. Each has a visitor of its own that distinguishes its members. Setters are for the thread that
+// owns the function; setting something that a member does not have does nothing.
 #pragma once
 
 #include "Backend/functions/FunctionClasses.h"
@@ -17,7 +17,7 @@
 
 namespace Backend::FunctionManagement {
 
-// What every kind but the one of NoFunction starts with.
+// The base of every kind except NoFunction's.
 template <class... Members>
 class SettingsTypeOf : public FunctionSettingsType {
 public:
@@ -28,8 +28,8 @@ public:
     virtual void accept(Visitor& visitor) = 0;
 };
 
-// A function that is to be applied to some of several things: which, and what to do with them. The flags say what there
-// is to choose.
+// A function that applies to some of several things: which ones, and what to do with them. The flags say what can be
+// chosen.
 template <class Value, class... Members>
 class SelectingSettingsType : public SettingsTypeOf<Members...> {
 public:
@@ -101,7 +101,7 @@ public:
     virtual void setOnOffToggle(const OnOffToggle& state) = 0;
 };
 
-// An event. Bytes; d1 of pitch bend and song position is the whole value of 14 bits. -1: the default zone, output or
+// An event. Bytes; d1 of pitch bend and song position is the whole 14-bit value. -1: the default zone, output or
 // channel. What an event does not have reads as 0, its channel as -1.
 class MidiSettingsType
     : public SettingsTypeOf<Functions::MidiTuneRequest, Functions::MidiTimingTick, Functions::MidiSystemReset,
@@ -131,7 +131,7 @@ using FunctionSettingsTypes =
              SelectControlSettingsType, LoadPresetSettingsType, MoveWindowSettingsType, OnOffToggleSettingsType,
              MidiSettingsType, NoFunctionSettingsType>;
 
-// Tells the kinds apart.
+// Distinguishes the kinds.
 class FunctionSettingsTypeVisitor : public VisitorOperations<FunctionSettingsTypes> {};
 
 }

@@ -30,7 +30,7 @@ using FunctionVisitorOrder = TypeList<
     Functions::MidiProgramChange, Functions::MidiControllerChange>;
 // clang-format on
 
-// Tells the classes of functions apart.
+// Distinguishes the classes of functions.
 class FunctionVisitor : public VisitorOperations<FunctionVisitorOrder> {};
 
 }

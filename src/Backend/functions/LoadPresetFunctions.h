@@ -1,4 +1,4 @@
-// Functions that load a preset by its name.
+// Functions that load a preset by name.
 #pragma once
 
 #include "Backend/functions/ConcreteFunction.h"

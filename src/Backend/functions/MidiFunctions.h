@@ -9,7 +9,7 @@ namespace Backend::FunctionManagement::Functions {
 
 using MidiEngine::MidiMessage;
 
-// An event of one status. -1 is the default zone, output or channel.
+// An event with a fixed status. -1 means the default zone, output or channel.
 template <class Self, MidiMessage::MessageType STATUS>
 class MidiFunction : public ConcreteFunction<Self, MidiSettingsType> {
 public:
@@ -46,7 +46,7 @@ protected:
     char m_output = NOT_SET;
 };
 
-// An event of a channel.
+// A channel event.
 template <class Self, MidiMessage::MessageType STATUS>
 class ChannelFunction : public MidiFunction<Self, STATUS> {
 public:
@@ -106,7 +106,7 @@ public:
     using NoteFunction::NoteFunction;
 };
 
-// Sends a Note Off, which is what set-ups made with it expect. It is shown and edited as key pressure.
+// Sends a Note Off, because existing set-ups rely on it. It is shown and edited as key pressure.
 class MidiKeyPressure final : public ChannelFunction<MidiKeyPressure, MidiMessage::KeyPressure> {
 public:
     using ChannelFunction::ChannelFunction;
@@ -195,7 +195,7 @@ private:
     char m_pressure = 0;
 };
 
-// A value of 14 bits in two data bytes. What is above them stays in the second one.
+// A 14-bit value in two data bytes. Higher bits stay in the second one.
 constexpr char getLowValueByte(short value) {
     return static_cast<char>(value & 0x7f);
 }
@@ -245,7 +245,7 @@ private:
     short m_value = 0;
 };
 
-// Sends an event of the whole system, which belongs to no zone. Its function keeps a zone all the same.
+// Sends a system event, which belongs to no zone, although its function stores one.
 void postSystemEvent(MirelIF& mirel, MidiMessage::MessageType status, char d1, char output);
 
 template <class Self, MidiMessage::MessageType STATUS>

@@ -4,7 +4,7 @@
 
 namespace Backend::FunctionManagement::Functions {
 
-// What users choose for a slot that is to stay empty.
+// What users choose for a slot that should stay empty.
 class NoFunction final : public FunctionOfKind<NoFunction, NoFunctionSettingsType> {
 public:
     using FunctionOfKind::FunctionOfKind;

@@ -1,4 +1,4 @@
-// Functions that switch something on, off or over.
+// Functions that switch something on or off, or toggle it.
 #pragma once
 
 #include "Backend/functions/ConcreteFunction.h"
@@ -34,7 +34,7 @@ public:
     }
 };
 
-// A screen that this desk does not have. Files that name it keep it.
+// A screen that this desk does not have. Files that mention it keep it.
 template <class Self>
 class MissingScreenFunction : public OnOffToggleFunction<Self> {
 public:
@@ -43,7 +43,7 @@ public:
     void execute() override {}
 };
 
-// Changes a flag of the desk and tells the window.
+// Changes a flag of the desk and notifies the window.
 template <class Self, void (MirelIF::*CHANGE)(const OnOffToggle&, bool)>
 class FlagFunction : public OnOffToggleFunction<Self> {
 public:

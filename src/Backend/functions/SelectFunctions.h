@@ -1,4 +1,4 @@
-// Functions that change some of several things, picked by a SelectType, or only pick them.
+// Functions that change some of several things, picked by a SelectType, or that only pick them.
 #pragma once
 
 #include "Backend/functions/ConcreteFunction.h"
@@ -102,7 +102,7 @@ public:
     using SelectOperation::SelectOperation;
 };
 
-// This desk has no oscillators. Files that name functions of theirs keep them.
+// This desk has no oscillators. Files that mention their functions keep them.
 class DataSelectOsc final : public SelectFunction<DataSelectOsc> {
 public:
     using SelectFunction::SelectFunction;
@@ -162,7 +162,7 @@ public:
     using ChangeOperation::ChangeOperation;
 };
 
-// Sets the tempo, in beats per minute. There is but one.
+// Sets the tempo, in beats per minute.
 class ChangeTempo final : public ConcreteFunction<ChangeTempo, SelectSettingsType> {
 public:
     using ConcreteFunction::ConcreteFunction;

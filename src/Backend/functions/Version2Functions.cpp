@@ -27,7 +27,7 @@ FunctionPointer make(const Record& record) {
     return std::make_unique<Class>(record.mirel);
 }
 
-// With all values of the record that the event has.
+// With all of the record's values that the event has.
 template <class Class>
 FunctionPointer makeMidi(const Record& record) {
     auto function = std::make_unique<Class>(record.mirel);
@@ -72,7 +72,7 @@ FunctionPointer makeChangeControl(const Record& record) {
     return function;
 }
 
-// Distances are those of the record times these.
+// Distances are the record's multiplied by these.
 template <int X, int Y>
 FunctionPointer makeMoveWindow(const Record& record) {
     auto function = std::make_unique<MoveWindowFunction>(record.mirel);

@@ -13,7 +13,7 @@ using FunctionManagement::Functions::NoFunction;
 
 namespace {
 
-// Only the first element inside counts. Comments and text are children too.
+// Only the first child element counts. Comments and text are children too.
 std::unique_ptr<Function> readSlot(const XmlElement& element, MirelIF& mirel) {
     for (auto child = element.begin(); child != element.end(); child.next())
         if (!child.getName().empty())

@@ -14,7 +14,7 @@ class MirelIF;
 class XmlElement;
 }
 
-// What a press and a release of one button do: a list of functions that all run, in order. Copies are deep. Indices
+// What pressing and releasing one button does: a list of functions that all run, in order. Copies are deep. Indices
 // count from 0.
 class ButtonConfiguration {
 public:
@@ -25,24 +25,24 @@ public:
 
     virtual ~ButtonConfiguration() = default;
 
-    // The button's element on lines of its own, indent tabs deep.
+    // Writes the button's element on its own lines, indented by this many tabs.
     virtual void writeXml(std::ostream& stream, int indent) const = 0;
 
-    // The tag of a function; that of NoFunction if there is none.
+    // The tag of a function; NoFunction's if there is none.
     std::string getDownFunctionTag(int index) const;
     std::string getUpFunctionTag(int index) const;
 
-    // Puts a function, or null, into a slot. The index after the last makes a new entry; one beyond that is ignored.
+    // Puts a function, or null, into a slot. The index after the last adds an entry; one beyond that is ignored.
     void setDownFunction(std::unique_ptr<Backend::FunctionManagement::Function> function, int index);
     void setUpFunction(std::unique_ptr<Backend::FunctionManagement::Function> function, int index);
 
     int getFunctionCount() const { return static_cast<int>(m_functions.size()); }
 
-    // False for an index without an entry, and no effect there.
+    // False for an index without an entry; setting it then has no effect.
     bool getKeepSending(int index) const;
     void setKeepSending(int index, bool keepSending);
 
-    // Whether anything happens on a press or a release.
+    // Whether pressing or releasing it does anything.
     bool hasFunction() const;
 
     const std::vector<ButtonFunction>& getFunctions() const { return m_functions; }
@@ -57,11 +57,11 @@ protected:
     ButtonConfiguration(ButtonConfiguration&&) = default;
     ButtonConfiguration& operator=(ButtonConfiguration&&) = default;
 
-    // Appends what the children of a button's element say.
+    // Appends the entries in a button's element.
     void readFunctions(const Backend::XmlElement& element, Backend::MirelIF& mirel);
     void writeFunctions(const Backend::ElementWriter& button) const;
 
-    // Lists in which all slots are empty are equal.
+    // Lists whose slots are all empty are equal.
     bool hasSameFunctions(const ButtonConfiguration& other) const;
 
 private:

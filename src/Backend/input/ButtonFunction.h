@@ -5,7 +5,7 @@
 
 #include <memory>
 
-// What a button does, on its press and on its release. Copies are deep.
+// What a button does when pressed and when released. Copies are deep.
 struct ButtonFunction {
     static auto attributes() {
         return std::tuple(Backend::Attribute{"keepSending", &ButtonFunction::keepSending, false});
@@ -20,10 +20,10 @@ struct ButtonFunction {
 
     bool isEmpty() const { return !downFunction && !upFunction; }
 
-    // Both slots; a slot that is null equals one with a function that does nothing.
+    // Compares both slots; a null slot equals one with a function that does nothing.
     bool hasSameFunctions(const ButtonFunction& other) const;
 
-    bool keepSending = false;  // A key that repeats executes the down function again.
+    bool keepSending = false;  // Repeats of a held key execute the down function again.
     std::unique_ptr<Backend::FunctionManagement::Function> downFunction;
     std::unique_ptr<Backend::FunctionManagement::Function> upFunction;
 };

@@ -13,7 +13,7 @@ namespace Backend::ComputerInput {
 
 namespace {
 
-// Some keyboards send the code that a key without a name has the low byte of, for keys of their own.
+// Some keyboards send, for extra keys of their own, the code that is the low byte of a key without a name.
 bool isNoKey(const Key& key) {
     constexpr std::int32_t LOW_BYTE = 0xff;
     return (key.getCode() & LOW_BYTE) == (Key::NO_KEY & LOW_BYTE);

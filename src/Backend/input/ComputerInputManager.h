@@ -16,10 +16,10 @@ class XmlElement;
 
 namespace Backend::ComputerInput {
 
-// The keys of the current program and what a key event does. [backend]
+// The keys of the current program, and what a key event does. [backend]
 class ComputerInputManager {
 public:
-    // The folder of its preset files below the one for the desk's data.
+    // The folder of its preset files, inside the desk's data folder.
     static constexpr const char* PRESET_FOLDER = "Computer Input Presets";
 
     ComputerInputManager(MirelIF& mirel, MessageManagerMaster& master);
@@ -31,40 +31,39 @@ public:
     const KeyConfigurationMap& getKeyConfigurations() const { return m_keyConfigurations; }
     const PresetFolder& getPresets() const { return m_presets; }
 
-    // Whether a release looks its key up with the modifiers that are held.
+    // Whether a release looks up its key with the modifiers being held.
     bool getUseKeyUpMod() const { return m_useKeyUpMod; }
     void setUseKeyUpMod(bool useKeyUpMod) { m_useKeyUpMod = useKeyUpMod; }
 
     // The preset that was loaded last; empty if the keys came from elsewhere.
     const std::string& getCurrentPreset() const { return m_currentPreset; }
 
-    // The built-in keys.
+    // Loads the built-in keys.
     void loadDefaultMap();
 
-    // From a program's ComputerInput element, which holds keys or names a preset.
+    // Reads a program's ComputerInput element, which contains keys or names a preset.
     void readXml(const XmlElement& element);
 
-    // As a ComputerInput element, indent tabs deep: all keys, or the selected ones to be merged. Unless writeKeys is
-    // set, keys that still are those of the current preset are written as its name.
+    // Writes a ComputerInput element, indented by this many tabs: all keys, or the selected ones to be merged. Unless
+    // writeKeys is set, keys that are still those of the current preset are written as its name.
     void writeXml(std::ostream& stream, int indent, const std::vector<Key>& selected, bool writeKeys) const;
 
     // Removes all keys.
     void clear();
 
-    // A preset that has no file changes nothing.
+    // A preset without a file changes nothing.
     void loadPreset(const std::string& name);
     void savePreset(const std::string& name, const std::vector<Key>& selected);
     void renamePreset(const std::string& oldName, const std::string& newName);
     void deletePreset(const std::string& name);
 
-    // Reads a preset into other keys, and nothing else.
+    // Reads a preset into other keys, changing nothing else.
     void readPreset(const std::string& name, KeyConfigurationMap& keys, bool& useKeyUpMod) const;
 
     // Stores each configuration under its key.
     void updateKeyConfigurations(const std::vector<KeyConfiguration>& configurations, bool notifyGui);
 
-    // Run the functions of a key. Those that don't keep sending sleep through repeats. No event reaches a key without a
-    // name.
+    // Run the functions of a key. On repeats, only those that keep sending run. No event reaches a key without a name.
     void handleKeyDown(const Key& key, bool isRepeat);
     void handleKeyUp(const Key& key);
 
@@ -76,7 +75,7 @@ private:
     bool isChangedFromPreset(const std::string& name) const;
     void tellMapChanged();
 
-    // Copies, as a function may replace the keys while it runs.
+    // Returns copies, because a function may replace the keys while it runs.
     std::vector<ButtonFunction> copyFunctions(const Key& key);
 
     MirelIF& m_mirel;

@@ -11,8 +11,8 @@ namespace Backend::ComputerInput {
 class ComputerInputManager;
 class KeyConfiguration;
 
-// The way of other threads to the keys, and of every key event. Each post is carried out on the backend thread by the
-// operation of ComputerInputManager of like name.
+// How other threads, and every key event, reach the keys. The operation of ComputerInputManager with the same name
+// carries out each post on the backend thread.
 class ComputerInputMessageManager : public MessageManager {
 public:
     ComputerInputMessageManager(MessageManagerMaster& master, ComputerInputManager& computerInput);
@@ -25,7 +25,7 @@ public:
     void postDeletePreset(const std::string& name);
     void postSavePreset(const std::string& name, const std::vector<Key>& selected);
 
-    // [any] Without the heap. Only the low byte of the key's code arrives.
+    // [any] Allocates nothing. Only the low byte of the key's code arrives.
     void postKeyDown(const Key& key, bool isRepeat);
     void postKeyUp(const Key& key);
 

@@ -19,7 +19,7 @@ struct Prefix {
     int modifiers;
 };
 
-// The first that fits counts. A longer one stands before each that it begins with.
+// The first match counts. A longer prefix comes before each one that it begins with.
 constexpr std::array<Prefix, 15> PREFIXES = {{
     {"Shift Control Alt Win ", SHIFT | CONTROL | ALT | WIN},
     {"Shift Control Alt ", SHIFT | CONTROL | ALT},
@@ -38,7 +38,7 @@ constexpr std::array<Prefix, 15> PREFIXES = {{
     {"Win ", WIN},
 }};
 
-// A key is not available in a state that holds all modifiers of one of its rows, and, where a row says so, none of
+// A key is unavailable in a state that contains all modifiers of one of its rows and, where a row says so, none of
 // another set.
 struct Taken {
     std::int32_t firstCode;

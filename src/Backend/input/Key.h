@@ -9,10 +9,10 @@
 #include <string>
 #include <string_view>
 
-// A key of the computer keyboard together with the modifier keys that are held. A small value. [any]
+// A key of the computer keyboard together with the modifier keys being held. A small value. [any]
 class Key : public Backend::XmlItem {
 public:
-    // Codes are the system's virtual-key codes, but for these keys, which it does not tell apart by code.
+    // Codes are the system's virtual-key codes, except for these keys, which the system doesn't distinguish by code.
     static constexpr std::int32_t NO_KEY = -1;
     static constexpr std::int32_t RIGHT_SHIFT = 1;
     static constexpr std::int32_t ALT_KEY = 2;
@@ -22,11 +22,11 @@ public:
 
     static constexpr int MODIFIER_STATES = 16;
 
-    // No key, no modifier.
+    // No key and no modifiers.
     Key() = default;
     Key(std::int32_t code, bool shift, bool control, bool alt, bool win);
 
-    // From the text form. A name that is none of a key's gives no key, with the modifiers that stand before it.
+    // From the text form. An unknown name gives no key, with the modifiers that precede it.
     explicit Key(std::string_view id);
 
     std::int32_t getCode() const { return m_code; }
@@ -42,14 +42,14 @@ public:
     std::int32_t getIdentity() const { return getModifierIndex() << 8 | (m_code & 0xff); }
     static Key fromIdentity(std::int32_t identity);
 
-    // The modifiers and the name: "Shift Control Left". The left modifier keys and codes without a name do not read
+    // The modifiers and the name: "Shift Control Left". The left modifier keys and codes without a name don't read
     // back.
     std::string toXmlString() const override;
 
     // The name without modifiers; "Unknown" if the code has none.
     std::string getName() const;
 
-    // What stands on the key on the screen.
+    // The label of the key on the screen.
     std::string getLabel() const;
 
     // Whether the key reaches the desk in this modifier state: some combinations belong to the system, and some keys

@@ -21,12 +21,12 @@ public:
     KeyConfiguration() = default;
     explicit KeyConfiguration(const Key& key) : m_key(key) {}
 
-    // From its element. A key without a readable id is one that no key event can reach.
+    // Reads its element. No key event can reach a key without a readable id.
     KeyConfiguration(const XmlElement& element, MirelIF& mirel);
 
     const Key& getKey() const { return m_key; }
 
-    // Whether the key works, while the global keyboard is on, in other programs as well. It does not reach them then.
+    // Whether, while the global keyboard is on, the key also works in other programs. Those then don't get it.
     bool isGlobal() const { return m_global; }
     void setGlobal(bool global) { m_global = global; }
 

@@ -26,15 +26,15 @@ public:
     bool empty() const { return m_keys.empty(); }
     void clear() { m_keys.clear(); }
 
-    // Adds a configuration, or replaces that of its key.
+    // Adds a configuration, or replaces its key's.
     void set(const KeyConfiguration& configuration) { m_keys.insert_or_assign(configuration.getKey(), configuration); }
 
-    // Takes over the Key elements of a ComputerInput element, and its flag. Unless it says that it is to be merged,
-    // nothing else stays. Any other element is ignored.
+    // Takes over the Key elements of a ComputerInput element, and its flag. Unless the element says that it should be
+    // merged, it replaces everything. Any other element is ignored.
     void readXml(const XmlElement& element, MirelIF& mirel, bool& useKeyUpMod);
 
-    // The Key elements on lines of their own, indent tabs deep, in the order of their ids: all, or the selected ones,
-    // of which one without a configuration is written as a key that does nothing.
+    // Writes the Key elements on their own lines, indented by this many tabs, in the order of their ids: all, or the
+    // selected ones. A selected key without a configuration is written as one that does nothing.
     void writeKeys(std::ostream& stream, int indent, const std::vector<Key>& selected) const;
 
     // The notes of all keys by zone.

@@ -17,7 +17,7 @@ struct KeyListElement : ListElement {
     bool useKeyUpMod = false;  // Whether the release of a key is looked up with the modifiers that are held then.
 };
 
-// The attributes of the element in a program. If it names a preset, the keys are those of the preset.
+// The attributes of the element in a program. If it names a preset, the keys come from that preset.
 struct ProgramKeysElement : KeyListElement {
     static auto attributes() {
         return std::tuple_cat(

@@ -13,7 +13,7 @@ struct KeyName {
     std::int32_t code;
 };
 
-// Both ways but for the exceptions below.
+// For both directions, except for the entries below.
 constexpr std::array<KeyName, 103> NAMES = {{
     {"A", 65},
     {"B", 66},
@@ -120,7 +120,7 @@ constexpr std::array<KeyName, 103> NAMES = {{
     {"Slash", 191},
 }};
 
-// Codes whose name is another than the one that gives them, or that no name gives.
+// Codes whose name differs from the one that gives them, or that no name gives.
 constexpr std::array<KeyName, 5> NAMES_OF_CODES_ALONE = {{
     {"Left Shift", 16},
     {"Left Control", 17},

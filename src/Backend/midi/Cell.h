@@ -14,13 +14,13 @@ public:
     Cell() = default;
     Cell(std::int32_t row, std::int32_t column) : m_position{row, column} {}
 
-    // From "row,col". What can't be read stays -1.
+    // From "row,col". An unreadable coordinate stays -1.
     explicit Cell(std::string_view text);
 
     std::int32_t getRow() const { return m_position.row; }
     std::int32_t getColumn() const { return m_position.column; }
 
-    // Both coordinates in one number: it decides equality, order and hash.
+    // Both coordinates in one number, which decides equality, order and hash.
     std::int32_t getKey() const {
         return static_cast<std::int32_t>((static_cast<std::uint32_t>(m_position.row) << 16) |
                                          static_cast<std::uint32_t>(m_position.column));
@@ -37,7 +37,7 @@ private:
         std::int32_t column = -1;
     };
 
-    Position m_position;  // In one piece, so that a copy moves it in one go.
+    Position m_position;  // In one piece, so that it is copied in one go.
 };
 
 template <>

@@ -21,7 +21,7 @@ Fraction::Fraction(std::int32_t numerator, std::int32_t denominator)
     : m_numerator(std::clamp(numerator, LOWEST, HIGHEST)), m_denominator(std::clamp(denominator, LOWEST, HIGHEST)) {}
 
 Fraction::Fraction(std::string_view text) {
-    // The kind of separator decides, not its place in the text.
+    // The kind of separator decides, not its position in the text.
     auto separator = std::string_view::npos;
     for (const char candidate : {'/', '\\', '_'}) {
         separator = text.find(candidate);

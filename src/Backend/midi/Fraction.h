@@ -12,10 +12,10 @@ class Fraction : public XmlItem {
 public:
     Fraction() = default;
 
-    // Each number is kept to 1 through 99.
+    // Each number is clamped to 1 through 99.
     Fraction(std::int32_t numerator, std::int32_t denominator);
 
-    // From "3/4", "3\4", "3_4" or "3". What can't be read counts as 0 and so gives 1.
+    // From "3/4", "3\4", "3_4" or "3". An unreadable number counts as 0 and so becomes 1.
     explicit Fraction(std::string_view text);
 
     std::int32_t getNumerator() const { return m_numerator; }

@@ -9,8 +9,8 @@
 
 namespace Backend::MidiEngine {
 
-// Messages in the order in which they were added. It keeps the room that it once needed, and adding to it copies a
-// message over an old one, which costs less than making one. [locked, rt] unless it says otherwise.
+// Messages in the order in which they were added. It keeps the room that it once needed; adding copies a message over
+// an old one, which costs less than constructing one. [locked, rt] unless it says otherwise.
 class MessageList {
 public:
     MessageList() : m_messages(USUAL_COUNT) {}
@@ -26,13 +26,13 @@ public:
         m_messages[m_count++] = message;
     }
 
-    // [locked] Allocates, so that adding does not until there are this many.
+    // [locked] Allocates, so that adding doesn't until there are this many.
     void makeRoomFor(std::size_t count) {
         if (count > m_messages.size())
             m_messages.resize(std::max(count, 2 * m_messages.size()));
     }
 
-    // Drops what stands from here on.
+    // Drops everything from here on.
     void truncate(const MirelMidiMessage* newEnd) { m_count = static_cast<std::size_t>(newEnd - m_messages.data()); }
 
     void swap(MessageList& other) {

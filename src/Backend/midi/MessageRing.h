@@ -7,23 +7,24 @@
 
 namespace Backend::MidiEngine {
 
-// The newest messages up to a number, with room for all of them from the start. All but making it is [locked, rt].
+// The newest messages up to a given number, with room for all of them from the start. Everything except the
+// construction is [locked, rt].
 class MessageRing {
 public:
     explicit MessageRing(std::size_t capacity) : m_messages(capacity) {}
 
     bool isEmpty() const { return m_count == 0; }
 
-    // The oldest message. Only if there is one.
+    // The oldest message. Call it only if there is one.
     const MirelMidiMessage& front() const { return m_messages[m_first]; }
 
-    // Drops the oldest message. Only if there is one.
+    // Drops the oldest message. Call it only if there is one.
     void popFront() {
         m_first = next(m_first);
         --m_count;
     }
 
-    // Appends, in place of the oldest message if the ring is full.
+    // Appends, replacing the oldest message if the ring is full.
     void pushBack(const MirelMidiMessage& message) {
         if (m_count == m_messages.size())
             popFront();

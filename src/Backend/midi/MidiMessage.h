@@ -12,7 +12,7 @@ namespace Backend::MidiEngine {
 // One bare MIDI event: a status without channel, two data bytes and a channel. A small value, copied freely.
 class MidiMessage : public XmlItem {
 public:
-    // 0 is an empty message. Values without a name may be held; they are not valid.
+    // 0 is an empty message. It can also hold values without a name, which are not valid.
     enum MessageType : std::uint32_t {
         Empty = 0,
         NoteOff = 0x80,
@@ -43,12 +43,12 @@ public:
 
     MidiMessage() = default;
 
-    // The status loses its channel; the channel of the four-argument form is kept to 0 through 15.
+    // The status loses its channel; the channel of the four-argument form is limited to 0 through 15.
     MidiMessage(MessageType status, char d1, char d2, char channel);
     MidiMessage(MessageType status, char d1) : m_bytes{fixStatus(status), d1, 0, 0} {}
     explicit MidiMessage(MessageType status) : m_bytes{fixStatus(status), 0, 0, 0} {}
 
-    // From the word of getWparam. The channel is taken as it is.
+    // From the word of getWparam. The channel is taken unchecked.
     explicit MidiMessage(std::uint64_t wparam)
         : m_bytes{fixStatus(static_cast<MessageType>(wparam & 0xff)), static_cast<char>(wparam >> 8 & 0xff),
                   static_cast<char>(wparam >> 16 & 0xff), static_cast<char>(wparam >> 24 & 0xff)} {}
@@ -56,13 +56,13 @@ public:
     // From the text of toXmlString. An unknown name gives an empty message, an unreadable parameter 0.
     explicit MidiMessage(const std::string& text);
 
-    // A Note On of velocity 0 on channel 0; empty if it is no note.
+    // A Note On of velocity 0 on channel 0; empty if it is not a note.
     explicit MidiMessage(const Note& note);
 
-    // A Note On of velocity 0 on the present channel, whatever the number.
+    // A Note On of velocity 0 on the current channel, whatever the number.
     MidiMessage& operator=(const Note& note);
 
-    // A status below 0xF0 without its low four bits; any other as it is.
+    // A status below 0xF0 without its low four bits; any other unchanged.
     static constexpr MessageType fixStatus(std::uint32_t status) {
         return static_cast<MessageType>(status < 0xF0 ? status & 0xF0 : status);
     }
@@ -85,7 +85,7 @@ public:
     void setToNoteOff() { m_bytes.status = NoteOff; }
     void setToNoteOn() { m_bytes.status = NoteOn; }
 
-    // Whether the status is one that has a name.
+    // Whether the status has a name.
     bool isValid() const;
     bool isNote() const { return m_bytes.status == NoteOff || m_bytes.status == NoteOn; }
     bool isNoteOn() const { return m_bytes.status == NoteOn; }
@@ -107,18 +107,18 @@ public:
     int getMessageSize() const;
     bool hasParameters() const { return getMessageSize() > 0; }
 
-    // channel, d2, d1, status from the high byte to the low one.
+    // channel, d2, d1 and status, from the high byte to the low one.
     std::uint64_t getWparam() const {
         return std::uint64_t{static_cast<unsigned char>(m_bytes.channel)} << 24 |
                std::uint64_t{static_cast<unsigned char>(m_bytes.d2)} << 16 |
                std::uint64_t{static_cast<unsigned char>(m_bytes.d1)} << 8 | (m_bytes.status & 0xff);
     }
 
-    // d2, d1 and the status with its channel, as a MIDI output takes it. A channel above 15 is left out, and a Song
+    // d2, d1 and the status with its channel, as a MIDI output expects them. A channel above 15 is left out, and Song
     // Position has none.
     std::uint32_t getMidiOutShortMsg() const;
 
-    // Writes the status with its channel and the data bytes. Returns how many bytes that were: 1 to 3.
+    // Writes the status with its channel and the data bytes. Returns the number of bytes: 1 to 3.
     int writeBytes(std::ofstream& stream) const;
 
     // "Note On", or "Unknown".
@@ -131,20 +131,20 @@ public:
     // The name of a controller, 0 to 127; "Undefined" for one without a name.
     static std::string getControllerName(char number);
 
-    // "Note On,60" for notes and controllers; the event name alone for all others, which lose their data here.
+    // "Note On,60" for notes and controllers; only the event name for all others, which lose their data here.
     std::string toXmlString() const override;
 
     bool operator==(const MidiMessage& other) const;
     bool operator!=(const MidiMessage& other) const { return !(*this == other); }
 
-    // An order by status and d1 alone. <= and >= are no mirror images: two messages that differ only in d2 or channel
-    // are >= both ways and <= neither way.
+    // An order by status and d1 alone. <= and >= don't mirror each other: two messages that differ only in d2 or
+    // channel are >= both ways and <= neither way.
     bool operator<(const MidiMessage& other) const;
     bool operator>=(const MidiMessage& other) const;
     bool operator<=(const MidiMessage& other) const;
 
 private:
-    // In one piece, so that a copy moves it in one go.
+    // In one piece, so that it is copied in one go.
     struct Bytes {
         MessageType status = Empty;
         char d1 = 0;

@@ -36,7 +36,7 @@ struct ControllerName {
     const char* name;
 };
 
-// 1 to 19; the fine halves 33 to 51 bear the same names.
+// 1 to 19; the fine halves 33 to 51 have the same names.
 constexpr std::array<ControllerName, 15> COARSE_NAMES = {{
     {1, "Modulation wheel"},
     {2, "Breath control"},
@@ -116,7 +116,7 @@ constexpr std::array<const char*, 128> makeControllerNames() {
 
 constexpr std::array<const char*, 128> CONTROLLER_NAMES = makeControllerNames();
 
-// By program, in the families of eight of General MIDI.
+// By program, in General MIDI's families of eight.
 // clang-format off
 constexpr std::array<const char*, 128> PROGRAM_NAMES = {
     "Acoustic Grand", "Bright Acoustic", "Electric Grand", "Honky-Tonk", "Electric Piano 1", "Electric Piano 2", "Harpsichord", "Clavinet",

@@ -11,7 +11,7 @@ public:
     virtual ~MidiPlayer() = default;
 
     // [player, rt; before the first time slice whoever asked for a reset] Sends one event now to message.getOutput().
-    // The engine's lock is held: nothing that waits for it may be called.
+    // Called under the engine's lock, so it must not call anything that waits for that lock.
     virtual void playMidi(const MirelMidiMessage& message) = 0;
 
     // [engine] Opens or closes a port, by index from 0.
@@ -21,7 +21,7 @@ public:
     // [any] The id of the thread that runs the time slices.
     virtual DWORD getThreadId() = 0;
 
-    // [any] Asks for a time slice soon.
+    // [any] Requests a time slice soon.
     virtual void pulseSequencer() = 0;
 
     // [engine] Beats per minute.

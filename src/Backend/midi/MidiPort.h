@@ -4,9 +4,9 @@
 
 namespace Backend::MidiEngine {
 
-// A MIDI port as the host knows it. Its index is its place in the host's list.
+// A MIDI port as the host presents it. Its index is its place in the host's list.
 struct MidiPort {
-    // Both belong to the host; the desk carries them along unread.
+    // Both belong to the host; the desk passes them along unread.
     char hostData1 = 0;
     char hostData2 = 0;
 

@@ -1,4 +1,4 @@
-// The ranges of numbers that several kinds of elements store. -1 stands for none, or for the default output or channel.
+// The ranges of numbers that several kinds of elements store. -1 means none, or the default output or channel.
 #pragma once
 
 #include "Backend/core/xml/Attribute.h"

@@ -8,7 +8,7 @@ namespace Backend::MidiEngine {
 
 enum class MidiEngineMessageType : std::uint32_t { EVENT = 0, RESET = 1, HARD_RESET = 2 };
 
-// A MIDI event with its routing through the desk. A value, copied freely; all but its texts is [rt].
+// A MIDI event with its routing through the desk. A value, copied freely; everything except its texts is [rt].
 class MirelMidiMessage {
 public:
     static constexpr char DEFAULT_CHANNEL = -1;
@@ -21,7 +21,8 @@ public:
     MirelMidiMessage(const MirelMidiMessage&) = default;
     MirelMidiMessage& operator=(const MirelMidiMessage&) = default;
 
-    // A negative channel is the default channel, stored as 0; others are kept to 0 through 15. ppq below 0: at once.
+    // A negative channel means the default channel, stored as 0; others are limited to 0 through 15. ppq below 0: at
+    // once.
     MirelMidiMessage(MidiMessage::MessageType status, char d1, char d2, char channel, char output, char zone,
                      char input, std::int32_t ppq);
 
@@ -32,10 +33,10 @@ public:
     // From the two words of getWparam and getLparam.
     MirelMidiMessage(std::uint64_t wparam, std::int64_t lparam);
 
-    // As the default, with the event of this word.
+    // The default routing, with the event in this word.
     explicit MirelMidiMessage(std::uint64_t wparam) : m_midiMessage(wparam) {}
 
-    // An event made by a control or a key. A channel of 0 or more replaces the event's own, unchecked; a negative one
+    // An event from a control or a key. A channel of 0 or more replaces the event's own, unchecked; a negative one
     // means the default channel.
     MirelMidiMessage(const MidiMessage& message, char output, char channel, char zone, const Cell& fromControl);
     MirelMidiMessage(const MidiMessage& message, const Routing& routing, const Cell& fromControl);
@@ -44,7 +45,7 @@ public:
     static MirelMidiMessage createAllControllersOffCC(char output, char channel);
     static MirelMidiMessage createSystemReset(char output);
 
-    // Requests that wait in the engine's queue among the events.
+    // Requests that wait among the events in the engine's queue.
     static MirelMidiMessage createMirelReset();
     static MirelMidiMessage createMirelHardReset();
 
@@ -61,7 +62,7 @@ public:
     void setD2(char d2) { m_midiMessage.setD2(d2); }
     char getChannel() const { return m_midiMessage.getChannel(); }
 
-    // 0 or more is stored unchecked and is a channel of the event's own; a negative one means the default channel.
+    // 0 or more is stored unchecked, as the event's own channel; a negative one means the default channel.
     void setChannel(char channel) {
         m_way.defaultChannel = channel < 0;
         m_midiMessage.setChannel(m_way.defaultChannel ? 0 : channel);
@@ -97,10 +98,10 @@ public:
     bool isMirelHardReset() const { return m_timing.type == MidiEngineMessageType::HARD_RESET; }
     bool isTimedEvent() const { return m_timing.ppq >= 0; }
 
-    // The two words that carry a message without its control, its time and a reset request.
+    // The two words that carry a message, without its control, its time and a reset request.
     std::uint64_t getWparam() const { return m_midiMessage.getWparam(); }
 
-    // zone, input, defaultChannel, output from the high byte to the low one.
+    // zone, input, defaultChannel and output, from the high byte to the low one.
     std::int64_t getLparam() const;
 
     std::uint32_t getMidiOutShortMsg() const { return m_midiMessage.getMidiOutShortMsg(); }
@@ -108,7 +109,7 @@ public:
 private:
     explicit MirelMidiMessage(MidiEngineMessageType type) : m_timing{type, -1} {}
 
-    // In pieces that a copy moves in one go each.
+    // In pieces that are each copied in one go.
     struct Way {
         char zone = DEFAULT_ZONE;
         char output = DEFAULT_OUTPUT;

@@ -23,7 +23,7 @@ std::int32_t pitchOfLetter(char letter) {
     }
 }
 
-// As the one byte of a note keeps a number, whatever its size.
+// Reduces a number of any size to the one byte in which a note stores it.
 std::uint8_t noteByte(std::int64_t number) {
     return static_cast<std::uint8_t>(number & 0xff);
 }

@@ -7,10 +7,10 @@
 
 namespace Backend {
 
-// [any] The name of a note, read as an unsigned byte: "C#", with octave "C#4". 60 is C4.
+// [any] The name of a note, given as an unsigned byte: "C#", or with octave "C#4". 60 is C4.
 std::string getNoteName(char note, bool withOctave);
 
-// A note number, 0 to 127. Anything above means no note; the system writes 255 for that.
+// A note number, 0 to 127. Anything above means no note; 255 is stored for that.
 class Note : public XmlItem {
 public:
     static constexpr std::uint8_t NONE = 255;
@@ -18,8 +18,8 @@ public:
     Note() = default;
     explicit Note(std::uint8_t number) : m_number(number) {}
 
-    // From a name such as "G#3" or a number such as "68". An empty text is no note; a text that makes no sense still
-    // gives some note: an unknown letter counts as C, a missing or unreadable octave as 4, an unreadable number as 60.
+    // From a name such as "G#3" or a number such as "68". An empty text gives no note; nonsense still gives some note:
+    // an unknown letter counts as C, a missing or unreadable octave as 4, an unreadable number as 60.
     explicit Note(std::string_view text);
 
     std::uint8_t getNumber() const { return m_number; }

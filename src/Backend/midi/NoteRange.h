@@ -15,7 +15,7 @@ constexpr std::int32_t foldIntoNoteRange(std::int32_t note) {
     return note;
 }
 
-// [any] 32-bit sum that wraps, as the numbers of offsets and times do.
+// [any] A 32-bit sum that wraps, as those of offsets and times do.
 constexpr std::int32_t wrappingAdd(std::int32_t a, std::int32_t b) {
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) + static_cast<std::uint32_t>(b));
 }

@@ -1,4 +1,4 @@
-// Who is told of the events that pass through the engine.
+// Receives the events that pass through the engine.
 #pragma once
 
 namespace Backend::MidiEngine {
@@ -9,8 +9,8 @@ class PassingEvents {
 public:
     virtual ~PassingEvents() = default;
 
-    // [player, rt, under the engine's lock] An event that is not a note passed, with the output and channel that it
-    // came with. False, and nothing is kept, while the receiver takes no more.
+    // [player, rt, under the engine's lock] An event other than a note passed, with the output and channel that it came
+    // with. Returns false, keeping nothing, while the receiver can't take more.
     [[nodiscard]] virtual bool postUpdateControl(const MirelMidiMessage& message) = 0;
 };
 

@@ -10,7 +10,7 @@
 
 namespace Backend::MidiEngine {
 
-// Messages on the heap that one thread makes ahead for another, which must send some but may not take them from there.
+// Messages on the heap that one thread allocates ahead for another, which must send some but may not allocate.
 class SpareMessages {
 public:
     static constexpr std::size_t CAPACITY = 1024;
@@ -20,9 +20,8 @@ public:
     SpareMessages(const SpareMessages&) = delete;
     SpareMessages& operator=(const SpareMessages&) = delete;
 
-    // [one thread at a time; rt if post is] Makes a spare equal to the message and hands it to
-    // post(std::unique_ptr<MirelMidiMessage>&), which returns whether it took it. False if it did not, or if no spare
-    // is left.
+    // [one thread at a time; rt if post is] Copies the message into a spare and hands that to post(MirelMidiMessage*),
+    // which returns whether it now owns it. False if it does not, or if no spare is left.
     template <typename Post>
     [[nodiscard]] bool give(const MirelMidiMessage& message, Post post) {
         const std::uint32_t given = m_given.load(std::memory_order_relaxed);
@@ -36,7 +35,7 @@ public:
         return true;
     }
 
-    // [another thread, one at a time] Makes spares in place of those that were given away.
+    // [another thread, one at a time] Replaces the spares that were given away.
     void refill() {
         std::uint32_t made = m_made.load(std::memory_order_relaxed);
         for (; made - m_given.load(std::memory_order_acquire) < CAPACITY; ++made) {
@@ -48,7 +47,7 @@ public:
 private:
     std::array<std::unique_ptr<MirelMidiMessage>, CAPACITY> m_spares;
 
-    // Counts from the beginning; they wrap.
+    // Counts since the beginning; they wrap.
     std::atomic<std::uint32_t> m_made{0};
     std::atomic<std::uint32_t> m_given{0};
 };

@@ -12,7 +12,7 @@ struct NamedLength {
     const char* name;
 };
 
-// In order of length; the index of the first row is 1.
+// In order of length; the first row has index 1.
 constexpr std::array<NamedLength, TimeInterval::LAST_INDEX> LENGTHS = {{
     {20, "1/64 Triplet"}, {40, "1/32 Triplet"}, {60, "1/32"},           {80, "1/16 Triplet"}, {120, "1/16"},
     {160, "1/8 Triplet"}, {180, "1/16 Dotted"}, {240, "1/8"},           {320, "1/4 Triplet"}, {360, "1/8 Dotted"},

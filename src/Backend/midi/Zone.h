@@ -17,7 +17,7 @@ struct Zone {
         };
     }
 
-    // Lets the range take in that of another, whose notes are notes.
+    // Extends the range to include another one, whose notes must both be notes.
     void widen(const Zone& other) {
         if (!lowNote.isNote() || other.lowNote.getNumber() < lowNote.getNumber())
             lowNote = other.lowNote;
@@ -27,7 +27,7 @@ struct Zone {
 
     ZoneId id = 0;
     char transpose = 0;  // Half-steps.
-    Note lowNote;        // The range of the keys in the zone, for display; no note if there are none.
+    Note lowNote;        // The range of the zone's keys, for display; no note if it has none.
     Note highNote;
     bool selected = false;  // On the screen.
 };

@@ -6,7 +6,7 @@ namespace Gui::ComputerInput {
 
 class ComputerInputPanel;
 
-// Brings the desk's changes of its keys to their screen. [gui]
+// Passes the desk's changes of its keys to their screen. [gui]
 class ComputerInputGuiMessageManager : public Backend::GuiMessageManager {
 public:
     explicit ComputerInputGuiMessageManager(ComputerInputPanel& panel) : m_panel(panel) {}

@@ -12,13 +12,13 @@
 
 namespace Gui::ComputerInput {
 
-// The keys of the computer's keyboard and what they do. It also tells the global keyboard which keys to take. [gui]
+// The keys of the computer's keyboard and what they do. Also sets which keys the global keyboard takes. [gui]
 class ComputerInputPanel : public SkinPanel, public Preset::PresetGuiOwner {
 public:
     // [backend] Takes a copy of the keys.
     explicit ComputerInputPanel(MirelGuiIF& gui);
 
-    // Adds the sub-panels. Once, when the window is there.
+    // Adds the sub-panels. Call it once, when the window exists.
     void setupPanels();
 
     // Shows the keys and hands them to the global keyboard.
@@ -28,13 +28,13 @@ public:
     SettingsPanel& getSettingsPanel() { return m_settingsPanel; }
     ComputerInputGuiMessageManager& getMessageManager() { return m_messageManager; }
 
-    // The keys, as the desk last told them, and whether a release looks its key up with its modifiers.
+    // The keys, as the desk last sent them, and whether a release looks its key up with its modifiers.
     const Backend::ComputerInput::KeyConfigurationMap& getKeyConfigurations() const { return m_keys; }
     bool getUseKeyUpMod() const { return m_useKeyUpMod; }
     void setKeys(const std::vector<Backend::ComputerInput::KeyConfiguration>& keys);
     void setAllKeys(Backend::ComputerInput::KeyConfigurationMap keys, bool useKeyUpMod);
 
-    // Tells the global keyboard anew which keys switch it.
+    // Sends the keys that switch the global keyboard to it again.
     void updateControlKeys();
 
     void addPreset(const std::string& name, bool selectedOnly) override;

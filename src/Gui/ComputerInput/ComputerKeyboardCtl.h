@@ -9,17 +9,17 @@ namespace Gui::ComputerInput {
 // A picture of the computer's keyboard that shows which keys are down. [gui]
 class ComputerKeyboardCtl {
 public:
-    // A key, with its modifiers, is down or up.
+    // Marks a key, with its modifiers, as down or up.
     void setPressed(const Key& key, bool pressed) { m_pressed[key] = pressed; }
 
-    // A key is up under whatever modifiers it went down.
+    // Marks a key as up, whatever modifiers it went down with.
     void releaseAllOfCode(std::int32_t code) {
         for (auto& [key, pressed] : m_pressed)
             if (key.getCode() == code)
                 pressed = false;
     }
 
-    // All keys are up.
+    // Marks all keys as up.
     void clearHilight() {
         for (auto& entry : m_pressed)
             entry.second = false;

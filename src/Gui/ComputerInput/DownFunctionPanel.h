@@ -11,10 +11,10 @@ class DownFunctionPanel : public SkinPanel {
 public:
     explicit DownFunctionPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_KEY_DOWN_FUNCTION) {}
 
-    // Fills the fields anew.
+    // Fills the fields again.
     void refresh() { redraw(getWindowHandle(), true); }
 
-    // The outputs have changed.
+    // Call this when the outputs have changed.
     void refreshOutputs() {}
 };
 

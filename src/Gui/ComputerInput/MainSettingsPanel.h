@@ -6,12 +6,12 @@
 
 namespace Gui::ComputerInput {
 
-// What holds for a key as a whole. [gui]
+// The settings of a key as a whole. [gui]
 class MainSettingsPanel : public SkinPanel {
 public:
     explicit MainSettingsPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_KEY_MAIN_SETTINGS) {}
 
-    // Fills the fields anew.
+    // Fills the fields again.
     void refresh() { redraw(getWindowHandle(), true); }
 };
 

@@ -13,7 +13,7 @@ public:
     explicit SettingsPanel(MirelGuiIF& gui)
         : SkinPanel(gui), m_mainSettingsPanel(gui), m_downFunctionPanel(gui), m_upFunctionPanel(gui) {}
 
-    // Adds the sub-panels. Once, when the window is there.
+    // Adds the sub-panels. Call it once, when the window exists.
     void setupPanels() {
         add(&m_mainSettingsPanel);
         add(&m_downFunctionPanel);
@@ -24,7 +24,7 @@ public:
     DownFunctionPanel& getDownFunctionPanel() { return m_downFunctionPanel; }
     UpFunctionPanel& getUpFunctionPanel() { return m_upFunctionPanel; }
 
-    // Fills the fields anew.
+    // Fills the fields again.
     void refresh() {
         m_mainSettingsPanel.refresh();
         m_downFunctionPanel.refresh();

@@ -6,15 +6,15 @@
 
 namespace Gui::ComputerInput {
 
-// What a key does when it comes up. [gui]
+// What a key does when it is released. [gui]
 class UpFunctionPanel : public SkinPanel {
 public:
     explicit UpFunctionPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_KEY_UP_FUNCTION) {}
 
-    // Fills the fields anew.
+    // Fills the fields again.
     void refresh() { redraw(getWindowHandle(), true); }
 
-    // The outputs have changed.
+    // Call this when the outputs have changed.
     void refreshOutputs() {}
 };
 

@@ -18,7 +18,7 @@ void setControls(ControlPanel& panel, UpdateFlags, const std::vector<Control>& c
     panel.setControls(controls);
 }
 
-// Of the column, the low byte alone counts.
+// Only the low byte of the column counts.
 Cell withColumnByte(const Cell& cell) {
     constexpr int BYTE = 0xff;
     return {cell.getRow(), cell.getColumn() & BYTE};

@@ -6,7 +6,7 @@ namespace Gui::Controls {
 
 class ControlPanel;
 
-// Brings the desk's changes of its controls to their screen. [gui]
+// Passes the desk's changes of its controls to their screen. [gui]
 class ControlGuiMessageManager : public Backend::GuiMessageManager {
 public:
     explicit ControlGuiMessageManager(ControlPanel& panel) : m_panel(panel) {}

@@ -23,33 +23,33 @@ public:
     // [backend] Takes a copy of the controls.
     explicit ControlPanel(MirelGuiIF& gui);
 
-    // Adds the sub-panels. Once, when the window is there.
+    // Adds the sub-panels. Call it once, when the window exists.
     void setupPanels();
 
     MainPanel& getMainPanel() { return m_mainPanel; }
     SettingsPanel& getSettingsPanel() { return m_settingsPanel; }
     ControlGuiMessageManager& getMessageManager() { return m_messageManager; }
 
-    // The copy of the desk's controls, and what of the grid is marked on the screen. Only cells with a control carry
-    // the mark of the kind DATA.
+    // The copy of the desk's controls, and what is marked in the grid on the screen. Only cells with a control carry
+    // marks of the kind DATA.
     Backend::Controls::ControlMap& getControlMap() { return m_controls; }
     Selection<Cell>& getSelection() { return m_selection; }
 
-    // The control that the desk has selected last, from which ranges begin; a cell outside the grid if there was none.
+    // The control that the desk selected last, where ranges begin; a cell outside the grid if there is none.
     const Cell& getAnchor() const { return m_anchor; }
 
-    // The control that has the focus among those of the grid; a cell outside the grid if none has.
+    // The control of the grid that has the focus; a cell outside the grid if none has.
     const Cell& getFocusCell() const { return m_focusCell; }
 
-    // Take over what the desk has changed, and repaint what shows it. A cell without a control is ignored.
+    // Take over the desk's changes, and repaint what shows them. A cell without a control is ignored.
     void setControls(const std::vector<Backend::Controls::Control>& controls);  // One without a type empties its cell.
     void setControlMap(const Backend::Controls::ControlMap& controls);          // Takes all marks away.
     void setValue(const Cell& cell, std::int32_t value);
 
-    // The control becomes the only marked one, whatever selected is.
+    // Makes this control the only marked one, whatever selected is.
     void setSelected(const Cell& cell, bool selected);
 
-    // Moves the focus to the next control in a direction, the first one that is marked, or that of a cell.
+    // Moves the focus to the next control in a direction, to the first marked one, or to the one in a cell.
     void setFocus(const SelectControlType& type);
 
     void setPresetNames(const std::vector<std::string>& names) { m_presetNames = names; }

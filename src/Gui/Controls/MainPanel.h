@@ -11,7 +11,7 @@ class MainPanel : public SkinPanel {
 public:
     explicit MainPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_CONTROL_MAIN) {}
 
-    // The controls have changed, or what of them is marked.
+    // Call this when the controls or their marks have changed.
     void refreshGrid() { redraw(getWindowHandle()); }
 };
 

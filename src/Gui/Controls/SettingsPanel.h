@@ -6,15 +6,15 @@
 
 namespace Gui::Controls {
 
-// The fields of one control or of several. [gui]
+// The fields of one or several controls. [gui]
 class SettingsPanel : public SkinPanel {
 public:
     explicit SettingsPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_CONTROL_SETTINGS) {}
 
-    // Fills the fields anew.
+    // Fills the fields again.
     void refresh() { redraw(getWindowHandle(), true); }
 
-    // The outputs have changed.
+    // Call this when the outputs have changed.
     void refreshOutputs() {}
 };
 

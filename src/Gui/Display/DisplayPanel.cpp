@@ -25,9 +25,9 @@ constexpr const char* OBJECT = "DisplayPanel";
 constexpr const char* PROCEDURE = "ORIG_PROC";
 constexpr UINT_PTR TIMER = 0;
 constexpr UINT TIMER_MILLISECONDS = 100;
-constexpr int GRIP_HEIGHT = 20;  // The part of the text at its bottom that resizes, in pixels.
-constexpr int LINE_HEIGHT = 5;   // Of the line that shows where the edge goes.
-constexpr int HIDDEN_EDGE = 6;   // What the text's edges above and below lie outside the panel, together.
+constexpr int GRIP_HEIGHT = 20;  // The strip at the bottom of the text that resizes the panel, in pixels.
+constexpr int LINE_HEIGHT = 5;   // Of the line that shows where the edge would go.
+constexpr int HIDDEN_EDGE = 6;   // How far the text's top and bottom edges lie outside the panel, together.
 constexpr int BEYOND_THE_END = 30001;
 constexpr std::array<int, 4> COLUMNS = {90, 110, 165, 245};  // In dialog units.
 
@@ -61,7 +61,7 @@ void DisplayPanel::createWnd(HINSTANCE module, HWND parentWindow) {
     PostMessageA(getWindowHandle(), UM_DISPLAY_CREATED, 0, 0);
 }
 
-// Its lower edge must be where the pointer can get, to be dragged up again.
+// The lower edge must stay within the pointer's reach, so that it can be dragged up again.
 int DisplayPanel::firstHeight() const {
     const int height = gui().getRegistrySettings().getDisplayHeight();
     return DisplayText::limitHeight(std::min(height, GetSystemMetrics(SM_CYVIRTUALSCREEN)));
@@ -262,14 +262,14 @@ void DisplayPanel::moveLine(int y) {
     m_line = y;
 }
 
-// Drawing it again takes it away.
+// Drawing it a second time removes it.
 void DisplayPanel::drawLine(int y) const {
     const RECT rect = windowRect(getWindowHandle());
     const WindowDc screen(nullptr);
     PatBlt(screen.dc(), rect.left, y, rect.right - rect.left, LINE_HEIGHT, PATINVERT);
 }
 
-// Something else takes the mouse, or the panel goes.
+// Something else has taken the mouse, or the panel is closing.
 void DisplayPanel::giveResizingUp() {
     if (m_line)
         drawLine(*m_line);

@@ -32,7 +32,7 @@ public:
     void append(const char* text) override;
     void setText(const char* text) override;
 
-    // Large characters fill the panel from side to side; small ones stand in columns.
+    // Large characters fill the panel from side to side; small ones are arranged in columns.
     void setLargeFont(bool large);
 
 private:
@@ -60,11 +60,11 @@ private:
     Backend::Display::DisplayMessageManager& m_display;
     HWND m_edit = nullptr;
     PopupMenu m_menu;
-    std::size_t m_length = 0;  // [display] What the edit holds, in bytes, as far as that thread knows.
-    std::atomic<bool> m_isAwaitingText = false;  // The log's thread may be telling, or about to.
+    std::size_t m_length = 0;                    // [display] Bytes in the edit, as this thread last set it.
+    std::atomic<bool> m_isAwaitingText = false;  // The log's thread may be sending text, or about to.
     bool m_resizing = false;
     bool m_largeFont = false;
-    std::optional<int> m_line;  // Where the edge would go, on the screen.
+    std::optional<int> m_line;  // Where the edge would go, in screen coordinates.
 };
 
 }

@@ -11,18 +11,18 @@
 
 namespace Gui::Help {
 
-// Tells about whatever is under the pointer, and about the product. [gui]
+// Explains whatever is under the pointer, and shows information about the product. [gui]
 class HelpPanel : public SkinPanel, public Button::Listener {
 public:
     explicit HelpPanel(MirelGuiIF& gui);
 
     void createWnd(HINSTANCE module, HWND parentWindow) override;
 
-    // The text of an id of the resources; none for 0 and below. What shows already is not loaded again, and nothing
-    // changes while the panel tells about the product.
+    // Shows the resource text with this id; 0 and below have none. Text that is already shown is not loaded again, and
+    // nothing changes while information about the product is shown.
     void showHelp(int id);
 
-    // By the property "HELP" of a window. One without it, or null, leaves the text as it is.
+    // Uses the property "HELP" of a window. Without that property, or for null, the text stays as it is.
     void showHelp(HWND window);
 
     void showHelp(const std::string& text);

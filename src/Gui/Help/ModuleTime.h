@@ -11,7 +11,7 @@ namespace Gui::Help {
 // [any] When the file of the library was last written, in local time; nothing if it can't be opened.
 std::optional<BuildTime> getModuleTime();
 
-// [any] The same of any file.
+// [any] The same for any file.
 std::optional<BuildTime> getFileTime(const char* path);
 
 }

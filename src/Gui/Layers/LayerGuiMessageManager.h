@@ -6,7 +6,7 @@ namespace Gui::Layers {
 
 class LayerPanel;
 
-// Brings the desk's changes of its layers to their screen. [gui]
+// Passes the desk's changes of its layers to their screen. [gui]
 class LayerGuiMessageManager : public Backend::GuiMessageManager {
 public:
     explicit LayerGuiMessageManager(LayerPanel& panel) : m_panel(panel) {}

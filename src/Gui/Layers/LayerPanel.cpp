@@ -87,7 +87,7 @@ void LayerPanel::setToggle(std::int32_t id, const NoteToggle& toggle) {
     setField(id, &Layer::toggle, toggle);
 }
 
-// Functions change these two as fast as notes come, so no more than the one button is painted.
+// Functions can change these two as fast as notes come, so only the one button is painted.
 void LayerPanel::setButton(std::int32_t id, bool Layer::*button, bool state) {
     Layer* const layer = m_layers.find(LayerId{id});
     if (!layer)

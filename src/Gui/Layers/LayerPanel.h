@@ -24,21 +24,21 @@ public:
     // [backend] Takes a copy of the layers.
     explicit LayerPanel(MirelGuiIF& gui);
 
-    // Adds the sub-panels. Once, when the window is there.
+    // Adds the sub-panels. Call it once, when the window exists.
     void setupPanels();
 
     MainPanel& getMainPanel() { return m_mainPanel; }
     SettingsPanel& getSettingsPanel() { return m_settingsPanel; }
     LayerGuiMessageManager& getMessageManager() { return m_messageManager; }
 
-    // The copy of the desk's layers, and what of them is marked on the screen, by their places.
+    // The copy of the desk's layers, and which of them are marked on the screen, by their places.
     Backend::Layers::LayerList& getLayerList() { return m_layers; }
     Selection<std::int32_t>& getSelection() { return m_selection; }
 
-    // The layer that was marked last, from which the next one counts; -1 if there was none.
+    // The layer that was marked last, from which the next one is counted; -1 if there is none.
     std::int32_t getLastSelected() const { return m_lastSelected; }
 
-    // Take over what the desk has changed, and repaint what shows it. An id that is not a place in the list is ignored.
+    // Take over the desk's changes, and repaint what shows them. An id that is not a place in the list is ignored.
     void setLayers(const std::vector<Backend::Layers::Layer>& layers);
     void setLayerList(const Backend::Layers::LayerList& layers);  // Takes all marks away.
     void setSelected(std::int32_t id, bool selected);
@@ -49,8 +49,7 @@ public:
     void setSolo(std::int32_t id, bool solo);
     void setToggle(std::int32_t id, const NoteToggle& toggle);
 
-    // Marks another layer for the settings in place of the one that was marked last: the next or previous one, or a
-    // certain one.
+    // Marks another layer for the settings instead of the one marked last: the next or previous one, or a specific one.
     void editSelect(const SelectType& type);
 
     void setPresetNames(const std::vector<std::string>& names) { m_presetNames = names; }

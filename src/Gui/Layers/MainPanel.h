@@ -11,14 +11,14 @@ class MainPanel : public SkinPanel {
 public:
     explicit MainPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_LAYER_MAIN) {}
 
-    // The program has another tempo or tempo source.
+    // Call this when the program's tempo or tempo source has changed.
     void refreshTempo() {}
 
-    // The layers have changed: all of their rows, or the button at the left of one.
+    // Call these when layers have changed: all of their rows, or the button at the left of one.
     void refreshRows() { redraw(getWindowHandle()); }
     void refreshBox(int row);
 
-    // The inputs have changed.
+    // Call this when the inputs have changed.
     void refreshTempoSources() {}
 };
 

@@ -6,15 +6,15 @@
 
 namespace Gui::Layers {
 
-// The fields of one layer or of several. [gui]
+// The fields of one or several layers. [gui]
 class SettingsPanel : public SkinPanel {
 public:
     explicit SettingsPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_LAYER_SETTINGS) {}
 
-    // Fills the fields anew.
+    // Fills the fields again.
     void refresh() { redraw(getWindowHandle(), true); }
 
-    // The outputs have changed.
+    // Call this when the outputs have changed.
     void refreshOutputs() {}
 };
 

@@ -15,7 +15,7 @@ public:
 
     MusicKeyboardCtl& getMusicKeyboardCtl() { return m_keyboard; }
 
-    // Each tells whether its panel shows.
+    // Each shows whether its panel is visible.
     Button& getCcButton() { return m_ccButton; }
     Button& getZoneButton() { return m_zoneButton; }
     Button& getLayerButton() { return m_layerButton; }

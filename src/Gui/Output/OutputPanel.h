@@ -8,15 +8,15 @@
 
 namespace Gui::Output {
 
-// What is seen of a program's output: the controllers, the music keyboard, the zones and the layers. [gui]
+// The visible output of a program: the controllers, the music keyboard, the zones and the layers. [gui]
 class OutputPanel : public SkinPanel {
 public:
-    // [backend] The managers of the layers' and zones' messages come to the gui's.
+    // [backend] Registers the managers of the layers' and zones' messages with the gui.
     explicit OutputPanel(MirelGuiIF& gui);
 
     void createWnd(HINSTANCE module, HWND parentWindow) override;
 
-    // Adds the sub-panels. Once, when the window is there.
+    // Adds the sub-panels. Call it once, when the window exists.
     void setupPanels();
 
     CcPanel& getCcPanel() { return m_ccPanel; }

@@ -5,12 +5,12 @@
 
 namespace Gui::Preset {
 
-// A screen whose settings can be kept as presets. [gui]
+// A screen whose settings can be saved as presets. [gui]
 class PresetGuiOwner {
 public:
     virtual ~PresetGuiOwner() = default;
 
-    // Keeps what the screen shows under a name: all of it, or what is selected. A preset of this name is replaced.
+    // Saves what the screen shows under a name: all of it, or the selection. Replaces a preset of that name.
     virtual void addPreset(const std::string& name, bool selectedOnly) = 0;
 
     virtual void editPreset(const std::string& oldName, const std::string& newName) = 0;

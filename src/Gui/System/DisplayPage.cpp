@@ -13,7 +13,7 @@ DisplayPage::DisplayPage(MirelGuiIF& gui, Backend::RegistrySettings& settings)
 void DisplayPage::initialize() {
     setChecked(IDC_SETUP_LARGE_FONT, m_settings.getLargeDisplayFont());
     setChecked(IDC_SETUP_DISPLAY_NUMBERS, m_settings.getDisplayNumbers());
-    // What the log holds is no choice of this edition.
+    // This edition doesn't let the user choose what the log holds.
     ShowWindow(control(IDC_SETUP_DISPLAY_INPUTS), SW_HIDE);
     ShowWindow(control(IDC_SETUP_DISPLAY_OUTPUTS), SW_HIDE);
 }

@@ -8,7 +8,7 @@ class RegistrySettings;
 
 namespace Gui::System {
 
-// How the log looks. [gui]
+// The log's appearance. [gui]
 class DisplayPage : public SetupPage {
 public:
     DisplayPage(MirelGuiIF& gui, Backend::RegistrySettings& settings);

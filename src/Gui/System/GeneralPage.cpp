@@ -15,7 +15,7 @@ namespace {
 constexpr int MAX_VELOCITY = 127;
 constexpr int MAX_VELOCITY_LENGTH = 3;
 constexpr int MAX_MOUSE_SENSITIVITY = 100;
-constexpr int MAX_NUMBER_LENGTH = 9;  // What fits a setting.
+constexpr int MAX_NUMBER_LENGTH = 9;  // The longest that a setting can hold.
 
 }
 
@@ -67,7 +67,7 @@ void GeneralPage::apply() {
     desk.postSetLiteStackNotes(stackNotes);
     desk.postSetLiteChannel(channel);
 
-    // The desk tells the window nothing of these.
+    // The desk sends the window no notification of these.
     m_settings.setLiteVelocity(velocity);
     m_settings.setLiteStackNotes(stackNotes);
     m_settings.setLiteChannel(channel);

@@ -8,7 +8,7 @@ class RegistrySettings;
 
 namespace Gui::System {
 
-// The events that keys begin with, the mouse, and the window. [gui]
+// The initial settings of keys' events, the mouse, and the window. [gui]
 class GeneralPage : public SetupPage {
 public:
     // Settings of the host's window that are not offered keep their values.

@@ -7,11 +7,11 @@
 
 namespace Gui::System {
 
-// Which outputs are in use. It can't be left while an output and an input at both ends of a cable inside the computer
-// are. [gui]
+// Which outputs are in use. The user can't leave the page while both ends of a cable inside the computer are enabled,
+// one as output and one as input. [gui]
 class MidiOutputsPage : public SetupPage {
 public:
-    // The ports are the setup's. A page that was left has its marks in the outputs.
+    // The ports belong to the setup. When the page is left, its check marks are in outputs.
     MidiOutputsPage(MirelGuiIF& gui, std::vector<SetupPort>& outputs, const std::vector<SetupPort>& inputs);
 
 private:

@@ -11,8 +11,8 @@ class MirelGuiIF;
 
 namespace Gui::System {
 
-// The programs of the bank. With Ctrl held the left button opens a box for the name of the current program instead of
-// the list. [gui]
+// The programs of the bank. With Ctrl held, the left button opens a box for the current program's name instead of the
+// list. [gui]
 class ProgramNameComboBox : public ComboBox {
 public:
     explicit ProgramNameComboBox(MirelGuiIF& gui);
@@ -24,7 +24,7 @@ private:
     LRESULT handleControlColour(HDC dc) const;
 
     MirelGuiIF& m_gui;
-    std::unique_ptr<ProgramNameEditBox> m_nameBox;  // The last one, be it open or not.
+    std::unique_ptr<ProgramNameEditBox> m_nameBox;  // The last one, open or not.
 };
 
 }

@@ -67,7 +67,7 @@ void ProgramNameEditBox::giveFocusBack(HWND window) {
 void ProgramNameEditBox::handleFocusLost(HWND window) {
     if (!getFlag(window, CANCEL))
         m_gui.getMirelMessageManager().postChangeProgramName(readName(window));
-    setNumber(window, CANCEL, 1);  // Whatever takes the window away from here on saves nothing.
+    setNumber(window, CANCEL, 1);  // From here on, closing the window for any reason saves nothing.
     DestroyWindow(window);
 }
 

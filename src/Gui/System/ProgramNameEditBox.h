@@ -10,19 +10,19 @@ class MirelGuiIF;
 
 namespace Gui::System {
 
-// A box over the list of programs in which the current program's name is changed. It closes when it loses the focus,
-// and saves the name unless Esc took the focus from it; Enter and a click into it save too. [gui]
+// A box over the list of programs for changing the current program's name. It closes when it loses the focus, and saves
+// the name unless that was due to Esc; Enter and a click into it save too. [gui]
 class ProgramNameEditBox : public EditBox {
 public:
-    // What a name can hold, in bytes.
+    // The most bytes a name can hold.
     static constexpr int MAX_NAME = 200;
 
     explicit ProgramNameEditBox(MirelGuiIF& gui) : m_gui(gui) {}
 
-    // Ends an open box without saving.
+    // Closes an open box without saving.
     ~ProgramNameEditBox() override;
 
-    // Covers the list, a control of a panel, and takes the focus.
+    // Covers the list, which is a control of a panel, and takes the focus.
     void open(HWND list);
 
     LRESULT wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -51,7 +51,8 @@ void SetupDialog::show() {
     PropertySheetA(&sheet);
 }
 
-// The desk's window may be a strip at the edge of the screen: the sheet opens around its middle, but all on the screen.
+// The desk's window may be a strip at the edge of the screen: the sheet opens around its middle, but fully on the
+// screen.
 int CALLBACK SetupDialog::sheetProcedure(HWND sheet, UINT message, LPARAM) {
     if (message != PSCB_INITIALIZED)
         return 0;

@@ -19,11 +19,11 @@ class MirelGuiIF;
 
 namespace Gui::System {
 
-// The setup: a sheet of pages, which show the settings and have the desk change them when the user confirms. [gui]
+// The setup: a sheet of pages that show the settings and have the desk change them when the user confirms. [gui]
 class SetupDialog {
 public:
-    // The settings are the window's copy. The flags tell whether the two settings of the host's window are offered and
-    // whether there is a page of the outputs.
+    // The settings are the window's copy. The flags say whether the two settings of the host's window are offered, and
+    // whether there is a page for the outputs.
     SetupDialog(MirelGuiIF& gui, Backend::RegistrySettings& settings, bool offersAlwaysOnTop, bool offersMetallicBorder,
                 bool hasMidiOutputs);
     SetupDialog(const SetupDialog&) = delete;
@@ -37,7 +37,7 @@ private:
 
     MirelGuiIF& m_gui;
     bool m_hasMidiOutputs;
-    std::vector<SetupPort> m_outputs;  // As the sheet has them.
+    std::vector<SetupPort> m_outputs;  // As shown in the sheet.
     std::vector<SetupPort> m_inputs;
     GeneralPage m_generalPage;
     DisplayPage m_displayPage;

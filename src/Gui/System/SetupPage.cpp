@@ -54,7 +54,7 @@ INT_PTR SetupPage::handleNotify(const NMHDR& header) {
     }
 }
 
-// The skin colours edits and labels; the list that drops down is in the same colours.
+// The skin colours edits and labels; this gives the drop-down list the same colours.
 INT_PTR SetupPage::handleListColour(HDC dc) const {
     const GdiManager& gdi = m_gui.getGdiManager();
     SetTextColor(dc, gdi.getTextBrush().colour());
@@ -62,7 +62,7 @@ INT_PTR SetupPage::handleListColour(HDC dc) const {
     return reinterpret_cast<INT_PTR>(gdi.getBackroundBrush().handle());
 }
 
-// A skinned check box hands its keys to the page.
+// The page handles the keys of skinned check boxes.
 void SetupPage::toggleFocusedCheckBox() const {
     const HWND focus = GetFocus();
     if (GetParent(focus) == window() && GetPropA(focus, SkinProperties::CHECK_BOX_PROCEDURE))

@@ -12,14 +12,15 @@ class MirelGuiIF;
 
 namespace Gui::System {
 
-// A page of the setup: a skinned dialog that lives from the first look at the page to the end of the sheet. [gui]
+// A page of the setup: a skinned dialog that exists from the first time the page is shown to the end of the sheet.
+// [gui]
 class SetupPage : protected DialogObject {
 public:
-    // property: the name under which the page's window carries this object.
+    // property: the name under which the page's window stores this object.
     SetupPage(MirelGuiIF& gui, int dialogId, const char* property)
         : DialogObject(property), m_gui(gui), m_dialogId(dialogId) {}
 
-    // What the sheet needs to know.
+    // The page's description for the sheet.
     PROPSHEETPAGEA describe();
 
 protected:
@@ -28,13 +29,13 @@ protected:
     // Fills the controls.
     virtual void initialize() = 0;
 
-    // Whether the page can be left with what its controls hold; tells the user if it can't.
+    // Whether the page can be left with the values in its controls; informs the user if not.
     virtual bool validate() { return true; }
 
-    // Has the desk take over what the controls hold.
+    // Has the desk take over the values in the controls.
     virtual void apply() = 0;
 
-    // Of the page's own controls.
+    // For the page's own controls.
     virtual void handleNotification(const NMHDR&) {}
 
     MirelGuiIF& gui() const { return m_gui; }

@@ -25,7 +25,7 @@ struct ButtonRow {
     Button::Kind kind;
     int helpId;
     bool isSmall;          // Has the smaller font.
-    bool reportOnRelease;  // What it opens would keep the button's release from it.
+    bool reportOnRelease;  // What it opens would keep the button from getting its release.
 };
 
 constexpr ButtonRow BUTTONS[] = {
@@ -198,7 +198,7 @@ void SystemPanel::refreshSettings() {
     setButton(IDC_SYSTEM_GLOBAL_KEYBOARD, gui().getRegistrySettings().getGlobalKeyboard());
 }
 
-// The menu of a program that is not in front stays open, whatever the user does.
+// In a program that is not in front, a menu stays open, whatever the user does.
 void SystemPanel::comeToFront() {
     SetForegroundWindow(GetAncestor(getWindowHandle(), GA_ROOT));
 }
@@ -223,7 +223,7 @@ void SystemPanel::showFunctionMenu(LPARAM position) {
     }
 }
 
-// The current program, as a program of its own or in a copy of the bank.
+// The current program, as a file of its own or in a copy of the bank.
 void SystemPanel::save() {
     const auto path = FileDialog("Save", {BANK_FILES, PROGRAM_FILES}).save(gui().getWindowHandle());
     if (!path)

@@ -14,7 +14,7 @@
 namespace Gui::System {
 
 // The strip at the top of the window: the default output, and the buttons for the screens, the setup, a reset and the
-// global keyboard. What it shows follows the window's copies of the desk's state when it is told to refresh. [gui]
+// global keyboard. A refresh shows the window's current copies of the desk's state. [gui]
 class SystemPanel : public SkinPanel, public Button::Listener {
 public:
     explicit SystemPanel(MirelGuiIF& gui);
@@ -22,7 +22,7 @@ public:
     void createWnd(HINSTANCE module, HWND parentWindow) override;
     INT_PTR dlgProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    // The outputs that can be used, with the default one selected.
+    // The usable outputs, with the default one selected.
     void refreshOutputs();
     void selectDefaultOutput();
 
@@ -37,7 +37,7 @@ public:
     void setHelpButton(bool state);
     void setComputerInputButton(bool state);
 
-    // Thru and global keyboard, as the settings have them.
+    // Thru and global keyboard, from the settings.
     void refreshSettings();
 
     // Let the user choose from a menu.

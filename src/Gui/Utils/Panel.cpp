@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char* CLASS_NAME = "TamselPanel2008";
 constexpr const char* SOURCE = "src\\Gui\\Utils\\Panel";
-constexpr int FRAME_WIDTH = 4;  // Of the window around the root, beyond the widest panel.
+constexpr int FRAME_WIDTH = 4;  // Of the window around the root: how much wider it is than the widest panel.
 
 void trace(long line, const std::string& function, const char* text) {
     Backend::Trace::channel().trace(SOURCE, line, "Panel::" + function, text);
@@ -43,7 +43,7 @@ HINSTANCE registerClassOnce(HINSTANCE module, WNDPROC procedure) {
 }
 
 Panel::~Panel() {
-    // A window that outlives its panel hears nobody from here on.
+    // If the window outlives its panel, its messages no longer come here.
     forget(m_windowHandle, "PanelPtr", this);
 }
 
@@ -119,7 +119,7 @@ bool Panel::add(Panel* panel) {
 void Panel::showWnd(bool show) {
     if (isVisible() == show)
         return;
-    // A panel that goes takes its own spacing along.
+    // A panel's own spacing disappears with it.
     const int old = m_height;
     updateSpacing(show, false);
     ShowWindow(m_windowHandle, show ? SW_SHOWNORMAL : SW_HIDE);
@@ -168,7 +168,7 @@ void Panel::adjustParentWindow(int delta) {
 }
 
 void Panel::adjustChildren(int index, int delta) {
-    // Hidden panels move too, so that each always lies where it will show.
+    // Hidden panels move too, so that each is always where it will show.
     for (int i = index + 1; i < m_panelCount; ++i)
         m_panels[static_cast<std::size_t>(i)]->moveWnd(0, delta);
     if (isVisible())
@@ -256,7 +256,7 @@ void Panel::updateSpacing(bool show, bool force) {
     const int change = show ? SPACING : -SPACING;
     for (Panel* panel = this; !panel->m_noSpacing; panel = panel->m_parent, force = true) {
         Panel* const parent = panel->m_parent;
-        // A plain container with nothing showing in it asks for no space.
+        // A plain container in which nothing shows takes no space.
         if (panel->firstVisibleAfter(-1) >= 0 || panel->m_dialogId > 0 || force) {
             if (panel->hasVisibleAbove()) {
                 panel->m_height += change;
@@ -270,7 +270,7 @@ void Panel::updateSpacing(bool show, bool force) {
                     parent->nextVisibleToFirst(panel->m_index);
             }
         }
-        // The first panel to show in a container, and the last to hide, makes it one that shows or hides.
+        // Showing the first panel in a container, or hiding the last, shows or hides the container.
         if (!parent || !parent->isVisible() || parent->anyOtherPanelVisible(panel))
             return;
     }
@@ -291,7 +291,7 @@ Panel* Panel::ownerOf(HWND window, UINT message, UINT creation, const void* self
     }
     auto* const panel = getObject<Panel>(window, "PanelPtr");
     if (panel && message == WM_NCDESTROY) {
-        // The system may give the handle to another window.
+        // The system may reuse the handle for another window.
         RemovePropA(window, "THIS");
         RemovePropA(window, "PanelPtr");
         panel->m_windowHandle = nullptr;

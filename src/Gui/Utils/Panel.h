@@ -6,37 +6,37 @@
 
 namespace Gui {
 
-// A child window with its place in a tree of panels, which stand below one another. Whenever one shows, hides or
-// changes its height, those below it move and all above it in the tree grow or shrink, up to the window that holds the
-// root. Nothing is laid out as a whole: each change travels through the tree as a difference in pixels.
+// A child window with a place in a tree of panels, stacked from top to bottom. Whenever a panel shows, hides or changes
+// its height, those below it move and all above it in the tree grow or shrink, up to the window that holds the root.
+// There is no layout pass: each change travels through the tree as a difference in pixels.
 //
-// A showing panel has 5 pixels of free space above it if another one shows there. A panel is visible when its own
-// window has WS_VISIBLE, whatever its parents do. All is for the window's thread [gui]. The panels of a tree must
-// outlive their use; their windows end with the window around them.
+// A visible panel has 5 pixels of free space above it if another visible one is there. A panel is visible when its own
+// window has WS_VISIBLE, whatever its parents do. All operations are for the window's thread [gui]. A tree's panels
+// must outlive their use; their windows go with the window around them.
 class Panel {
 public:
     static constexpr int MAX_PANELS = 200;
     static constexpr int SPACING = 5;
 
-    // dialogId: the template that makes up this panel, or 0 for a plain window, which alone can hold other panels.
+    // dialogId: the template for this panel, or 0 for a plain window. Only plain windows can hold other panels.
     explicit Panel(int dialogId = 0, bool hasBorder = false) : m_dialogId(dialogId), m_hasBorder(hasBorder) {}
     Panel(const Panel&) = delete;
     Panel& operator=(const Panel&) = delete;
 
-    // Shows or hides, and moves and resizes all that depends on it. Does nothing if that is the state already.
+    // Shows or hides the panel, moving and resizing everything that depends on it. Does nothing if nothing changes.
     virtual void showWnd(bool show);
 
-    // Makes the window, hidden, at the top left of its parent. A null parentWindow stands for the parent panel's.
+    // Creates the window, hidden, at the top left of its parent. If parentWindow is null, that is the parent panel's.
     virtual void createWnd(HINSTANCE module, HWND parentWindow);
 
-    // The messages of the plain window, and of the dialog.
+    // Handle the messages of the plain window, and of the dialog.
     virtual LRESULT wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     virtual INT_PTR dlgProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     virtual ~Panel();
 
-    // Puts a panel below those that are here, and makes its window. This panel must have its own by then. False, and
-    // nothing done, if this panel is a dialog or holds 200 already.
+    // Puts a panel below those already here, and creates its window. This panel must have its own by then. False, and
+    // nothing done, if this panel is a dialog or already holds 200.
     bool add(Panel* panel);
 
     // Gives the window this height, in pixels.
@@ -44,19 +44,19 @@ public:
 
     bool isVisible() const;
 
-    // Whether any sub-panel is visible, be it of no height.
+    // Whether any sub-panel is visible, even if its height is 0.
     bool anyPanelVisible() const;
 
     HWND getWindowHandle() const { return m_windowHandle; }  // Null without a window.
     int getWidth() const { return m_width; }
 
-    // What the panel takes up in the stack: its window and the space above it.
+    // The panel's share of the stack: its window and the space above it.
     int getHeight() const { return m_height; }
 
     int getPanelCount() const { return m_panelCount; }
 
 protected:
-    // Neither has free space above it nor makes another one have it. Set in the constructor of a derived class.
+    // Takes no part in the 5-pixel spacing. Set this in the constructor of a derived class.
     void setNoSpacing(bool noSpacing) { m_noSpacing = noSpacing; }
 
 private:

@@ -7,8 +7,8 @@ namespace Gui {
 
 class MirelGuiIF;
 
-// The panel that every screen is made of: in the desk's look, and without a keyboard focus of its own. Keys, clicks, the
-// focus and what the pointer is over go up to the main window.
+// The panel that every screen is made of: it has the desk's look and takes no keyboard focus. Keys, clicks, the focus
+// and what the pointer is over go up to the main window.
 class SkinPanel : public Panel {
 public:
     // See Panel. The gui must outlive the panel's window.
@@ -17,11 +17,11 @@ public:
 
     ~SkinPanel() override { m_skinner.leaveWindow(getWindowHandle()); }
 
-    // A panel that hides gives the keyboard back to the main window.
+    // A panel that hides returns the keyboard to the main window.
     void showWnd(bool show) override;
     void createWnd(HINSTANCE module, HWND parentWindow) override;
 
-    // Derived classes hand over what they don't answer themselves.
+    // Derived classes call this for what they don't handle themselves.
     LRESULT wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
     INT_PTR dlgProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
 

@@ -11,7 +11,7 @@ class MainPanel : public SkinPanel {
 public:
     explicit MainPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_ZONE_MAIN) {}
 
-    // The zones have changed.
+    // Call this when the zones have changed.
     void refreshRows() { redraw(getWindowHandle()); }
 };
 

@@ -6,7 +6,7 @@ namespace Gui::Zones {
 
 class ZonePanel;
 
-// Brings the desk's changes of its zones to their screen. [gui]
+// Passes the desk's changes of its zones to their screen. [gui]
 class ZoneGuiMessageManager : public Backend::GuiMessageManager {
 public:
     explicit ZoneGuiMessageManager(ZonePanel& panel) : m_panel(panel) {}

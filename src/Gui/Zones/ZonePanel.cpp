@@ -16,7 +16,7 @@ ZonePanel::ZonePanel(MirelGuiIF& gui)
     rebuildRows();
 }
 
-// The row that was marked stays so, if its zone is still there; else the first one is.
+// The marked row stays marked if its zone still exists; otherwise the first one is marked.
 void ZonePanel::rebuildRows() {
     const auto marked = m_selection.firstSelected(SelectionKind::DATA);
     std::vector<Backend::Zones::ZoneId> ids;

@@ -14,7 +14,7 @@ public:
     // [backend] Takes a copy of the zones.
     explicit ZonePanel(MirelGuiIF& gui);
 
-    // Adds the sub-panel. Once, when the window is there.
+    // Adds the sub-panel. Call it once, when the window exists.
     void setupPanels() { add(&m_mainPanel); }
 
     MainPanel& getMainPanel() { return m_mainPanel; }
@@ -24,14 +24,14 @@ public:
     const Backend::Zones::ZoneMap& getZoneMap() const { return m_zones; }
     Selection<Backend::Zones::ZoneId>& getSelection() { return m_selection; }
 
-    // The zone that the desk has selected last; -1 if there was none.
+    // The zone that the desk selected last; -1 if there is none.
     Backend::Zones::ZoneId getLastSelected() const { return m_selectedZone; }
 
-    // Take over what the desk has changed, and repaint the rows.
+    // Take over the desk's changes, and repaint the rows.
     void setZone(const Backend::Zones::Zone& zone);
     void setZoneMap(const Backend::Zones::ZoneMap& zones);
 
-    // The row of this zone becomes the only marked one, whatever selected is. A zone that isn't there is ignored.
+    // Makes this zone's row the only marked one, whatever selected is. A missing zone is ignored.
     void setSelected(Backend::Zones::ZoneId id, bool selected);
 
 private:

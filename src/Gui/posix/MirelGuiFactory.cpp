@@ -1,4 +1,4 @@
-// The factory of a system without the desk's windows.
+// The factory for systems without the desk's windows.
 #include "Gui/MirelGuiFactory.h"
 
 namespace Gui {

@@ -7,7 +7,7 @@
 
 namespace Platform {
 
-// Without a lock, as the player's thread sets events: whoever is about to wait for one never holds it up.
+// Without a lock, because the player's thread sets events: whoever is about to wait for one never holds it up.
 struct AutoResetEvent::State {
     static constexpr std::uint32_t UNSET = 0;
     static constexpr std::uint32_t SET = 1;

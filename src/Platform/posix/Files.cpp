@@ -57,7 +57,7 @@ private:
     int m_number;
 };
 
-// A path beside the target that nothing else uses. Its name is short, whatever the target's: names have a limit.
+// A unique path beside the target. Its name is short, whatever the target's, because names have a length limit.
 fs::path temporaryPath(const fs::path& target) {
     static std::atomic<unsigned> counter{0};
     for (;;) {
@@ -69,7 +69,7 @@ fs::path temporaryPath(const fs::path& target) {
     }
 }
 
-// The folder's entry survives a crash only after this. A system that can't do it for folders keeps the file anyway.
+// Only after this does the folder's entry survive a crash. Where a system can't flush folders, the file stays anyway.
 void flushFolder(const fs::path& folder) {
     const Descriptor descriptor(folder.empty() ? fs::path(".") : folder, O_RDONLY | O_DIRECTORY);
     if (descriptor.isOpen())
@@ -113,7 +113,7 @@ bool replace(const std::string& path, std::string_view content) {
     const auto named = systemPath(path);
     if (!named)
         return false;
-    // A link stays a link; the file behind it is replaced.
+    // A link stays a link; the file it points to is replaced.
     std::error_code notThere;
     std::error_code error;
     const fs::path target = fs::is_symlink(*named, notThere) ? fs::weakly_canonical(*named, error) : *named;
@@ -151,7 +151,7 @@ bool move(const std::string& from, const std::string& to) {
         return false;
     if (::renameat2(AT_FDCWD, source->c_str(), AT_FDCWD, target->c_str(), RENAME_NOREPLACE) == 0)
         return true;
-    // Not every file system can do that in one step, and none across two.
+    // Not every file system can do that in one step, and none can across two.
     if (errno != EXDEV && errno != EINVAL && errno != ENOSYS)
         return false;
     std::error_code error;

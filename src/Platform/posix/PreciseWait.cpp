@@ -28,8 +28,8 @@ PreciseWait::PreciseWait() : m_state(std::make_unique<State>()) {}
 PreciseWait::~PreciseWait() = default;
 
 void PreciseWait::waitUntil(std::int64_t microseconds) {
-    // The one sleep that both ends at an absolute time, with the precision of the kernel's timers, and can be ended by
-    // another thread.
+    // The only sleep that ends at an absolute time with the precision of the kernel's timers and that another thread
+    // can end early.
     timespec deadline = {};
     deadline.tv_sec = static_cast<time_t>(microseconds / 1000000);
     deadline.tv_nsec = static_cast<long>(microseconds % 1000000 * 1000);

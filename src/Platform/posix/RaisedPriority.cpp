@@ -8,7 +8,7 @@ namespace Platform {
 
 namespace {
 
-// Above everything that doesn't keep time, below the sound system's own threads.
+// Above everything that doesn't need to keep time, below the sound system's own threads.
 constexpr int PRIORITY = 5;
 
 }
@@ -21,7 +21,7 @@ struct RaisedPriority::State {
 };
 
 RaisedPriority::RaisedPriority() : m_state(std::make_unique<State>()) {
-    // Threads of common priority are woken late by this many nanoseconds, to save power.
+    // Threads of normal priority are woken late by up to this many nanoseconds, to save power.
     m_state->oldSlack = prctl(PR_GET_TIMERSLACK);
     prctl(PR_SET_TIMERSLACK, 1);
     if (pthread_getschedparam(pthread_self(), &m_state->oldPolicy, &m_state->oldParameters) != 0)

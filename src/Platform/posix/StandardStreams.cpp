@@ -2,7 +2,7 @@
 
 namespace Platform {
 
-// They always do.
+// They always are.
 void useBinaryStandardStreams() {}
 
 }

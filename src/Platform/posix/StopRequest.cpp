@@ -11,7 +11,7 @@ namespace Platform {
 
 namespace {
 
-// A byte in it is a request. Handlers may do little else than write.
+// A byte in this pipe is a request: signal handlers may do little more than write.
 int requestPipe[2] = {-1, -1};
 
 std::atomic<bool> pauseRequested{false};
@@ -36,7 +36,7 @@ void watchForStopRequests() {
     action.sa_flags = SA_RESTART;
     for (const int signal : {SIGINT, SIGQUIT, SIGTERM, SIGHUP})
         ::sigaction(signal, &action, nullptr);
-    // Who started the program without a way to have it go on wants no pause.
+    // If the program was started where nobody could resume it, it must not pause.
     struct sigaction present = {};
     if (::sigaction(SIGTSTP, nullptr, &present) != 0 || present.sa_handler == SIG_IGN)
         return;
@@ -53,7 +53,7 @@ bool isPauseRequested() {
     return pauseRequested;
 }
 
-// The system pauses a program only by the signal's own action.
+// Only the signal's default action pauses a program.
 void pauseProgram() {
     struct sigaction pausing = {};
     struct sigaction watching = {};

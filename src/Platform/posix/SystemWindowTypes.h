@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-// A window is whatever object receives what is posted to it (see Platform/WindowSink.h).
+// A window is any object that receives what is posted to it (see Platform/WindowSink.h).
 struct WindowHandle;
 using HWND = WindowHandle*;
 

@@ -11,7 +11,7 @@ std::unique_ptr<SettingsStore> createUserSettingsStore() {
     else if (const char* home = std::getenv("HOME"); home && *home == '/')
         folder = std::string(home) + "/.config";
     else
-        folder = "/nonexistent";  // Nowhere: opening fails, and the settings keep their defaults.
+        folder = "/nonexistent";  // Fails to open, so the settings keep their defaults.
     return createFileSettingsStore(folder + "/mirel/settings");
 }
 

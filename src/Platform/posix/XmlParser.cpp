@@ -12,7 +12,7 @@ namespace Platform {
 
 namespace {
 
-// What the callbacks get. No exception may pass through the parser, so they note that memory ran out.
+// The state of the callbacks. No exception may pass through the parser, so they record here that memory ran out.
 struct Progress {
     XmlTreeBuilder builder;
     bool outOfMemory = false;
@@ -71,7 +71,7 @@ void instruction(void* context, const xmlChar*, const xmlChar*) {
 
 void ignoreMessage(void*, const char*, ...) {}
 
-// Without the namespace callbacks: names stay as they are written.
+// No namespace callbacks: names stay as they are written.
 xmlSAXHandler handler() {
     xmlSAXHandler result = {};
     result.startElement = startElement;
@@ -111,7 +111,8 @@ std::unique_ptr<XmlNode> parseXml(const std::string& text) {
     Progress state;
     *context->sax = handler();
     context->userData = &state;
-    // Entities are the predefined ones alone, as there is no DOCTYPE; without the substitution "&amp;" would stay one.
+    // Without a DOCTYPE there are only the predefined entities; unless they are substituted, "&amp;" would stay as it
+    // is.
     xmlCtxtUseOptions(context.get(), XML_PARSE_NONET | XML_PARSE_NOENT | XML_PARSE_HUGE);
     const bool parsed = xmlParseDocument(context.get()) == 0 && context->wellFormed == 1;
     context->userData = nullptr;

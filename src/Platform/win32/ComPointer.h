@@ -24,7 +24,7 @@ public:
     Interface* operator->() const { return m_object; }
     explicit operator bool() const { return m_object != nullptr; }
 
-    // Where a function puts a new reference; the old one is given back.
+    // For functions that store a new reference; releases the old one.
     Interface** put() {
         reset();
         return &m_object;

@@ -44,7 +44,7 @@ void CriticalSection::enter() {
 }
 
 void CriticalSection::leave() {
-    // The system's section would be damaged by a thread that is not inside.
+    // Leaving from a thread that is not inside would corrupt the system's section.
     if (!m_state->isMine())
         return;
     if (--m_state->depth == 0)

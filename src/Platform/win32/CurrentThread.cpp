@@ -12,7 +12,7 @@ DWORD currentThreadId() {
 }
 
 void nameCurrentThread(const char* name) {
-    // Not in every Windows 10, so it is asked for at run time.
+    // Not every Windows 10 has this, so it is looked up at run time.
     using SetDescription = HRESULT(WINAPI*)(HANDLE, PCWSTR);
     const HMODULE kernel = GetModuleHandleA("kernel32.dll");
     if (!kernel)

@@ -15,7 +15,7 @@ namespace {
 
 constexpr DWORD SHARE_ALL = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-// Names such as "nul" mean devices in every folder; the system's full path shows it.
+// Names such as "nul" mean devices in every folder; the system's full path reveals them.
 bool namesDevice(const fs::path& path) {
     wchar_t full[MAX_PATH];
     const DWORD length = GetFullPathNameW(path.c_str(), MAX_PATH, full, nullptr);
@@ -58,7 +58,7 @@ private:
     HANDLE m_handle;
 };
 
-// A path beside the target that nothing else uses. Its name is short, whatever the target's: names have a limit.
+// A unique path beside the target. Its name is short, whatever the target's, because names have a length limit.
 fs::path temporaryPath(const fs::path& target) {
     static std::atomic<unsigned> counter{0};
     for (;;) {

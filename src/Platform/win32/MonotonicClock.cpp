@@ -18,7 +18,7 @@ std::int64_t monotonicMicroseconds() {
     static const std::int64_t FREQUENCY = ticksPerSecond();
     LARGE_INTEGER now;
     QueryPerformanceCounter(&now);
-    // Whole seconds apart, so that no product leaves 64 bits.
+    // Whole seconds separately, so that no product overflows 64 bits.
     return now.QuadPart / FREQUENCY * 1000000 + now.QuadPart % FREQUENCY * 1000000 / FREQUENCY;
 }
 

@@ -17,7 +17,7 @@ struct PreciseWait::State {
     State()
         : timer(CreateWaitableTimerExW(nullptr, nullptr, CREATE_WAITABLE_TIMER_HIGH_RESOLUTION, TIMER_ALL_ACCESS)),
           woken(CreateEventW(nullptr, FALSE, FALSE, nullptr)) {
-        // Before Windows 10 1803 there are only timers of the system's common resolution.
+        // Before Windows 10 1803 there are only timers of normal resolution.
         if (!timer)
             timer = CreateWaitableTimerExW(nullptr, nullptr, 0, TIMER_ALL_ACCESS);
     }

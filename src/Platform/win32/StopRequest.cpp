@@ -6,14 +6,14 @@ namespace Platform {
 
 namespace {
 
-// Set for good by the first request.
+// The first request sets it permanently.
 HANDLE requestEvent() {
     static const HANDLE event = CreateEventA(nullptr, TRUE, FALSE, nullptr);
     return event;
 }
 
-// After the close of a console the system ends the process as soon as this returns, so it leaves the program time to
-// end by itself.
+// When a console is closed, the system ends the process as soon as this returns, so this waits to give the program time
+// to end by itself.
 BOOL WINAPI request(DWORD kind) {
     constexpr DWORD TIME_TO_END = 5000;
     SetEvent(requestEvent());

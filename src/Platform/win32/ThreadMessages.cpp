@@ -11,7 +11,7 @@ bool dispatchThreadMessages() {
         if (message.message == WM_QUIT)
             return false;
     }
-    // A message thread's own queue stands beside the system's.
+    // A message thread has its own queue in addition to the system's.
     MessageQueue* queue = MessageQueue::ofCurrentThread();
     while (queue && queue->tryGet(message)) {
         if (message.message == WM_QUIT)

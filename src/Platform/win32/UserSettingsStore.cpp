@@ -22,7 +22,7 @@ public:
         return number;
     }
 
-    // Up to the zero that ends it.
+    // Up to the terminating zero.
     std::optional<std::string> readText(const std::string& name) const override {
         const auto bytes = read(name, REG_SZ);
         return bytes ? std::optional(bytes->substr(0, bytes->find('\0'))) : std::nullopt;

@@ -6,8 +6,8 @@ namespace Platform {
 
 namespace {
 
-// Handles of windows hold 32 bits, extended by zeros or by the sign; addresses of a process leave the upper 16 bits
-// empty. A mark up there tells a sink from both.
+// Window handles hold 32 bits, zero- or sign-extended; addresses of a process leave the upper 16 bits empty. A mark up
+// there distinguishes a sink from both.
 constexpr std::uintptr_t MARK = 0x51A5;
 constexpr int MARK_SHIFT = 48;
 constexpr std::uintptr_t ADDRESS_BITS = (std::uintptr_t{1} << MARK_SHIFT) - 1;

@@ -18,7 +18,7 @@ namespace {
 constexpr CLSID DOM_DOCUMENT = {0x2933BF90, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
 constexpr IID DOM_DOCUMENT_INTERFACE = {0x2933BF81, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
 
-// COM for the length of one read, on threads that have none yet. A thread in another kind of apartment is fine too.
+// Initialises COM for one read on threads that haven't. A thread in another kind of apartment works too.
 class ComScope {
 public:
     ComScope() : m_result(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {}
@@ -72,7 +72,7 @@ std::string nodeValue(IXMLDOMNode& node) {
     return toUtf8(value.get().bstrVal);
 }
 
-// The whole file as an array of bytes: a name would be taken for an address on the net.
+// The whole file as an array of bytes, because a string would be taken for a URL.
 bool fill(Variant& bytes, const std::string& text) {
     SAFEARRAY* array = SafeArrayCreateVector(VT_UI1, 0, static_cast<ULONG>(text.size()));
     if (!array)

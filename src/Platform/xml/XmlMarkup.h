@@ -15,30 +15,30 @@ struct XmlMarkup {
     // Whether an element begins here.
     bool isStart() const { return kind == Kind::START_TAG || kind == Kind::EMPTY_TAG; }
 
-    // Of a tag.
+    // For a tag.
     std::string_view name() const;
 
     Kind kind;
     std::string_view text;  // From "<" to ">".
-    std::size_t position;   // Of the text in the document's.
-    int line;               // On which it begins, from 1.
+    std::size_t position;   // Its offset in the document's text.
+    int line;               // Where it begins, from 1.
 };
 
-// Takes the markup of a document one by one, with lines, which the system's parsers don't all know. It believes that
-// the document is well-formed: only one that readXml takes gives what it should. [any]
+// Returns the markup of a document piece by piece, with line numbers, which not all system parsers report. It assumes
+// that the document is well-formed: its results are meaningful only for one that readXml accepts. [any]
 class XmlMarkupReader {
 public:
     // The document must outlive the reader.
     explicit XmlMarkupReader(const DecodedXml& document) : m_text(document.text), m_line(document.firstLine) {}
 
-    // Nothing at the end, or where the markup has none.
+    // Nothing at the end, or where the markup is broken.
     std::optional<XmlMarkup> next();
 
 private:
-    // The length of the markup at the beginning of a text; npos if it doesn't end.
+    // The length of the markup at the start of a text; npos if it doesn't end.
     static std::size_t lengthOf(std::string_view text);
 
-    // Goes on to a position, which isn't before the present one.
+    // Advances to a position, which must not lie before the current one.
     void moveTo(std::size_t position);
 
     std::string_view m_text;

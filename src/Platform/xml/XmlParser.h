@@ -6,7 +6,8 @@
 
 namespace Platform {
 
-// [any] The system's parser on a document that decodeXml and xmlKeepsLimits let through. Null if it is not well-formed.
+// [any] Runs the system's parser on a document that decodeXml and xmlKeepsLimits accepted. Null if it is not
+// well-formed.
 [[nodiscard]] std::unique_ptr<XmlNode> parseXml(const std::string& text);
 
 }

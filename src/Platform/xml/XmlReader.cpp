@@ -11,7 +11,7 @@ namespace Platform {
 
 namespace {
 
-// Elements stand in the tree in the order of their start tags.
+// The tree holds elements in the order of their start tags.
 void setLines(XmlNode& element, XmlMarkupReader& markups) {
     auto markup = markups.next();
     while (markup && !markup->isStart())

@@ -26,7 +26,7 @@ constexpr std::array ENCODING_NAMES = {
     EncodingName{"us-ascii", Encoding::ASCII},
 };
 
-// The characters of windows-1252 from 0x80 to 0x9F; the five that are not assigned stand for themselves.
+// The characters of windows-1252 from 0x80 to 0x9F; the five unassigned ones stand for themselves.
 constexpr std::array<std::uint16_t, 32> WINDOWS_1252_HIGH = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -73,7 +73,7 @@ void appendUtf8(std::string& text, std::uint32_t character) {
     }
 }
 
-// Takes one character from bytes in an encoding; BAD where they are none.
+// Takes one character from bytes in an encoding; BAD if they don't form one.
 class Source {
 public:
     Source(std::string_view bytes, Encoding encoding, bool bigEndian)
@@ -174,7 +174,7 @@ class DeclarationReader {
 public:
     explicit DeclarationReader(std::string_view text) : m_text(text) {}
 
-    // Nothing if it is malformed; a document without one gives an empty one.
+    // Nothing if it is malformed; an empty declaration if the document has none.
     std::optional<Declaration> read() {
         Declaration declaration;
         if (!m_text.starts_with(DECLARATION_START) || m_text.size() == DECLARATION_START.size() ||
@@ -200,7 +200,7 @@ private:
             ++m_position;
     }
 
-    // The value of name="value" if that comes next; nothing, and nothing is taken, if another name does.
+    // The value of name="value" if that comes next; otherwise nothing, and nothing is consumed.
     std::optional<std::string> take(std::string_view name) {
         const std::size_t start = m_position;
         skipBlanks();
@@ -249,7 +249,7 @@ int countLineEnds(std::string_view text) {
     return count;
 }
 
-// White space at the end is none of the parser's business; some count it against a limit of their own.
+// Trailing white space doesn't concern the parser, and some count it against a limit of their own.
 std::optional<DecodedXml> withoutTrailingSpace(std::optional<std::string> text, int firstLine) {
     if (!text)
         return std::nullopt;
@@ -295,7 +295,7 @@ std::optional<DecodedXml> decodeXml(std::string_view document) {
         return fromUtf16(withoutDeclaration(toUtf8(document, Encoding::UTF_16, true)));
     const auto declaration = DeclarationReader(document).read();
     const auto encoding = declaration ? encodingOfName(declaration->encoding) : std::nullopt;
-    // A declaration that can be read byte by byte contradicts an encoding of two bytes.
+    // A declaration that can be read byte by byte contradicts a two-byte encoding.
     if (!encoding || encoding == Encoding::UTF_16)
         return std::nullopt;
     auto decoded = withoutTrailingSpace(toUtf8(document.substr(declaration->length), *encoding, false),
@@ -310,7 +310,7 @@ std::string withXmlCharacters(std::string_view text) {
     while (!source.atEnd()) {
         const std::size_t start = source.position();
         std::uint32_t character = source.take();
-        // What follows a byte that begins nothing may be whole again.
+        // The bytes after an invalid one may be valid again.
         if (character == BAD)
             source.setPosition(start + 1);
         if (!isXmlCharacter(character))
@@ -381,7 +381,7 @@ private:
         return passStartTag();
     }
 
-    // The name "xml" is the declaration's, which is gone.
+    // The name "xml" is reserved for the declaration, which has been removed.
     bool passInstruction() {
         const std::size_t start = m_position + 2;
         if (!passTo("?>", start))
@@ -390,7 +390,7 @@ private:
         return !sameLetters(content.substr(0, content.find_first_of(WHITE_SPACE)), "xml");
     }
 
-    // Element names have no prefix; attribute names may have those that XML itself defines.
+    // Element names have no prefix; attribute names may have the ones that XML itself defines.
     bool mayHavePrefix(std::size_t nameStart, std::size_t colon) const {
         const std::string_view prefix = m_text.substr(nameStart, colon - nameStart);
         return nameStart != m_position + 1 && (prefix == "xml" || prefix == "xmlns");

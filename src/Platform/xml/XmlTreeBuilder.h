@@ -9,20 +9,20 @@
 
 namespace Platform {
 
-// Makes the tree from what a parser reports in the order of the document, so that every parser gives the same tree.
+// Builds the tree from what a parser reports in document order, so that every parser gives the same tree.
 class XmlTreeBuilder {
 public:
     void startElement(std::string_view name);
 
-    // Declarations of namespaces are left out.
+    // Leaves out namespace declarations.
     void addAttribute(std::string_view name, std::string_view value);
 
     void endElement();
 
-    // Text between two markups may come in several pieces.
+    // Text between two markups may arrive in several pieces.
     void addText(std::string_view text);
 
-    // Neighbouring sections become one.
+    // Adjacent sections are merged.
     void addCData(std::string_view text);
 
     // A comment or a processing instruction.
@@ -36,7 +36,7 @@ private:
 
     std::unique_ptr<XmlNode> m_root;
     std::vector<XmlNode*> m_path;  // From the root to the open element. Only the last one's children change.
-    std::string m_text;            // Of the run that is not ended yet.
+    std::string m_text;            // The run that has not ended yet.
     bool m_afterCData = false;     // The open element's last child is a section that the next one continues.
 };
 

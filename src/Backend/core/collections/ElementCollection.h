@@ -12,7 +12,7 @@ class ElementCollection {
 public:
     virtual ~ElementCollection() = default;
 
-    // A walk over all elements.
+    // Starts a pass over all elements.
     [[nodiscard]] virtual std::unique_ptr<IteratorIF<Element>> createIterator() = 0;
 
     // The element, or null. It stays valid until the collection changes.

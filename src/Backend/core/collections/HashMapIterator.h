@@ -6,11 +6,11 @@
 
 namespace Backend::Component {
 
-// Walks a map from its first node to its last.
+// Iterates over a map from its first node to its last.
 template <class Id, class Element, class Map = std::unordered_map<Id, Element>>
 class HashMapIterator : public IteratorIF<Element> {
 public:
-    // The map must outlive the walk.
+    // The map must outlive the iterator.
     explicit HashMapIterator(Map& elements) : m_node(elements.begin()), m_elements(elements) {}
 
     bool hasNext() override { return m_node != m_elements.end(); }

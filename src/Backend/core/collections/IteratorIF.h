@@ -2,7 +2,7 @@
 
 namespace Backend::Component {
 
-// One walk over the elements of a collection, which must not change meanwhile.
+// One pass over the elements of a collection, which must not change meanwhile.
 template <class Element>
 class IteratorIF {
 public:

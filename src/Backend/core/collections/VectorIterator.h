@@ -6,11 +6,11 @@
 
 namespace Backend::Component {
 
-// Walks a vector by index.
+// Iterates over a vector by index.
 template <class Element>
 class VectorIterator : public IteratorIF<Element> {
 public:
-    // The vector must outlive the walk. A walk that begins below 0 or past the end has no elements.
+    // The vector must outlive the iterator. Starting below 0 or past the end gives no elements.
     explicit VectorIterator(std::vector<Element>& elements, int index = 0) : m_index(index), m_elements(elements) {}
 
     bool hasNext() override { return m_index >= 0 && static_cast<std::size_t>(m_index) < m_elements.size(); }

@@ -6,7 +6,7 @@
 
 namespace Backend {
 
-// A file of programs and the names of those in it, in its order.
+// A file of programs, and their names in file order.
 class Bank {
 public:
     Bank() = default;

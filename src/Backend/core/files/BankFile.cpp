@@ -21,13 +21,13 @@ constexpr std::string_view PROGRAM_END = "</Program>";
 constexpr std::string_view BANK_END = "</Bank>";
 constexpr std::string_view EMPTY_PROGRAM = "<Program name=\"Empty\">\n</Program>\n";
 
-// What is added has lines of its own, also where the last line of the bank has no end.
+// Gives added text its own lines, even if the bank's last line has no end.
 void addLines(std::string& bank, std::string_view lines) {
     const bool isLineOpen = !bank.empty() && bank.back() != '\n';
     bank += Platform::Files::withSystemLineEnds(isLineOpen ? "\n" + std::string(lines) : lines);
 }
 
-// Takes the first line off the text, with its line end.
+// Removes the first line, with its line end, from the text.
 std::string_view takeLine(std::string_view& text) {
     const std::size_t end = text.find('\n');
     const std::string_view line = text.substr(0, end == std::string_view::npos ? end : end + 1);

@@ -1,4 +1,4 @@
-// The keys and controls that a desk starts with. The build makes them of the files in resources/.
+// The keys and controls that a desk starts with. The build generates them from the files in resources/.
 #pragma once
 
 namespace Backend {

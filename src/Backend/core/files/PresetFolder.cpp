@@ -67,7 +67,7 @@ void PresetFolder::renamePreset(const std::string& oldName, const std::string& n
     const auto preset = find(oldName);
     if (preset == m_presets.end() || !isUsableFileName(newName))
         return;
-    // The list shows the new name even if a file of that name stood in the way.
+    // The list shows the new name even if a file of that name was in the way.
     Files::move(getPresetPath(oldName), getPresetPath(newName));
     if (find(newName) == m_presets.end())
         preset->name = newName;

@@ -16,27 +16,27 @@ public:
 
     struct Preset {
         std::string name;
-        bool merge = false;  // Whether it is added to what is there.
+        bool merge = false;  // Whether it is added to what is already there.
     };
 
-    // The name of a folder below the one for the desk's data.
+    // The name of a folder inside the desk's data folder.
     explicit PresetFolder(std::string folderName) : m_folderName(std::move(folderName)) {}
 
-    // The presets that were saved in this run, sorted by name.
+    // The presets saved in this run, sorted by name.
     const std::vector<Preset>& getPresets() const { return m_presets; }
     std::vector<std::string> getNames() const;
 
     std::string getPresetPath(const std::string& name) const;
 
-    // Gives the root of a preset's file to read. False if there is no such file; a file that is no XML gives an
-    // element that isn't there.
+    // Passes the root of a preset's file to read. False if the file is missing; a file that is not XML gives a missing
+    // element.
     bool load(const std::string& name, const std::function<void(const XmlElement&)>& read) const;
 
-    // Writes the text of a preset's file and makes the folder if need be. False, and nothing changes, for a name that
-    // can't be one and a file that can't be written.
+    // Writes a preset's file, creating the folder if necessary. False, and nothing changes, if the name is unusable or
+    // the file can't be written.
     bool write(const std::string& name, const std::string& text) const;
 
-    // Writes a preset's file with what write puts behind the header, over one of the same name, and takes it into the
+    // Writes a preset's file with what write adds after the header, replacing one of the same name, and adds it to the
     // list.
     void save(const std::string& name, const std::function<void(std::ostream&)>& write);
 

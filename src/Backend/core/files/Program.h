@@ -7,7 +7,7 @@
 
 namespace Backend {
 
-// What a program is besides the state of its components.
+// A program's own values, besides the state of its components.
 class Program {
 public:
     static constexpr int DEFAULT_TEMPO = 120;
@@ -24,7 +24,7 @@ public:
 
     Program() = default;
 
-    // From its element.
+    // Reads its element.
     explicit Program(const XmlElement& element, std::int32_t index = 0) : m_index(index) {
         readAttributes(element, *this);
     }
@@ -42,7 +42,7 @@ public:
     std::int32_t getTempo() const { return m_tempo; }
     void setTempo(std::int32_t tempo) { m_tempo = tempo; }
 
-    // The input whose clock sets the time, or -1.
+    // The input whose clock drives the time, or -1.
     std::int32_t getTempoSource() const { return m_tempoSource; }
     void setTempoSource(std::int32_t source) { m_tempoSource = source; }
 

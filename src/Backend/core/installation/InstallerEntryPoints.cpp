@@ -1,4 +1,4 @@
-// What the installer calls in the library by name.
+// The functions that the installer looks up in the library by name.
 #include "Backend/core/installation/InstallerEntryPoints.h"
 
 #include "Backend/core/installation/MirelUtils.h"

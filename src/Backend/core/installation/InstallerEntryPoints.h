@@ -3,7 +3,7 @@
 
 extern "C" {
 
-// After the files were laid down: with the virtual MIDI port, or without.
+// After the files were copied: with the virtual MIDI port, or without it.
 int commitPort();
 int commitNoPort();
 

@@ -20,14 +20,14 @@ using Key = std::unique_ptr<Platform::MachineRegistryKey>;
 constexpr const char* ERROR_TITLE = "ERROR";
 constexpr std::string_view DRIVER_PREFIX = "midi";
 
-// Which driver stands behind "midi1" and so on, which of them were installed, and their descriptions.
+// The drivers registered as "midi1" and so on, the ones that were installed, and their descriptions.
 constexpr std::array KEYS = {
     "Software\\Microsoft\\Windows NT\\CurrentVersion\\Drivers32",
     "Software\\Microsoft\\Windows NT\\CurrentVersion\\userinstallable.drivers",
     "Software\\Microsoft\\Windows NT\\CurrentVersion\\drivers.desc",
 };
 
-// The number behind "midi"; 0 for every other name.
+// The number after "midi"; 0 for every other name.
 int getDriverNumber(const std::string& name) {
     if (!name.starts_with(DRIVER_PREFIX) || name.size() <= DRIVER_PREFIX.size())
         return 0;
@@ -38,7 +38,7 @@ int getHighestNumber(const Platform::MachineRegistryKey& key) {
     int highest = 0;
     for (const std::string& name : key.getValueNames())
         highest = std::max(highest, getDriverNumber(name));
-    return std::min(highest, std::numeric_limits<int>::max() - 1);  // There is always a next one.
+    return std::min(highest, std::numeric_limits<int>::max() - 1);  // There is always a next number.
 }
 
 void writeText(Platform::MachineRegistryKey& key, int number, const std::string& name, const std::string& text) {

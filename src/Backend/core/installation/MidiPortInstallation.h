@@ -2,14 +2,13 @@
 
 namespace Backend {
 
-// Makes the driver of the virtual MIDI port known to the system, or forgotten. The user is told what goes wrong.
-// [installer]
+// Registers and unregisters the driver of the virtual MIDI port. Errors are reported to the user. [installer]
 class MidiPortInstallation {
 public:
     static constexpr const char* MIREL_PORT_FILE_NAME = "mirelmidiport.dll";
     static constexpr const char* MIREL_PORT_NAME = "Mirel Console";
 
-    // Whether the system has a MIDI input of that name.
+    // Whether the system has a MIDI input with that name.
     static bool virtualMidiPortExists();
 
     // Does nothing if the port works.

@@ -20,7 +20,7 @@ constexpr const char* COMPANY = "Tamsel Software";
 constexpr const char* PRODUCT = "Mirel Console 3";
 constexpr const char* SETTINGS_FILE = "settings";
 
-constexpr std::size_t LONGEST_FOLDER = 1000;  // With the zero that ends it, as all texts of the settings.
+constexpr std::size_t LONGEST_FOLDER = 1000;  // Including the terminating zero, like all texts in the settings.
 constexpr const char* MANUAL = "README.txt";
 constexpr const char* DEFAULT_FOLDER = "Default";
 
@@ -32,7 +32,7 @@ std::string& chosenDataFolder() {
     return folder;
 }
 
-// The program's folder in the settings of an edition, without a separator at its end.
+// The program's folder from the settings of an edition, without a trailing separator.
 std::string readProgDir(const Platform::SettingsKey* key) {
     std::string folder = key ? key->readText("ProgDir").value_or(std::string()) : std::string();
     if (folder.size() >= LONGEST_FOLDER)

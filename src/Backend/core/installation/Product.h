@@ -1,4 +1,4 @@
-// What the product is called. Resources name it too, so these are macros.
+// The names of the product. Resources use them too, so they are macros.
 #pragma once
 
 #define MIREL_PRODUCT "Mirel Console 3 LE"

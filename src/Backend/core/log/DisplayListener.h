@@ -7,7 +7,7 @@ class DisplayListener {
 public:
     virtual ~DisplayListener() = default;
 
-    // [display] Adds text to the end of what is shown, or shows other text in its place.
+    // [display] Appends text to what is shown, or replaces it.
     virtual void append(const char* text) = 0;
     virtual void setText(const char* text) = 0;
 };

@@ -8,7 +8,7 @@ namespace Backend::Display {
 
 class DisplayListener;
 
-// The text of the log and how much of it was shown. When it gets full its older half goes.
+// The text of the log, and how much of it was shown. When it is full, its older half is dropped.
 class DisplayLog {
 public:
     static constexpr std::size_t CAPACITY = 30000;
@@ -17,7 +17,7 @@ public:
     // Text of MAX_ADDITION bytes or more is dropped.
     void add(std::string_view text);
 
-    // Shows what was not shown yet, or all.
+    // Passes on what was not shown yet, or everything.
     void flush(DisplayListener& listener);
     void sendAll(DisplayListener& listener);
 

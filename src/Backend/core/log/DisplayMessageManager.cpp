@@ -88,7 +88,7 @@ void DisplayMessageManager::postSetListener(DisplayListener* listener) {
 void DisplayMessageManager::sendSetListener(DisplayListener* listener) {
     Platform::AutoResetEvent done;
     post(SET_LISTENER, &done, listener);
-    // The log may be in the middle of telling a listener whose window is this thread's.
+    // The log may be in a call to a listener whose window belongs to this thread.
     done.waitAnsweringWindows();
 }
 
@@ -161,7 +161,7 @@ void DisplayMessageManager::addEvent(const std::string& port, const MirelMidiMes
     m_log.add(number + port + describeEvent(message));
 }
 
-// The message itself wakes a sender that waits.
+// The message itself wakes its waiting sender.
 void DisplayMessageManager::setListener(Platform::AutoResetEvent*, DisplayListener* listener) {
     m_listener = listener;
 }

@@ -18,8 +18,8 @@ class MirelMidiMessage;
 
 namespace Backend::Display {
 
-// The log of events and of the desk's messages. Its text is made on a thread of its own, so that a flood of events
-// costs nobody else anything.
+// The log of events and of the desk's messages. Its text is built on a thread of its own, so that a flood of events
+// delays nobody else.
 class DisplayMessageManager {
 public:
     DisplayMessageManager() = default;
@@ -30,31 +30,32 @@ public:
     DisplayMessageManager(const DisplayMessageManager&) = delete;
     DisplayMessageManager& operator=(const DisplayMessageManager&) = delete;
 
-    // [backend] The log begins with the name of the product. The flags are those of the setters below.
+    // [backend] The log begins with the product's name. The flags are those of the setters below.
     void start(bool displayNumbers, bool displayInputs, bool displayOutputs);
 
-    // [backend] Returns when the thread has ended. The listener hears nothing more.
+    // [backend] Returns when the thread has ended. The listener is not called again.
     void stop();
 
     // [any] Text of 15,000 bytes or more is dropped.
     void postAddText(const std::string& text);
 
-    // [any] Shows the listener everything, or what is new.
+    // [any] Sends the listener everything, or what is new.
     void postSendAll();
     void postFlush();
 
-    // [any] Events that came in and went out. Whether they are logged is a setting.
+    // [any] Events that came in and went out. The settings say whether they are logged.
     void postAddInputEvent(const MidiEngine::MirelMidiMessage& message);
     void postAddOutputEvent(const MidiEngine::MirelMidiMessage& message);
 
-    // [any] Who shows the log, or null. It must outlive the thread, or a call of sendSetListener.
+    // [any] Sets who shows the log, or null. The listener must outlive the thread, or stay until sendSetListener has
+    // replaced it.
     void postSetListener(DisplayListener* listener);
 
-    // [any other thread] The same, and returns when the listener before hears nothing more, however much there is to
-    // log. It may have to wait for what that one does at this moment. The thread must be running.
+    // [any other thread] Like postSetListener, but returns once the previous listener is no longer called, however much
+    // there is to log. It may have to wait for the call in progress. The thread must be running.
     void sendSetListener(DisplayListener* listener);
 
-    // [any] Whether event lines begin with their number, and which events are logged.
+    // [any] Whether event lines begin with a number, and which events are logged.
     void postSetDisplayNumbers(bool display);
     void postSetDisplayInputs(bool display);
     void postSetDisplayOutputs(bool display);
@@ -63,13 +64,13 @@ public:
     void postSetInputPorts(const std::vector<MidiEngine::MidiInputPort>& ports);
     void postSetOutputPorts(const std::vector<MidiEngine::MidiOutputPort>& ports);
 
-    // [any other thread] Returns when all that was posted so far is done.
+    // [any other thread] Returns when everything posted so far is done.
     void waitUntilIdle() { m_thread.waitUntilIdle(); }
 
-    // [any] Whether there is nothing to do at this moment.
+    // [any] Whether there is nothing to do at the moment.
     bool isIdle() const { return m_thread.isIdle(); }
 
-    // [display] Carries one request out. Numbers that are none of its requests are ignored.
+    // [display] Carries out one request. Unknown numbers are ignored.
     void handleMessage(const MSG& message);
 
 private:

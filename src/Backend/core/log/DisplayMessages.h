@@ -17,7 +17,7 @@ namespace Backend::Display {
 
 class DisplayListener;
 
-// The event of a sender that waits, or null. It is set once the message was handled, or is disposed of.
+// The event of a waiting sender, or null. It is set once the message has been handled or disposed of.
 struct Waiter {};
 
 }

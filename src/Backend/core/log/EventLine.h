@@ -6,7 +6,7 @@
 
 namespace Backend::Display {
 
-// [any] What the log says of an event behind the name of its port, to the end of the line.
+// [any] The log's text for an event, from after the port's name to the end of the line.
 std::string describeEvent(const MidiEngine::MirelMidiMessage& message);
 
 }

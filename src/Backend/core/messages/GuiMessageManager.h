@@ -12,7 +12,7 @@ public:
     // [gui] Whether this object handles messages of this number.
     virtual bool wantMessage(unsigned int message) = 0;
 
-    // [gui] Carries one message out and owns what it brings. A number without a meaning is ignored.
+    // [gui] Carries out one message and owns its payload. An unknown number is ignored.
     virtual void handleMessage(unsigned int message, WPARAM wParam, LPARAM lParam) = 0;
 };
 

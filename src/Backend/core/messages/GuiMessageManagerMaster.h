@@ -9,14 +9,14 @@ namespace Backend {
 
 class GuiMessageManager;
 
-// The managers that the main window's messages go to. It has no thread; the window's procedure drives it.
+// The managers that handle the main window's messages. It has no thread; the window's procedure drives it.
 class GuiMessageManagerMaster {
 public:
     GuiMessageManagerMaster() = default;
     GuiMessageManagerMaster(const GuiMessageManagerMaster&) = delete;
     GuiMessageManagerMaster& operator=(const GuiMessageManagerMaster&) = delete;
 
-    // [any] Tells which thread the window belongs to.
+    // [any] Sets the thread that the window belongs to.
     void setThreadId(DWORD threadId);
 
     // [any, before the window exists] Appends a manager, which must outlive this object.
@@ -28,7 +28,7 @@ public:
     // [gui] Gives the message to the first manager that wants it, if any. Always 0.
     LRESULT handleMessage(HWND window, unsigned int message, WPARAM wParam, LPARAM lParam);
 
-    // [any] Posts to a window, without retry. False if that failed; what the message brings is still the caller's then.
+    // [any] Posts to a window, without retry. False if that failed; the caller then still owns the payload.
     bool postMessage(HWND window, unsigned int message, WPARAM wParam, LPARAM lParam);
 
     // [any] Whether the calling thread is the window's.

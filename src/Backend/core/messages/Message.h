@@ -18,12 +18,12 @@ struct Message {
 
     static constexpr UINT NUMBER = N;
 
-    // Whether its sender waits until it has been handled.
+    // Whether the sender waits until the message has been handled.
     static constexpr bool IS_SENT = false;
 
     // [any] Calls post(number, wParam, lParam) for a message that carries these values, which must have exactly the
-    // types of the row. post returns whether the message was taken, or nothing if it always is. Returns the same. If
-    // the message was not taken, what the words own is destroyed.
+    // types of the row. post returns whether the message was taken, or nothing if it always is. Returns what post
+    // returned. If the message was not taken, what its words own is destroyed.
     template <class Post, class... Values>
     requires std::is_same_v<void(Values...), typename MessageContent<W, L>::Signature>
     static bool post(Post&& post, const Values&... values) {
@@ -48,15 +48,14 @@ struct Message {
         return true;
     }
 
-    // [receiver] Calls function with the values that a message of this number carries, then destroys what its words
-    // own.
+    // [receiver] Calls function with the values in a message of this number, then destroys what its words own.
     template <class Function>
     static void open(WPARAM wParam, LPARAM lParam, Function&& function) {
         const Content content(wParam, lParam);
         content.open(std::forward<Function>(function));
     }
 
-    // [receiver] Destroys what the words of a message own that will not be handled.
+    // [receiver] Destroys what the words of an unhandled message own.
     static void dispose(WPARAM wParam, LPARAM lParam) { static_cast<void>(Content(wParam, lParam)); }
 };
 

@@ -8,8 +8,8 @@
 
 namespace Backend {
 
-// [any] Both words of a message whose row names these kinds of content. What the words own is destroyed with this
-// object, unless it is released.
+// [any] Both words of a message whose row names these kinds of content. Unless it is released, this object destroys
+// what the words own.
 template <class W, class L>
 class MessageContent {
     static constexpr bool HAS_W = !std::is_same_v<W, Nothing>;
@@ -48,7 +48,7 @@ public:
         m_lParam = Carried<L>::template put<LPARAM>(second);
     }
 
-    // Calls function with the values in the words. If a copy is missing, function is not called; nothing in the desk
+    // Calls function with the values in the words. If a copy is missing, function is not called; the desk itself never
     // posts such a message.
     template <class Function>
     void open(Function&& function) const {

@@ -10,7 +10,7 @@ namespace Backend {
 template <UINT... NUMBERS>
 struct Unused {};
 
-// Whether each number of the range has exactly one message or is named as unused, and no other number is given.
+// Whether each number of the range has exactly one message or is listed as unused, and no other number occurs.
 template <UINT... UNUSED, class... Messages>
 constexpr bool isFilledBy(const MessageRange& range, Unused<UNUSED...>, const Messages&...) {
     for (UINT number = range.first; number <= range.last; ++number)
@@ -19,18 +19,18 @@ constexpr bool isFilledBy(const MessageRange& range, Unused<UNUSED...>, const Me
     return (range.contains(Messages::NUMBER) && ...) && (range.contains(UNUSED) && ...);
 }
 
-// A family's list of messages. familyOf makes it, at the end of their table.
+// A family's list of messages, made by familyOf at the end of their table.
 template <class... Messages>
 class MessageFamily {
 public:
-    // [receiver] Calls function with the values that a message carries, whichever of the family it is, then destroys
-    // what its words own. Returns false and does nothing for a number without a message.
+    // [receiver] Calls function with the values in a message of the family, then destroys what its words own. Returns
+    // false and does nothing for a number without a message.
     template <class Function>
     bool open(UINT number, WPARAM wParam, LPARAM lParam, Function&& function) const {
         return ((number == Messages::NUMBER && (Messages::open(wParam, lParam, function), true)) || ...);
     }
 
-    // [receiver] Destroys what a message carries that will not be handled. Returns false as above.
+    // [receiver] Destroys the content of an unhandled message. Returns false as above.
     bool dispose(const MSG& message) const {
         return ((message.message == Messages::NUMBER && (Messages::dispose(message.wParam, message.lParam), true)) ||
                 ...);

@@ -4,12 +4,12 @@
 
 namespace Backend {
 
-// How a MIDI event travels in a message: as a pointer to a copy on the heap, or packed into the two words, which hold
-// neither its control nor its time.
+// How a MIDI event travels in a message: as a pointer to a copy on the heap, or packed into the two words, which have
+// no room for its control and its time.
 enum class MessageForm { ALLOC, PARAM };
 
-// [any] The form for an event of a control at this cell and of this time (-1: none). Only events without either, which
-// are most, do without the heap. A cell is a control's if both coordinates are 0 to 15.
+// [any] The form for an event from a control at this cell and with this time (-1: none). Only events with neither,
+// which are the most frequent, can do without the heap. A cell is a control's if both coordinates are 0 to 15.
 constexpr MessageForm chooseMessageForm(int row, int column, std::int32_t ppq) {
     constexpr int CELLS = 16;
     const bool hasControl = row >= 0 && row < CELLS && column >= 0 && column < CELLS;

@@ -21,17 +21,17 @@ public:
     // [backend] Whether this object handles messages of this number.
     virtual bool wantMessage(unsigned int message) = 0;
 
-    // [backend] Carries one message out and owns what it brings. A number without a meaning is ignored.
+    // [backend] Carries out one message and owns its payload. An unknown number is ignored.
     virtual void handleMessage(const MSG& message) = 0;
 
-    // [thread that stops the backend] Destroys what a message brings that was posted too late to be handled.
+    // [thread that stops the backend] Destroys the payload of a message that was posted too late to be handled.
     virtual void disposeMessage(const MSG& message) = 0;
 
     // [any] Whether the calling thread is the backend worker.
     bool currentThreadIsManagerThread() const;
 
 protected:
-    // [any] Posts a message that carries these values, and waits while the queue takes nothing.
+    // [any] Posts a message that carries these values, waiting while the queue takes nothing.
     template <class Row, class... Values>
     void post(Row row, const Values&... values) {
         static_assert(!Row::IS_SENT, "this message is to be sent");

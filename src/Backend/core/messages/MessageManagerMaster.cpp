@@ -48,7 +48,7 @@ void MessageManagerMaster::run() {
     Platform::enterXmlThread();
     MSG message;
     while (m_thread.get(message)) {
-        // The parser's apartment ends with the thread: documents may still be held by objects that outlive it.
+        // The parser's apartment ends with the thread, but objects that outlive it may still hold documents.
         if (message.message == QUIT_BACKEND_WORKER)
             return;
         if (MessageManager* manager = findManager(message))

@@ -1,5 +1,5 @@
-// What the words of messages carry. The rows of the message tables (Message.h) name these kinds, and words are made and
-// read here alone.
+// What the words of messages carry. The rows of the message tables (Message.h) name these kinds. Only this code
+// converts between words and values.
 #pragma once
 
 #include "Platform/WindowTypes.h"
@@ -13,7 +13,7 @@ namespace Backend {
 // The word is 0.
 struct Nothing {};
 
-// A pointer to a copy on the heap, which belongs to the receiver of the message.
+// A pointer to a copy on the heap, owned by the receiver of the message.
 template <class T>
 struct Heap {};
 
@@ -21,7 +21,8 @@ struct Heap {};
 template <class T>
 struct State {};
 
-// One value in both words, by its getWparam and getLparam. It stands for the first word, and the row has no second one.
+// One value in both words, through its getWparam and getLparam. It is listed for the first word, and the row has no
+// second one.
 template <class T>
 struct BothWords {};
 
@@ -56,7 +57,7 @@ struct Carried {
     static void drop(Word) {}
 };
 
-// A window or an object that the message does not own. Null is a value too.
+// A window or an object that the message does not own. May be null.
 template <class T>
 struct Carried<T*> : Carried<std::intptr_t> {
     using Value = T*;

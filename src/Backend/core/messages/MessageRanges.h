@@ -1,4 +1,5 @@
-// The numbers of messages that no family's own table holds: which numbers each manager wants, and what ends threads.
+// The message numbers that no family's own table has: the range each manager handles, and the messages that end
+// threads.
 #pragma once
 
 #include "Platform/WindowTypes.h"

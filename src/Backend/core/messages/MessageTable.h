@@ -25,7 +25,7 @@ struct HandlerSignature<Result (Function::*)(Object&, Values...) const> {
     using Type = void(std::remove_cvref_t<Values>...);
 };
 
-// The handler of messages that a manager does nothing for.
+// The handler for messages that a manager ignores.
 struct Ignore {};
 inline constexpr Ignore IGNORED;
 
@@ -59,8 +59,8 @@ class MessageTable : private Rows... {
 public:
     constexpr MessageTable(Family, Rows... rows) : Rows(rows)... {}
 
-    // [receiver] Carries a message out on object, then destroys what its words own. The result of an operation that has
-    // one goes into answer. Returns false and does nothing for a number without a message.
+    // [receiver] Carries a message out on object, then destroys what its words own. If the operation returns a result,
+    // it goes into answer. Returns false and does nothing for a number without a message.
     template <class Object, class Answer>
     bool handle(Object& object, UINT number, WPARAM wParam, LPARAM lParam, Answer& answer) const {
         return ((number == Rows::Message::NUMBER &&

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-// A rectangle on the screen, in pixels. Right and bottom lie outside it.
+// A rectangle on the screen, in pixels. Right and bottom lie just outside it.
 struct Rect {
     std::int32_t left = 0;
     std::int32_t top = 0;

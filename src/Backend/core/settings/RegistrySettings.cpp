@@ -6,7 +6,7 @@ namespace Backend {
 
 namespace {
 
-// No system has this many ports; an index beyond is a mistake that must not cost all the memory.
+// No system has this many ports; an index beyond is a mistake that must not use up the memory.
 constexpr int MAX_PORTS = 1 << 16;
 
 void setFlag(std::vector<bool>& flags, int index, bool flag) {

@@ -9,17 +9,17 @@
 
 namespace Backend {
 
-// Every setting that outlives a run. Setters store what they are given, without a check. A copy is an object of its
-// own; each belongs to one thread.
+// Every setting that outlives a run. Setters store their argument unchecked. A copy is independent; each belongs to one
+// thread.
 class RegistrySettings {
 public:
     // The store must outlive this object and its copies.
     explicit RegistrySettings(Platform::SettingsStore& store) : m_store(&store) {}
 
-    // Takes over the values under a key, which is made if it is missing. What can't be read keeps its value.
+    // Takes over the values under a key, creating it if missing. Unreadable values stay as they are.
     void loadFromRegistry(const std::string& key);
 
-    // Writes what was set since the load, and the two lists of ports always.
+    // Writes what was set since the load, and always the two lists of ports.
     void saveToRegistry(const std::string& key);
 
     // The folder of the program; the installer writes it.
@@ -29,7 +29,7 @@ public:
         return m_defaultBank.get();
     }  // The bank that the host opens at the start.
     void setDefaultBank(const std::string& value) { m_defaultBank.set(value); }
-    bool getGlobalKeyboard() const { return m_globalKeyboard.get(); }  // Keys are caught while the window has no focus.
+    bool getGlobalKeyboard() const { return m_globalKeyboard.get(); }  // Keys are caught while the window is unfocused.
     void setGlobalKeyboard(bool value) { m_globalKeyboard.set(value); }
     bool getMidiThru() const { return m_midiThru.get(); }  // Events from MIDI inputs reach the outputs.
     void setMidiThru(bool value) { m_midiThru.set(value); }
@@ -53,7 +53,7 @@ public:
     void setDisplayNumbers(bool value) { m_displayNumbers.set(value); }
     int getDisplayHeight() const { return m_displayHeight.get(); }  // In pixels.
     void setDisplayHeight(int value) { m_displayHeight.set(value); }
-    const Rect& getLastWindowPosition() const { return m_lastWindowPosition.get(); }  // -1 all over: none is known.
+    const Rect& getLastWindowPosition() const { return m_lastWindowPosition.get(); }  // All -1: unknown.
     void setLastWindowPosition(const Rect& value) { m_lastWindowPosition.set(value); }
     bool getAlwaysOnTop() const { return m_alwaysOnTop.get(); }
     void setAlwaysOnTop(bool value) { m_alwaysOnTop.set(value); }
@@ -74,20 +74,19 @@ public:
     std::vector<bool> getEnabledMidiInputs() const { return m_enabledMidiInputs; }
     std::vector<bool> getEnabledMidiOutputs() const { return m_enabledMidiOutputs; }
 
-    // Every value by its name, in words.
+    // Every value by its name, as text.
     std::map<std::string, std::string> describe() const;
 
-    // Also makes the list end with this index, from 0. A negative one changes nothing, nor does one of
-    // 65,536 or more.
+    // Also makes the list end with this index, from 0. Ignores a negative index and one of 65,536 or more.
     void setMidiInputEnabled(int index, bool enabled);
     void setMidiOutputEnabled(int index, bool enabled);
 
-    // "Y" and "N", one a flag. Reading takes "y" as well, and anything else for no.
+    // One "Y" or "N" per flag. Reading also accepts "y", and takes anything else as no.
     static std::vector<bool> getBoolVectorFromString(const std::string& text);
     static std::string getStringFromBoolVector(const std::vector<bool>& flags);
 
 private:
-    // All that is written, in the order in which it is stored.
+    // Everything that is written, in the order in which it is stored.
     template <typename Self, typename Visitor>
     static void visitSettings(Self& self, Visitor visit) {
         visit(self.m_defaultBank);

@@ -2,7 +2,7 @@
 
 namespace Backend {
 
-// Which panels the window shows. It outlives the window, not the desk.
+// Which panels the window shows. It outlives the window, but not the desk.
 struct ScreenState {
     bool system = true;
     bool help = false;

@@ -7,7 +7,7 @@ namespace Backend {
 
 namespace {
 
-// A longer text, with the zero that ends it, is not read.
+// A text longer than this, including its terminating zero, is not read.
 constexpr std::size_t LONGEST_TEXT = 1000;
 
 using RectNumbers = std::array<std::int32_t, 4>;

@@ -8,7 +8,7 @@
 
 namespace Backend {
 
-// One setting: its value, the name under which it is stored, and whether it has been set since it was stored.
+// One setting: its value, the name under which it is stored, and whether it was set since it was last stored.
 template <typename Value>
 class Setting {
 public:
@@ -25,10 +25,10 @@ public:
     const char* getName() const { return m_name; }
     bool isChanged() const { return m_changed; }
 
-    // The value in words: true or false, a number, the text itself, the four numbers of a rectangle.
+    // The value as text: true or false, a number, the text itself, the four numbers of a rectangle.
     std::string describe() const;
 
-    // A value that is missing or of another kind leaves the present one.
+    // A value that is missing or of another kind leaves the current one.
     void load(const Platform::SettingsKey& key);
 
     // Writes the value if it was changed.

@@ -10,7 +10,7 @@ public:
     DbgBuf() = default;
     ~DbgBuf() override;
 
-    // While false, as it is not at first, text is thrown away instead.
+    // While false, text is discarded. Initially true.
     void setEnabled(bool enabled) { m_enabled = enabled; }
     bool isEnabled() const { return m_enabled; }
 

@@ -6,7 +6,7 @@
 
 namespace WindowsLib {
 
-// A stream to the debugger. What is written arrives with the next std::flush or std::endl.
+// A stream to the debugger. Text arrives with the next std::flush or std::endl.
 class DbgStream : public std::ostream {
 public:
     DbgStream();

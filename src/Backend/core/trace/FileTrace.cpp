@@ -8,7 +8,7 @@ namespace Backend {
 
 namespace {
 
-// "src\Backend\core\Mirel" from what the compiler knows of a source.
+// "src\Backend\core\Mirel" from the compiler's path of a source.
 std::string traceName(std::string source) {
     const std::size_t top = source.rfind("src/");
     source.erase(0, top == std::string::npos ? 0 : top);

@@ -12,23 +12,23 @@ public:
     // [any] The one channel of the program.
     static Trace& channel();
 
-    // [any] Nothing is written while this is false, as it is at first.
+    // [any] Nothing is written while this is false, which is the default.
     void setEnabled(bool enabled) { m_enabled.store(enabled); }
     bool isEnabled() const { return m_enabled.load(); }
 
-    // [any] Whether lines also go to the end of Platform::debugFilePath(). At first they don't.
+    // [any] Whether lines are also appended to Platform::debugFilePath(). Initially false.
     void setWriteToFile(bool writeToFile) { m_writeToFile.store(writeToFile); }
     bool writesToFile() const { return m_writeToFile.load(); }
 
-    // [while no other thread traces] What stands in front of each line; empty for no prefix.
+    // [while no other thread traces] The prefix of each line; empty for none.
     void setName(const std::string& name) { m_name = name; }
     const std::string& getName() const { return m_name; }
 
     // [any] Writes one line. file is the source's path from the top without its extension ("src\Gui\MirelGui"),
-    // function its qualified name, text "IN", "OUT" or anything else, also empty.
+    // function its qualified name, text "IN", "OUT" or anything else, possibly empty.
     void trace(const std::string& file, long line, const std::string& function, const std::string& text) const;
 
-    // [any] Writes a line that names the expression if the condition is false. The program goes on in any case.
+    // [any] If the condition is false, writes a line that names the expression. The program continues in any case.
     void traceAssert(const std::string& file, long line, const std::string& function, const std::string& expression,
                      bool condition) const;
 

@@ -32,7 +32,7 @@ constexpr int TRANSPOSES = 10;
 
 struct ProgramHeader {
     std::string name;
-    std::vector<std::int32_t> transposes;  // Of the zones from 0, without zeros at the end.
+    std::vector<std::int32_t> transposes;  // Of the zones from 0, without trailing zeros.
 };
 
 ProgramHeader parseHeader(std::string_view line) {
@@ -61,7 +61,7 @@ Zones::ZoneMap makeZones(const std::vector<std::int32_t>& transposes) {
     return zones;
 }
 
-// The keys of an import have no flag of their own, and their preset stands last.
+// Imported keys have no flag of their own, and their preset comes last.
 struct ImportedKeysElement : ComputerInput::ProgramKeysElement {
     static auto attributes() {
         const auto [preset, merge, useKeyUpMod] = ProgramKeysElement::attributes();
@@ -69,7 +69,7 @@ struct ImportedKeysElement : ComputerInput::ProgramKeysElement {
     }
 };
 
-// preset: what the element refers to, or empty.
+// preset: the preset that the element refers to, or empty.
 void writeKeys(std::ostream& stream, int indent, const ComputerInput::KeyConfigurationMap& keys,
                const std::string& preset) {
     ImportedKeysElement list;
@@ -84,7 +84,7 @@ std::string getFirstWordOfFileName(const std::string& path) {
     return name.substr(0, name.find(' '));
 }
 
-// The desk loads the file next, and traces one that could not be written as missing.
+// The desk loads the file next, and traces it as missing if it could not be written.
 void replaceText(const std::string& path, const std::string& text) {
     static_cast<void>(Files::replace(path, Files::withSystemLineEnds(text)));
 }

@@ -13,21 +13,21 @@ namespace Backend {
 
 class MirelIF;
 
-// Turns files of version 2 into those of this one. A file that can't be read or written, or that would become larger
-// than one that can be read, changes nothing; what can't be understood in it takes its default. [backend]
+// Converts files of version 2 into current ones. A file that can't be read or written, or whose result would be too
+// large to be read again, changes nothing; what makes no sense in it takes its default. [backend]
 class Version2Import {
 public:
-    // The preset on top of whose keys those of a file stand, and that a program without keys refers to.
+    // The preset to whose keys those of a file are added, and that a program without keys refers to.
     static constexpr const char* BASE_PRESET = "000 - Default";
 
     Version2Import(MirelIF& mirel, const SequenceManagement::SequencePresetManager& sequences)
         : m_mirel(mirel), m_sequences(sequences) {}
 
-    // To a bank or program file of a path.
+    // To a bank or program file at a path.
     void importBank(const std::string& from, const std::string& to);
     void importProgram(const std::string& from, const std::string& to);
 
-    // To a preset of a name. The first word of the old file's name tells of what: "key", "control" or "layer".
+    // To a preset with a name. The first word of the old file's name gives its kind: "key", "control" or "layer".
     void importPreset(const std::string& from, const std::string& to);
 
 private:
@@ -42,7 +42,7 @@ private:
 
     Components createComponents();
 
-    // Those of the preset on which the keys of a file stand; none if there is no such preset.
+    // The keys of the preset to which a file's keys are added; none if there is no such preset.
     const ComputerInput::KeyConfigurationMap& getBaseKeys();
 
     // Reads one section, if the reader is at one.
@@ -52,7 +52,7 @@ private:
 
     MirelIF& m_mirel;
     const SequenceManagement::SequencePresetManager& m_sequences;
-    std::optional<ComputerInput::KeyConfigurationMap> m_baseKeys;  // Once they were read.
+    std::optional<ComputerInput::KeyConfigurationMap> m_baseKeys;  // Once they have been read.
 };
 
 }

@@ -6,7 +6,7 @@
 
 namespace Backend {
 
-// The lines of a version 2 file. Those programs knew no UTF-8; bytes that are none are windows-1252.
+// The lines of a version 2 file. Those programs did not use UTF-8; bytes that aren't valid UTF-8 are windows-1252.
 class Version2Reader {
 public:
     explicit Version2Reader(std::string_view bytes);
@@ -14,7 +14,7 @@ public:
     Version2Reader(const Version2Reader&) = delete;
     Version2Reader& operator=(const Version2Reader&) = delete;
 
-    // The current line without its end; not to be asked for at the end.
+    // The current line without its end; don't call it at the end.
     std::string_view getLine() const { return m_line; }
     bool isAtEnd() const { return m_isAtEnd; }
 
@@ -33,21 +33,21 @@ private:
     bool m_isAtEnd = false;
 };
 
-// The fields of a line, which white space divides.
+// The fields of a line, separated by white space.
 class Version2Fields {
 public:
     explicit Version2Fields(std::string_view line) : m_rest(line) {}
 
-    // The next field; empty behind the last.
+    // The next field; empty after the last.
     std::string_view next();
 
-    // As a number, or the default.
+    // The next field as a number, or the default.
     std::int32_t nextNumber(std::int32_t defaultValue);
 
-    // As a flag, which any number but 0 sets.
+    // The next field as a flag, which any number but 0 sets.
     bool nextFlag(bool defaultValue) { return nextNumber(defaultValue) != 0; }
 
-    // As text, with blanks for "_"; "-" is empty.
+    // The next field as text, with blanks for "_"; "-" is empty.
     std::string nextText();
 
 private:

@@ -83,7 +83,7 @@ NoteToggle readToggle(Version2Fields& fields) {
                                                                     : NoteToggle();
 }
 
-// A number or a name; what begins as neither is no note.
+// A number or a name; anything that begins as neither is not a note.
 Note readNote(Version2Fields& fields, const Note& defaultNote) {
     constexpr std::string_view FIRST_CHARACTERS = "0123456789ABCDEFGabcdefg";
     const std::string text = fields.nextText();
@@ -123,10 +123,10 @@ Layers::Layer readLayer(Version2Fields& fields, const SequenceManagement::Sequen
     return layer;
 }
 
-// A section of more records is none that was ever meant; those beyond are passed over.
+// No real section has more records; those beyond are skipped.
 constexpr int MAX_RECORDS = 10000;
 
-// Calls read with the fields of each line of a section behind its letter.
+// Calls read with the fields of each line of a section, after its letter.
 template <class Read>
 void readSection(Version2Reader& reader, char letter, Read read) {
     for (int records = 0; reader.isAt(letter); reader.nextLine()) {

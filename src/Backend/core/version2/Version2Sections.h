@@ -19,8 +19,8 @@ namespace Backend {
 
 class MirelIF;
 
-// Each takes the lines of its section and adds what they hold. The first six fields behind the modifiers of a key are
-// its down function, the next six its up function, made of a numeric type.
+// Each takes the lines of its section and adds their contents. The first six fields after the modifiers of a key are
+// its down function, the next six its up function, both created from a numeric type.
 void readVersion2Keys(Version2Reader& reader, MirelIF& mirel, ComputerInput::KeyConfigurationMap& keys);
 void readVersion2Controls(Version2Reader& reader, Controls::ControlMap& controls);
 void readVersion2Layers(Version2Reader& reader, const SequenceManagement::SequencePresetManager& sequences,

@@ -16,7 +16,7 @@
 
 namespace Backend {
 
-// The numbers that make sense for an attribute. Reading takes others too; `mirel check` reports them.
+// The numbers that make sense for an attribute. Reading also accepts others, which `mirel check` reports.
 struct NumberRange {
     std::int32_t lowest = INT32_MIN;
     std::int32_t highest = INT32_MAX;
@@ -26,7 +26,7 @@ struct NumberRange {
 
 inline constexpr NumberRange ANY_NUMBER{};
 
-// When an attribute stands in its element.
+// When an attribute is present in its element.
 enum class Written {
     ALWAYS,
     WITH_CHILDREN,   // Always; but files have elements without children that lack it, such as an empty program.
@@ -34,7 +34,7 @@ enum class Written {
     UNLESS_MISSING,  // Unless its value is that of a missing attribute.
 };
 
-// Numbers have to state their range, so that none is forgotten.
+// Numbers must state their range, so that none is forgotten.
 template <class Value>
 concept StatesRange = std::is_integral_v<Value> && !std::is_same_v<Value, bool>;
 
@@ -43,7 +43,7 @@ template <class Owner, class Value>
 struct Attribute {
     using Reader = Value(const std::string& text);
 
-    // missing: what is read if the attribute is missing, or cannot be read as a flag or a number.
+    // missing: the value if the attribute is missing, or can't be read as a flag or a number.
     Attribute(const char* attributeName, Value Owner::*valueMember, std::type_identity_t<Value> missingValue,
               NumberRange numbers, Written when = Written::ALWAYS)
         : name(attributeName), member(valueMember), missing(std::move(missingValue)), range(numbers), written(when) {}
@@ -54,7 +54,7 @@ struct Attribute {
               Written when = Written::ALWAYS) requires(!StatesRange<Value>)
         : Attribute(attributeName, valueMember, std::move(missingValue), ANY_NUMBER, when) {}
 
-    // An item that is not read by its own rule. A missing attribute is an empty text.
+    // An item that is not read by its own rule. A missing attribute reads as an empty text.
     Attribute(const char* attributeName, Value Owner::*valueMember,
               Reader* itemReader) requires(std::is_base_of_v<XmlItem, Value>)
         : Attribute(attributeName, valueMember, itemReader(std::string())) {
@@ -91,13 +91,13 @@ void writeAttribute(std::ostream& stream, const Attribute<Owner, Value>& attribu
         stream << getAttributeText(attribute.name, value);
 }
 
-// Calls action with each row of a class, in their order.
+// Calls action with each row of a class, in order.
 template <class Owner, class Action>
 void forEachAttribute(Action action) {
     std::apply([&](const auto&... rows) { (action(rows), ...); }, Owner::attributes());
 }
 
-// Takes all values from the owner's element.
+// Reads all values from the owner's element.
 template <class Owner>
 void readAttributes(const XmlElement& element, Owner& owner) {
     forEachAttribute<Owner>([&](const auto& row) { owner.*row.member = readAttribute(element, row); });

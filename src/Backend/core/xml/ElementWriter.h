@@ -13,7 +13,7 @@ namespace Backend {
 //     layer.write(sequenceSetting);
 class ElementWriter {
 public:
-    // An element without attributes, indent tabs deep. The stream must outlive this.
+    // An element without attributes, indented by this many tabs. The stream must outlive this.
     [[nodiscard]] ElementWriter(std::ostream& stream, int indent, const std::string& tag);
 
     // An element with the attributes of its owner.
@@ -28,7 +28,7 @@ public:
     ElementWriter& operator=(const ElementWriter&) = delete;
     ~ElementWriter();
 
-    // An element inside this one, with or without the attributes of an owner. It must be gone before this one goes.
+    // An element inside this one, with or without the attributes of an owner. It must be destroyed before this one.
     template <class... Owner>
     [[nodiscard]] ElementWriter begin(const std::string& tag, const Owner&... owner) const {
         return {m_stream, m_indent + 1, tag, owner...};
@@ -40,14 +40,14 @@ public:
         item.writeXml(m_stream, m_indent + 1);
     }
 
-    // Writes an element with attributes alone: <tag name="value"/>
+    // Writes an element with attributes only: <tag name="value"/>
     template <class Owner>
     void writeEmpty(const std::string& tag, const Owner& owner) const;
 
-    // Writes an element with text alone, escaped, on one line.
+    // Writes an element with only text in it, escaped, on one line.
     void writeText(const std::string& tag, const std::string& text) const;
 
-    // For writers that need more than a stream and an indentation: where and how deep the children stand.
+    // For writers that need the stream and the depth of the children.
     std::ostream& getStream() const { return m_stream; }
     int getInnerIndent() const { return m_indent + 1; }
 
@@ -62,7 +62,7 @@ private:
     std::string m_endLine;  // Made beforehand, so that the end allocates nothing that could fail.
 };
 
-// Writes an element with attributes alone on a line of its own, indent tabs deep.
+// Writes an element with attributes only, on a line of its own, indented by this many tabs.
 template <class Owner>
 void writeEmptyElement(std::ostream& stream, int indent, const std::string& tag, const Owner& owner) {
     stream << getIndentation(indent) << getStartTagBegin(tag);

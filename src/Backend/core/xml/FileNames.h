@@ -4,7 +4,7 @@
 
 namespace Backend {
 
-// [any] Whether a name given by the user can be that of a file in its folder, and leads nowhere else.
+// [any] Whether a name given by the user can be a file's name in its folder, and doesn't lead anywhere else.
 bool isUsableFileName(std::string_view name);
 
 }

@@ -7,26 +7,26 @@
 
 namespace Backend::Text {
 
-// Without white space at both ends.
+// The text without white space at both ends.
 std::string_view trim(std::string_view text);
 
-// The decimal integer at the start of the text, after white space and with an optional sign; what follows it is not
-// looked at. Nothing if there is no digit or the number needs more than 32 bits.
+// The decimal integer at the start of the text, after white space and with an optional sign; what follows is ignored.
+// Nothing if there is no digit or the number doesn't fit 32 bits.
 [[nodiscard]] std::optional<std::int32_t> readInteger(std::string_view text);
 
-// The same with a value for text that holds no such number.
+// The same, with a default for text without such a number.
 std::int32_t readInteger(std::string_view text, std::int32_t defaultValue);
 
-// The flag that a text stands for: "true", "TRUE", "yes", "YES" and their opposites, in just these spellings. Nothing
-// for any other text.
+// The flag that a text stands for: exactly "true", "TRUE", "yes", "YES" or one of their opposites. Nothing for any
+// other text.
 [[nodiscard]] std::optional<bool> readBool(std::string_view text);
 
-// The low byte of a number, as the fields of one byte keep it.
+// The low byte of a number, for fields of one byte.
 constexpr char lowByte(std::int32_t number) {
     return static_cast<char>(static_cast<unsigned char>(number & 0xff));
 }
 
-// Whether a byte of UTF-8 text is not the first of its character.
+// Whether a byte of UTF-8 text is not the first one of its character.
 constexpr bool isInsideCharacter(char byte) {
     constexpr unsigned CONTINUATION_MASK = 0xc0;
     constexpr unsigned CONTINUATION = 0x80;

@@ -14,7 +14,7 @@ std::shared_ptr<const Platform::XmlNode> readRoot(const std::string& source, boo
     const auto content = Platform::Files::read(source);
     auto root = content ? Platform::readXml(*content) : nullptr;
     if (!root)
-        traceFile(source, content ? "is no XML that can be used" : "can't be read");
+        traceFile(source, content ? "is not usable XML" : "can't be read");
     return root;
 }
 

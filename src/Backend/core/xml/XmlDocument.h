@@ -14,14 +14,14 @@ namespace Backend {
 // A parsed document.
 class XmlDocument {
 public:
-    // [any] Reads a file, or takes source for the text itself. What is missing, malformed or beyond the reader's limits
-    // gives a document without a root.
+    // [any] Reads a file, or takes source as the text itself. A document that is missing, malformed or beyond the
+    // reader's limits has no root.
     XmlDocument(const std::string& source, bool isPath);
 
     // [any] Whether there was a document to read.
     bool hasRoot() const;
 
-    // [any] The root, or an element that isn't there.
+    // [any] The root, or a missing element.
     XmlElement getRootElement() const;
 
 private:

@@ -17,31 +17,31 @@ namespace Backend {
 // string or the default.
 class XmlElement {
 public:
-    // No element.
+    // A missing element.
     XmlElement() = default;
 
-    // The root of a document, or no element for null.
+    // The root of a document; a missing element for null.
     explicit XmlElement(std::shared_ptr<const Platform::XmlNode> root);
 
     // The tag's name.
     std::string getName() const;
 
-    // The value; the empty string if there is no such attribute.
+    // The value; empty if there is no such attribute.
     std::string getAttribute(const std::string& name) const;
 
-    // "true", "TRUE", "yes", "YES" and their opposites, in just these spellings; the default for all else.
+    // Exactly "true", "TRUE", "yes", "YES" or one of their opposites; the default for anything else.
     bool getBoolAttribute(const std::string& name, bool defaultValue) const;
 
-    // The number at the start of the value; the default if there is none or if it needs more than 32 bits.
+    // The number at the start of the value; the default if there is none or it doesn't fit 32 bits.
     int getIntAttribute(const std::string& name, int defaultValue) const;
 
-    // All text inside the element, also that of elements in it, without white space at both ends.
+    // All text inside the element, including nested elements, without white space at both ends.
     std::string getText() const;
 
     // The first child; equal to end() if there is none.
     XmlElement begin() const;
 
-    // What a cursor over the children is compared with.
+    // The end to compare a cursor over the children with.
     XmlElement end() const;
 
     // Moves a cursor to the next child or to the end, where it stays. A root does not move.
@@ -54,8 +54,8 @@ private:
     void lookAt(int index);
 
     std::shared_ptr<const Platform::XmlNode> m_document;
-    const Platform::XmlNode* m_element = nullptr;                // Null on a child that is no element.
-    const std::vector<Platform::XmlNode>* m_siblings = nullptr;  // What the cursor walks; null for a root.
+    const Platform::XmlNode* m_element = nullptr;                // Null on a child that is not an element.
+    const std::vector<Platform::XmlNode>* m_siblings = nullptr;  // The children the cursor walks over; null for a root.
     int m_index = -1;                                            // In m_siblings; -1 for a root and for end().
     int m_childCount = 0;                                        // Of the element; for end() of the parent.
 };

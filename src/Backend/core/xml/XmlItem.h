@@ -9,7 +9,7 @@ class XmlItem {
 public:
     virtual ~XmlItem() = default;
 
-    // The text. It is written as it is, so it holds nothing that XML would want escaped.
+    // The text. It is written unchanged, so it must not need escaping in XML.
     virtual std::string toXmlString() const = 0;
 
 protected:

@@ -17,7 +17,7 @@ public:
     NoteToggle() = default;
     explicit NoteToggle(State state) : m_state(state) {}
 
-    // "type1" and "type2", exactly; anything else is off.
+    // Exactly "type1" or "type2"; anything else is off.
     explicit NoteToggle(std::string_view text) : m_state(text == "type1" ? TYPE1 : text == "type2" ? TYPE2 : OFF) {}
 
     State getState() const { return m_state; }

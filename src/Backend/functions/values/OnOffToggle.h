@@ -13,7 +13,7 @@ public:
     OnOffToggle() = default;
     explicit OnOffToggle(State state) : m_state(state) {}
 
-    // "on" and "off", exactly; anything else is toggle.
+    // Exactly "on" or "off"; anything else is toggle.
     explicit OnOffToggle(std::string_view text) : m_state(text == "on" ? ON : text == "off" ? OFF : TOGGLE) {}
 
     State getState() const { return m_state; }

@@ -5,14 +5,14 @@
 #include <cstdint>
 #include <string_view>
 
-// An amount: an offset that is added to the present value, or a value that replaces it.
+// An amount: an offset to add to the current value, or a value to replace it.
 class RelativeFixedValue : public Backend::XmlItem {
 public:
     // Relative 0: no change.
     RelativeFixedValue() = default;
     RelativeFixedValue(bool relative, std::int32_t value) : m_relative(relative), m_value(value) {}
 
-    // "+5" and "-5" are offsets, "5" a value, "" no change. A number that can't be read is 0.
+    // "+5" and "-5" are offsets, "5" a value, "" no change. An unreadable number is 0.
     explicit RelativeFixedValue(std::string_view text);
 
     bool isRelative() const { return m_relative; }
@@ -20,7 +20,7 @@ public:
     std::int32_t getValue() const { return m_value; }
     void setValue(std::int32_t value) { m_value = value; }
 
-    // The result of applying this to a present value; sums wrap at 32 bits.
+    // The result of applying this to a value; sums wrap at 32 bits.
     std::int32_t applyTo(std::int32_t present) const;
 
     std::string toXmlString() const override;

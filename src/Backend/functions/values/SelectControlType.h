@@ -10,12 +10,12 @@
 class SelectControlType : public Backend::XmlItem {
 public:
     enum Mode : std::int32_t {
-        UP = 0,  // The next control above the selected one; the same for the three other directions.
+        UP = 0,  // The next control above the selected one; likewise for the other three directions.
         DOWN = 1,
         LEFT = 2,
         RIGHT = 3,
         SELECTED = 4,
-        SPECIFIC = 5,  // The control in the cell of getCell.
+        SPECIFIC = 5,  // The control in the cell given by getCell.
         ALL = 6,
     };
 
@@ -24,7 +24,7 @@ public:
     // cell counts for specific only.
     explicit SelectControlType(Mode mode, const Cell& cell = Cell(0, 0)) : m_mode(mode), m_cell(cell) {}
 
-    // The name of a mode, exactly; anything else is a cell "row,col".
+    // The exact name of a mode; anything else is a cell "row,col".
     explicit SelectControlType(std::string_view text);
 
     Mode getMode() const { return m_mode; }

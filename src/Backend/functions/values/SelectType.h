@@ -12,7 +12,7 @@ public:
         UP = 0,        // The next item.
         DOWN = 1,      // The previous item.
         SELECTED = 2,  // The items selected on the screen.
-        SPECIFIC = 3,  // The item with the index of getValue.
+        SPECIFIC = 3,  // The item with the index given by getValue.
         ALL = 4,
     };
 
@@ -21,7 +21,7 @@ public:
     // value is the index from 0 and counts for specific only.
     explicit SelectType(Mode mode, std::int32_t value = 0) : m_mode(mode), m_value(value) {}
 
-    // The name of a mode, exactly; anything else is an index, and 0 if it holds no number.
+    // The exact name of a mode; anything else is an index, 0 if it contains no number.
     explicit SelectType(std::string_view text);
 
     Mode getMode() const { return m_mode; }

@@ -6,7 +6,7 @@
 
 namespace Backend::FunctionManagement {
 
-// A list of types in an order that matters. They need not be complete.
+// A list of types whose order matters. They need not be complete.
 template <class... Types>
 struct TypeList {
     static constexpr std::size_t SIZE = sizeof...(Types);
@@ -17,7 +17,7 @@ struct TypeList {
     template <class Type>
     static constexpr bool CONTAINS = (std::is_same_v<Type, Types> || ...);
 
-    // Whether another list holds just these types, in any order.
+    // Whether another list contains exactly these types, in any order.
     template <class Other>
     static constexpr bool HAS_TYPES_OF = SIZE == Other::SIZE && (Other::template CONTAINS<Types> && ...);
 };

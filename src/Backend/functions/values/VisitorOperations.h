@@ -4,7 +4,7 @@
 
 namespace Backend::FunctionManagement {
 
-// The interface of a visitor: one pure operation visit(Type&) for each type of a TypeList, in its order.
+// The interface of a visitor: one pure operation visit(Type&) for each type of a TypeList, in order.
 template <class List, std::size_t COUNT = List::SIZE>
 class VisitorOperations : public VisitorOperations<List, COUNT - 1> {
 public:
@@ -16,7 +16,7 @@ template <class List>
 class VisitorOperations<List, 0> {
 public:
     virtual ~VisitorOperations() = default;
-    void visit() = delete;  // Only for the declarations above to bring in.
+    void visit() = delete;  // Only for the using-declarations above.
 };
 
 }

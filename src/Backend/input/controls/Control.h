@@ -43,22 +43,22 @@ public:
     Control(Control&&) = default;
     Control& operator=(Control&&) = default;
 
-    // From its element.
+    // Reads its element.
     explicit Control(const XmlElement& element);
 
-    // The element on lines of its own, indent tabs deep.
+    // Writes the element on its own lines, indented by this many tabs.
     void writeXml(std::ostream& stream, int indent) const;
 
-    // Stores a value, kept between min and max whichever is lower, and sends it if asked.
+    // Stores a value, clamped between min and max whichever is lower, and sends it if requested.
     void setValue(MidiEngine::MidiEngineMessageManager& engine, std::int32_t newValue, bool send);
 
-    // Sends the value as it is with every event, if the control has one.
+    // Sends the unchanged value with every event, if the control has one.
     void sendEvents(MidiEngine::MidiEngineMessageManager& engine) const;
 
-    // Whether there is an event of this index, from 0, and it is a MIDI event.
+    // Whether there is an event with this index, from 0, and it is a MIDI event.
     bool isEventValid(int index) const;
 
-    // Replaces what an event of the list sends, not where; the index after the last adds one. Others are ignored.
+    // Replaces what an event of the list sends, but not where; the index after the last adds one. Others are ignored.
     void setEvent(int index, const MidiEngine::MidiMessage& message);
 
     // The event that the control follows; null if it has none.
@@ -70,8 +70,8 @@ public:
     std::int32_t value = 0;
     std::int32_t min = 0;  // May be above max.
     std::int32_t max = 127;
-    std::int32_t release = STAYS;  // Where it goes when it is let go.
-    bool autoSend = false;         // Sends when it is loaded.
+    std::int32_t release = STAYS;  // Its value once it is released.
+    bool autoSend = false;         // Sends automatically when it is loaded.
     std::int32_t size = 1;         // In cells.
     std::vector<ControlEvent> events;
     bool selected = false;  // Not saved.

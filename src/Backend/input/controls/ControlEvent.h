@@ -12,7 +12,7 @@ class MirelMidiMessage;
 
 namespace Backend::Controls {
 
-// An event that a control sends with its value in it.
+// An event that a control sends, with its value filled in.
 struct ControlEvent {
     static constexpr const char* TAG = "Function";
 
@@ -28,20 +28,20 @@ struct ControlEvent {
     ControlEvent() = default;
     explicit ControlEvent(const MidiEngine::MidiMessage& message) : midiMessage(message) {}
 
-    // From its element.
+    // Reads its element.
     explicit ControlEvent(const XmlElement& element);
 
-    // The element on a line of its own, indent tabs deep.
+    // Writes the element on a line of its own, indented by this many tabs.
     void writeXml(std::ostream& stream, int indent) const;
 
     bool hasSameRouting(const ControlEvent& other) const {
         return zone == other.zone && output == other.output && channel == other.channel;
     }
 
-    // Whether an event that passed the engine is one of these, whatever its value.
+    // Whether an event that passed the engine is this one, whatever its value.
     bool matches(const MidiEngine::MirelMidiMessage& message) const;
 
-    MidiEngine::MidiMessage midiMessage;  // Of a controller its number too.
+    MidiEngine::MidiMessage midiMessage;  // For a controller, including its number.
     char output = -1;                     // -1: the default output.
     char channel = -1;                    // -1: the default channel.
     char zone = -1;                       // -1: none.

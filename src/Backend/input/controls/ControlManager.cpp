@@ -23,7 +23,7 @@ constexpr int GRID_SIZE = 16;
 constexpr std::int32_t LOWEST_VALUE = 0;
 constexpr std::int32_t HIGHEST_VALUE = 127;
 
-// Ranges may be as wide as 32 bits, so a value that is moved stops there.
+// Ranges may be as wide as 32 bits, so moving a value stops there.
 std::int32_t to32Bits(std::int64_t value) {
     return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, INT32_MIN, INT32_MAX));
 }
@@ -148,7 +148,7 @@ void ControlManager::tellValue(const Control& control) {
 }
 
 // The others keep their distance to the source and stop at the ends. Beyond that point only the source moves; the
-// overshoot remembers where they pick up again.
+// overshoot records where they rejoin it.
 void ControlManager::moveGroup(const Control& source, std::int64_t delta, std::int64_t value) {
     if (delta == 0)
         return;
@@ -203,7 +203,7 @@ void ControlManager::updateControls(const MirelMidiMessage& message) {
             changeControl(*control, value, true, false);
 }
 
-// A control that moved with its group does not follow the event of the one that led it.
+// A control that moved with its group does not follow the leading control's event.
 bool ControlManager::follows(const Control& control, const MirelMidiMessage& message) {
     if (control.cell == message.getFromControl())
         return false;
@@ -229,7 +229,7 @@ void ControlManager::selectControl(const SelectControlType& type) {
 Control* ControlManager::findNext(SelectControlType::Mode mode, const Control* from) {
     const Cell start = mode == SelectControlType::DOWN ? Cell(-1, 0) : Cell(0, -1);
     const Cell& cell = from ? from->cell : start;
-    // A cell far outside the grid is as good as one beside it.
+    // A cell far outside the grid counts like one just outside it.
     int row = std::clamp(cell.getRow(), -2, GRID_SIZE + 1);
     int column = std::clamp(cell.getColumn(), -2, GRID_SIZE + 1);
     for (;;) {

@@ -22,7 +22,7 @@ namespace Backend::Controls {
 // The controls of the current program. [backend]
 class ControlManager {
 public:
-    // The folder of its preset files below the one for the desk's data.
+    // The folder of its preset files, inside the desk's data folder.
     static constexpr const char* PRESET_FOLDER = "Control Presets";
 
     ControlManager(MirelIF& mirel, MessageManagerMaster& master);
@@ -34,22 +34,22 @@ public:
     const ControlMap& getControlMap() const { return m_controls; }
     const PresetFolder& getPresets() const { return m_presets; }
 
-    // How far the control that leads a group is beyond the place where the group stopped at an end.
+    // How far the control that leads a group is beyond the point where the group stopped at an end.
     std::int32_t getGroupOvershoot() const { return m_groupOvershoot; }
 
-    // The built-in controls.
+    // Loads the built-in controls.
     void loadDefaultControls();
 
-    // From a Controls element. Controls that send on their own do so.
+    // Reads a Controls element. Controls that send automatically do so.
     void readXml(const XmlElement& element);
 
-    // As a Controls element, indent tabs deep: all controls, or the selected ones to be merged.
+    // Writes a Controls element, indented by this many tabs: all controls, or the selected ones to be merged.
     void writeXml(std::ostream& stream, int indent, const std::vector<Cell>& selected) const;
 
     // Removes all controls.
     void clear();
 
-    // A preset that has no file changes nothing.
+    // A preset without a file changes nothing.
     void loadPreset(const std::string& name);
     void savePreset(const std::string& name, const std::vector<Cell>& selected);
     void renamePreset(const std::string& oldName, const std::string& newName);
@@ -58,34 +58,34 @@ public:
     // Stores each control in its cell; one without a type empties the cell.
     void updateControls(const std::vector<Control>& controls, bool notifyGui, bool guiFlag);
 
-    // Selects just these cells.
+    // Selects only these cells.
     void selectControls(const std::vector<Cell>& cells);
 
     // A new value from the window. A cell without a control is ignored.
     void changeControl(const ControlChange& change);
 
-    // Gives a control of the map a value. Controls for bank and program of one destination send together, in the order
-    // that devices want; the selected ones move by as much as a selected control.
+    // Sets the value of a control in the map. Bank and program controls for one destination send together, in the order
+    // that devices need; the selected controls move by as much as a selected one.
     void changeControl(Control& control, std::int32_t value, bool updateGui, bool send);
 
-    // Sends all controls, or those that send on their own.
+    // Sends all controls, or those that send automatically.
     void sendAll(bool autoSendOnly);
 
     // An event passed the engine: the controls that send this event take its value.
     void updateControls(const MidiEngine::MirelMidiMessage& message);
 
-    // Selects one control alone: the next in a direction, from the cell of the selected one, or the one of a cell. If
+    // Selects a single control: the next in a direction, from the selected one's cell, or the one in a given cell. If
     // there is none, none is selected afterwards.
     void selectControl(const SelectControlType& type);
 
-    // The control of a cell or else the selected one.
+    // Changes the control in a cell or otherwise the selected one.
     void changeControlValue(const SelectControlType& type, const RelativeFixedValue& value);
 
-    // The control of a cell, all of them, or else the selected one.
+    // Sends the control in a cell, all of them, or otherwise the selected one.
     void sendControlData(const SelectControlType& type);
 
 private:
-    // The events that select a program of a device, in the order in which it has to get them.
+    // The events that select a program on a device, in the order in which it needs them.
     enum class BankStep { NONE = -1, BANK_MSB = 0, BANK_LSB = 1, PROGRAM = 2 };
 
     static BankStep getBankStep(const ControlEvent* event);

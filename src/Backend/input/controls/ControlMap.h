@@ -23,19 +23,19 @@ public:
     std::size_t size() const { return m_controls.size(); }
     void clear() { m_controls.clear(); }
 
-    // Adds a control, or replaces that of its cell.
+    // Adds a control, or replaces its cell's.
     void set(const Control& control) { m_controls.insert_or_assign(control.cell, control); }
     void remove(const Cell& cell) { m_controls.erase(cell); }
 
-    // All controls, row by row from the left. Valid until a control comes or goes.
+    // All controls, row by row from the left. Valid until a control is added or removed.
     std::vector<Control*> inOrder();
     std::vector<const Control*> inOrder() const;
 
-    // Reads the controls of an element. Its attribute merge says whether they are added or replace all.
+    // Reads the controls of an element. Its merge attribute says whether they are added or replace all.
     void readXml(const XmlElement& element);
 
-    // The element on lines of its own, indent tabs deep, with the controls in the order of
-    // their texts: all, or the selected ones to be merged.
+    // Writes the element on its own lines, indented by this many tabs, with the controls in the order of their texts:
+    // all, or the selected ones to be merged.
     void writeXml(std::ostream& stream, int indent, const std::vector<Cell>& selected) const;
 
 private:

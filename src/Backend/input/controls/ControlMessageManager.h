@@ -21,13 +21,13 @@ struct ControlChange {
     bool updateGui = false;
 };
 
-// The way of other threads to the controls. Each post is carried out on the backend thread by the operation of
-// ControlManager of like name.
+// How other threads reach the controls. The operation of ControlManager with the same name carries out each post on the
+// backend thread.
 class ControlMessageManager : public MessageManager, public MidiEngine::PassingEvents {
 public:
     ControlMessageManager(MessageManagerMaster& master, ControlManager& controls);
 
-    // [any] guiFlag is for the window, which gets it back if it is told.
+    // [any] guiFlag is passed on to the window with its notification.
     void postUpdateControls(const std::vector<Control>& controls, bool notifyGui, bool guiFlag);
     void postLoadPreset(const std::string& name);
     void postRenamePreset(const std::string& oldName, const std::string& newName);

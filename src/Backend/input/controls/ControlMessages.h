@@ -20,7 +20,7 @@ class Control;
 struct ControlChange;
 class ControlMap;
 
-// What comes along with an update of controls: whether to tell the window, and a flag that it gets then.
+// Accompanies an update of controls: whether to notify the window, and a flag that is passed on to it.
 struct UpdateFlags {
     bool notifyGui = false;
     bool guiFlag = false;
@@ -28,7 +28,7 @@ struct UpdateFlags {
 
 }
 
-// Both flags in one word, each a half of it.
+// Both flags in one word, each in one half.
 template <>
 struct Backend::Carried<Backend::Controls::UpdateFlags> : Carried<std::intptr_t> {
     using Value = Controls::UpdateFlags;
@@ -51,7 +51,7 @@ struct Backend::Carried<Cell> : Carried<std::intptr_t> {
 
     template <class Word>
     static Word put(const Cell& cell) {
-        // A first word is not negative.
+        // A first word is never negative.
         using Number = std::conditional_t<std::is_signed_v<Word>, std::int32_t, std::uint32_t>;
         return static_cast<Word>(static_cast<Number>(cell.getKey()));
     }

@@ -8,7 +8,7 @@
 
 namespace Backend::Controls {
 
-// What a control looks like.
+// The appearance of a control.
 class ControlType : public XmlItem {
 public:
     enum Kind : std::int32_t { NONE = 0, EDIT = 1, VERTICAL_FADER = 2, HORIZONTAL_FADER = 3, KNOB = 4, LABEL = 5 };
@@ -16,7 +16,7 @@ public:
     ControlType() = default;
     explicit ControlType(Kind kind) : m_kind(kind) {}
 
-    // From its text, with case; anything else is none.
+    // From its text, case-sensitive; anything else is none.
     explicit ControlType(std::string_view text);
 
     Kind getKind() const { return m_kind; }

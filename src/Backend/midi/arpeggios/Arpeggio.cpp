@@ -24,7 +24,7 @@ std::string Arpeggio::toString() const {
 
 Arpeggio::Clocks Arpeggio::readClocks(std::int32_t ppq) const {
     const bool onBeat = isOnBeat(ppq);
-    // A note that is as long as the beat or longer ends with the beat.
+    // A note as long as the beat or longer ends with the beat.
     return {m_length < m_beat ? isNoteEnd(ppq) : onBeat, onBeat};
 }
 

@@ -17,15 +17,15 @@ class ArpeggioTarget;
 namespace Backend::ArpeggioManagement {
 
 // Holds the notes of a layer and plays them on its own schedule. The engine drives it one ppq at a time, under its
-// lock; until it is given an engine nothing plays and nothing is held.
+// lock; without an engine it plays and holds nothing.
 class Arpeggio {
 public:
-    // The element of a layer that holds the arpeggio's own.
+    // The element of a layer that contains the arpeggio's own.
     static constexpr const char* TAG = "Arpeggio";
 
     static constexpr std::int32_t DEFAULT_PPQ = 480;
 
-    // A note beyond this many is not taken, so that keys that never go up can't fill the memory.
+    // Notes beyond this many are not taken, so that keys that never go up can't exhaust the memory.
     static constexpr std::size_t MAX_NOTES = 1024;
 
     static auto attributes() {
@@ -40,7 +40,7 @@ public:
     // A deep copy with the same settings and held notes.
     [[nodiscard]] virtual std::unique_ptr<Arpeggio> clone() const = 0;
 
-    // The time between two steps. 0 or less never comes.
+    // The time between two steps. A beat of 0 or less never comes.
     TimeInterval getBeat() const { return TimeInterval(m_beat); }
     void setBeat(std::int32_t ppq) { m_beat = ppq; }
 
@@ -54,7 +54,7 @@ public:
     // "Up", for display.
     virtual const char* getDisplayName() const = 0;
 
-    // Its element on one line, indent tabs deep.
+    // Writes its element on one line, indented by this many tabs.
     void writeXml(std::ostream& stream, int indent) const;
 
     // [player, rt] A note of the layer.
@@ -64,16 +64,16 @@ public:
     // [player, rt] This ppq has come.
     virtual void timeEvent(std::int32_t ppq, SequenceManagement::SequenceSetting& sequence) = 0;
 
-    // [player, rt] Ends what sounds and forgets all notes.
+    // [player, rt] Ends sounding notes and forgets all notes.
     virtual void reset(SequenceManagement::SequenceSetting& sequence) = 0;
 
-    // When it began to play; -1 if it doesn't.
+    // When it began to play; -1 if it isn't playing.
     std::int32_t getRunningSince() const { return m_runningSince; }
 
-    // [engine] Also allocates room for all notes that it may hold, so that taking them does not.
+    // [engine] Also allocates room for as many notes as it may hold, so that taking them does not allocate.
     void setMidiEngine(MidiEngine::ArpeggioTarget* engine);
 
-    // Whether it holds no notes, so that time passes without effect.
+    // Whether it holds no notes, so that the passing of time has no effect.
     bool isIdle() const { return m_notes.empty(); }
 
     // "Up Arp 1/8 Len:1/16"
@@ -84,7 +84,7 @@ protected:
     Arpeggio(const Arpeggio&) = default;
     Arpeggio& operator=(const Arpeggio&) = default;
 
-    // Where one ppq lies: on the step, and on the end of the note that sounds.
+    // Where one ppq lies: on a step, on the end of the sounding note, or both.
     struct Clocks {
         bool noteEnd;
         bool onBeat;
@@ -92,13 +92,13 @@ protected:
 
     Clocks readClocks(std::int32_t ppq) const;
 
-    // Sends a note as it is, or through the present node of the sequence if there is one.
+    // Sends a note as it is or, if there is a sequence, through its current node.
     void sendNote(const ArpeggioNote& note, SequenceManagement::SequenceSetting& sequence);
 
     void sendNoteOn(ArpeggioNote& note, std::int32_t ppq, SequenceManagement::SequenceSetting& sequence);
     void sendNoteOff(ArpeggioNote& note, SequenceManagement::SequenceSetting& sequence);
 
-    // Marks it as running since ppq, and as the origin of the common grid if there is none.
+    // Marks it as running since ppq, and sets the origin of the common grid if there is none.
     void startRunning(std::int32_t ppq);
 
     std::int32_t m_beat = DEFAULT_PPQ;

@@ -33,7 +33,7 @@ void ChordArpeggio::timeEvent(std::int32_t ppq, SequenceSetting& sequence) {
     if (startNotes(ppq, clocks.onBeat, sequence))
         std::erase_if(m_notes, [](const ArpeggioNote& note) { return note.finished; });
     else if (!isAnySounding() || clocks.onBeat)
-        reset(sequence);  // Released notes that still sound run on until their end or the beat.
+        reset(sequence);  // Released notes that still sound last until their end or the beat.
 }
 
 void ChordArpeggio::endNotes(std::int32_t ppq, SequenceSetting& sequence) {
@@ -50,7 +50,7 @@ void ChordArpeggio::endNotes(std::int32_t ppq, SequenceSetting& sequence) {
 }
 
 bool ChordArpeggio::startNotes(std::int32_t ppq, bool onBeat, SequenceSetting& sequence) {
-    // Taken once, so that all notes of a first chord start together without waiting for a beat.
+    // Read once, so that all notes of a first chord start together without waiting for a beat.
     const bool firstOfAll = m_midiEngine->getStartTime() < 0;
     bool allReleased = true;
     for (ArpeggioNote& note : m_notes) {
@@ -91,7 +91,7 @@ void ChordArpeggio::reset(SequenceSetting& sequence) {
         if (note.playing && !note.finished)
             sendNoteOff(note, sequence);
     m_notes.clear();
-    m_runningSince = -1;  // The time of the last note stays.
+    m_runningSince = -1;  // Keeps the time of the last note.
     m_midiEngine->updateStartTime();
     sequence.getSequence().setPosition(0);
 }

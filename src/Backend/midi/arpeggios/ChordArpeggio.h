@@ -20,7 +20,7 @@ public:
 private:
     void endNotes(std::int32_t ppq, SequenceManagement::SequenceSetting& sequence);
 
-    // Starts what is due. False if every note is released.
+    // Starts the notes that are due. False if every note is released.
     bool startNotes(std::int32_t ppq, bool onBeat, SequenceManagement::SequenceSetting& sequence);
 
     bool areAllReleased() const;

@@ -19,7 +19,7 @@ void SteppingArpeggio::noteEvent(const MidiEngine::MirelMidiMessage& message, Se
 
 void SteppingArpeggio::addNote(const MidiEngine::MirelMidiMessage& message) {
     const char d1 = message.getD1();
-    // After all notes that stand before it, and after those of the same number.
+    // After all notes that come before it, and after those of the same number.
     const auto place = std::find_if(m_notes.begin(), m_notes.end(),
                                     [&](const ArpeggioNote& note) { return isBefore(d1, note.getD1()); });
     const bool isHeld = place != m_notes.begin() && std::prev(place)->getD1() == d1;
@@ -48,7 +48,7 @@ void SteppingArpeggio::releaseNote(char d1, SequenceSetting& sequence) {
         reset(sequence);
 }
 
-// The current note stays the same one, wherever it stands afterwards.
+// The current note stays the same one, wherever it ends up.
 void SteppingArpeggio::removeNote(std::size_t index) {
     m_notes.erase(m_notes.begin() + static_cast<std::ptrdiff_t>(index));
     if (m_current == AT_END)
@@ -66,7 +66,7 @@ void SteppingArpeggio::timeEvent(std::int32_t ppq, SequenceSetting& sequence) {
         goToFirst();
     const Clocks clocks = readClocks(ppq);
 
-    // A released note that still sounds runs on until its end or the beat.
+    // A released note that still sounds lasts until its end or the beat.
     if (areAllReleased() && (!isAnySounding() || clocks.onBeat)) {
         reset(sequence);
         return;

@@ -4,8 +4,7 @@
 
 namespace Backend::ArpeggioManagement::Arpeggios {
 
-// Plays the held notes one at a time, in an order by their numbers. What order, and how it walks through them, is the
-// business of its kinds.
+// Plays the held notes one at a time, ordered by number. Derived classes decide the order and how to walk through it.
 class SteppingArpeggio : public Arpeggio {
 public:
     void noteEvent(const MidiEngine::MirelMidiMessage& message, SequenceManagement::SequenceSetting& sequence) override;
@@ -13,13 +12,13 @@ public:
     void reset(SequenceManagement::SequenceSetting& sequence) override;
 
 protected:
-    // Whether a note with number d1 stands before one with number other.
+    // Whether a note with number d1 comes before one with number other.
     virtual bool isBefore(char d1, char other) const = 0;
 
     // Whether the same number may be held twice.
     virtual bool keepsSameNote() const { return false; }
 
-    // Moves the current note on by one step: here to the next note, and after the last one to the first and the
+    // Moves the current note on by one step: here to the next note, and from the last one to the first note and the
     // sequence's next node.
     virtual void advance(SequenceManagement::SequenceSetting& sequence);
 

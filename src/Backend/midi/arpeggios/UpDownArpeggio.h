@@ -4,8 +4,8 @@
 
 namespace Backend::ArpeggioManagement::Arpeggios {
 
-// Plays the held notes up and back down, one at a time; the notes at the ends once. With a sequence it runs through all
-// notes for each node, first up the nodes and then back.
+// Plays the held notes up and back down, one at a time; the notes at the ends once. With a sequence it plays all notes
+// for each node, first up the nodes and then back.
 class UpDownArpeggio : public SteppingArpeggio {
 public:
     static constexpr const char* TYPE_NAME = "UpDownArpeggio";

@@ -40,7 +40,7 @@ void MidiEngine::end() {
 std::int32_t MidiEngine::milliseconds2Ppq(double milliseconds, int tempo) {
     constexpr double LATEST = std::numeric_limits<std::int32_t>::max();
     const double ppq = std::floor(tempo / MILLISECONDS_PER_MINUTE * milliseconds * PPQ_PER_QUARTER + 0.5) + PPQ_OFFSET;
-    if (!(ppq > 0))  // Also what is no number.
+    if (!(ppq > 0))  // Also true for NaN.
         return 0;
     return static_cast<std::int32_t>(std::min(ppq, LATEST));
 }
@@ -98,19 +98,19 @@ void MidiEngine::postPlayMidi(const MirelMidiMessage& message) {
     if (isFull && !message.isMirelReset() && !message.isMirelHardReset())
         return;
     m_pendingMessages.add(message);
-    // So that the next slice allocates nothing, whether it plays all of these or none.
+    // The next slice then allocates nothing, whether it plays all of these or none.
     const std::size_t waiting = m_timedMessages.size() + m_pendingMessages.size();
     m_timedMessages.makeRoomFor(waiting);
     m_noteVelocities.makeRoomForMore(waiting);
 }
 
-// The backend may wait for the engine at this moment, so nobody waits for the backend here.
+// The backend may be waiting for the engine right now, so nobody waits for the backend here.
 void MidiEngine::postUpdateControl(const MirelMidiMessage& message) {
     if (!m_passingEvents)
         return;
     if (m_waitingUpdates.isEmpty() && m_passingEvents->postUpdateControl(message))
         return;
-    m_waitingUpdates.pushBack(message);  // What comes last is what a control shows in the end.
+    m_waitingUpdates.pushBack(message);  // The latest events are what a control shows in the end.
 }
 
 void MidiEngine::postWaitingUpdates() {
@@ -135,7 +135,7 @@ HWND MidiEngine::getGuiWindowHandle() const {
     return m_mirel.getGuiWindowHandle();
 }
 
-// One of the two ends of playMidi, and the one that every key takes.
+// One of the two ends of playMidi, and the one that every key goes through.
 [[gnu::always_inline]] inline void MidiEngine::playThroughLayers(const MirelMidiMessage& message) {
     if (message.isNoteOn()) {
         for (PlayingLayer* layer : m_audibleLayers)
@@ -161,7 +161,7 @@ void MidiEngine::playMidi(MirelMidiMessage& message) {
     if (message.isNoteOn())
         m_noteVelocities.store(message);
     else if (message.isNoteOff() && m_anyVelocityRange)
-        message.setD2(m_noteVelocities.find(message));  // So that it meets the layers that its Note On met.
+        message.setD2(m_noteVelocities.find(message));  // So that it reaches the layers that its Note On reached.
 
     if (message.isDefaultOutput() && message.isDefaultChannel())
         playThroughLayers(message);

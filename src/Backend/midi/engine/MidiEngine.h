@@ -38,56 +38,56 @@ class PassingEvents;
 
 // Takes events in, runs them through zones and layers in time slices, and hands the result to the host.
 //
-// The host's player thread calls playTimeSlice; everything musical happens in there, under the engine's one lock. All
-// others reach the engine through its message manager, whose thread takes the same lock for one request at a time. The
-// operations tagged [locked] are for code that runs under the lock.
+// The host's player thread calls playTimeSlice; everything musical happens there, under the engine's one lock. Everyone
+// else reaches the engine through its message manager, whose thread takes the same lock for one request at a time.
+// Operations tagged [locked] are for code that runs under the lock.
 class MidiEngine : public ArpeggioTarget {
 public:
-    // A slice of this many ppq or more plays nothing. It bounds what a stall or a jump of the tempo costs.
+    // A slice of this many ppq or more plays nothing. This bounds the cost of a stall or a jump of the tempo.
     static constexpr int MAX_TIME_SLICE = 5000;
 
-    // Events beyond this many that wait for their time are dropped; resets never are.
+    // Events beyond this many waiting ones are dropped; resets never are.
     static constexpr std::size_t MAX_PENDING_MESSAGES = 1 << 20;
 
-    // What the controls may have to hear of later, at most.
+    // The most events that wait to be passed on to the controls.
     static constexpr std::size_t MAX_WAITING_UPDATES = 1 << 13;
 
     // Both must outlive the engine.
     MidiEngine(MirelIF& mirel, MidiPlayer& midiPlayer);
 
-    // The thread must have been stopped by end().
+    // end() must have stopped the thread.
     ~MidiEngine() override;
 
     MidiEngine(const MidiEngine&) = delete;
     MidiEngine& operator=(const MidiEngine&) = delete;
 
-    // [host] Who is told of passing events, and must outlive the last slice. Before the first slice; until then nobody
-    // is told.
+    // [host] Sets the receiver of passing events, which must outlive the last slice. Call it before the first slice;
+    // without a receiver they are not reported.
     void setPassingEvents(PassingEvents& receiver) { m_passingEvents = &receiver; }
 
     // [backend] Starts the engine's thread.
     void initialize(int defaultOutput, bool midiThru);
 
-    // [backend] Stops it. A request that comes later waits for another start.
+    // [backend] Stops it. Later requests wait until it starts again.
     void end();
 
     // [player, rt] Plays what is due from one time up to, but not including, another, in ppq. A window that runs
-    // backwards plays a few ticks at both of its ends; one of 5000 ppq or more plays nothing.
+    // backwards plays a few ticks at each end; one of 5000 ppq or more plays nothing.
     void playTimeSlice(std::int32_t from, std::int32_t to);
 
-    // [any, rt] The ppq time of a host clock at a tempo in beats per minute. Far above 0, as negative times mean none;
-    // a clock so far off that its time fits no 32 bits, or is negative, gives the last time or 0.
+    // [any, rt] The ppq time of a host clock at a tempo in beats per minute. It is far above 0, because negative times
+    // mean none. Negative times give 0, and times beyond 32 bits the last possible one.
     static std::int32_t milliseconds2Ppq(double milliseconds, int tempo);
 
     MidiEngineMessageManager& getMessageManager() { return m_messageManager; }
     CriticalSection& getCriticalSection() { return m_criticalSection; }
 
-    // [locked] The output of events and layers that name none, -1 for none. Only the low byte is kept.
+    // [locked] The output for events and layers that name none; -1 for none. Only the low byte is kept.
     int getDefaultMidiOutput() const { return m_defaultMidiOutput; }
     char getDefaultMidiOutputByte() const { return m_defaultMidiOutput; }
     void setDefaultMidiOutput(int output);
 
-    // [locked] Whether events that came from a MIDI input reach the outputs.
+    // [locked] Whether events from MIDI inputs reach the outputs.
     void setMidiThru(bool midiThru) { m_midiThru = midiThru; }
 
     // [locked]
@@ -99,7 +99,7 @@ public:
         return m_enabledOutputs[static_cast<unsigned char>(output)];
     }
 
-    // [locked] Takes over a new set of layers or zones. What the old ones held is forgotten, so a reset goes before.
+    // [locked] Takes over a new set of layers or zones. What the old ones held is forgotten, so reset first.
     void setLayerList(const Layers::LayerList& layers);
     void setZoneMap(const Zones::ZoneMap& zones);
 
@@ -114,37 +114,36 @@ public:
     void setTempoSource(char input) { m_midiPlayer.setTempoSource(input); }
     char getTempoSource() { return m_midiPlayer.getTempoSource(); }
 
-    // [any, rt] Whether this is the thread that runs the time slices; true for all until the first slice.
+    // [any, rt] Whether this is the thread that runs the time slices; true on every thread until the first slice.
     bool isMidiPlayerThread() const;
 
     // [any; not locked] Ends all sounding notes and all playing arpeggios, and returns when that is done. It waits for
-    // the next time slice, during which the host is on its internal clock; before the first slice it acts at once.
+    // the next time slice, switching the host to its internal clock meanwhile; before the first slice it acts at once.
     void sendReset();
 
-    // [any; not locked] The same, and then silences the default output.
+    // [any; not locked] Like sendReset, and then silences the default output.
     void sendHardReset();
 
-    // [any, rt] Whether a reset waits for a slice at this moment, and how many threads are in a call that resets.
+    // [any, rt] Whether a reset is waiting for a slice, and how many threads are in a call that resets.
     bool isSliceAwaited() const { return m_isSliceAwaited; }
     int getResetCallers() const { return m_resetCallers; }
 
     // [locked] Queues an event for the next slice, and allocates what that slice may need for it.
     void postPlayMidi(const MirelMidiMessage& message);
 
-    // [locked, rt] Tells the controls of an event that passed. While the backend takes nothing more, that waits for a
-    // later slice; of more than MAX_WAITING_UPDATES the oldest are lost.
+    // [locked, rt] Reports an event that passed to the controls. While the backend can't take more, it waits for a
+    // later slice; beyond MAX_WAITING_UPDATES the oldest are lost.
     void postUpdateControl(const MirelMidiMessage& message);
 
     // [locked, rt] The last stage of every event: counts notes, hands the event to the host and shows it. With
     // stackNotes a Note Off is held back while its note was started more often than it ended.
     void playMidiInternal(const MirelMidiMessage& message, bool stackNotes) override;
 
-    // [locked, rt] The origin of the grid that all arpeggios keep to, in ppq; -1 while none plays. The first one sets
-    // it.
+    // [locked, rt] The origin of the grid that all arpeggios share, in ppq; -1 while none plays. The first one sets it.
     std::int32_t getStartTime() const override { return m_startTime; }
     void setStartTime(std::int32_t ppq) override;
 
-    // [locked, rt] Clears it if no arpeggio plays.
+    // [locked, rt] Clears the origin if no arpeggio plays.
     void updateStartTime() override;
 
     // [any] Null while there is no window.
@@ -160,13 +159,13 @@ private:
     void walk(std::int64_t first, std::int64_t last, std::int32_t earliest);
     void keepUnplayedMessages();
 
-    // Plays what is due at ppq, and returns when the next message is. One below earliest is not looked at.
+    // Plays what is due at ppq, and returns when the next message is due. Messages below earliest are ignored.
     std::int64_t playDueMessages(std::int32_t ppq, std::int32_t earliest);
     std::int64_t playDueMessages(MessageList& messages, std::int32_t ppq, std::int32_t earliest);
     bool isAnyArpeggioHolding() const;
     void playArpeggios(std::int32_t ppq);
 
-    // The way of one event, which it changes.
+    // One event through zones and layers; may change it.
     void playMidi(MirelMidiMessage& message);
     void playPastLayers(MirelMidiMessage& message);
     void playThroughLayers(const MirelMidiMessage& message);
@@ -186,20 +185,20 @@ private:
     CriticalSection m_criticalSection;
 
     std::vector<PlayingLayer> m_layers;
-    std::vector<PlayingLayer*> m_audibleLayers;   // Those that have solo, or with no solo those that are not muted.
-    std::vector<PlayingLayer*> m_arpeggioLayers;  // Those that have an arpeggio.
-    bool m_anyVelocityRange = false;              // In any of m_layers, muted ones too.
+    std::vector<PlayingLayer*> m_audibleLayers;   // Layers with solo or, without any solo, layers that are not muted.
+    std::vector<PlayingLayer*> m_arpeggioLayers;  // Layers with an arpeggio.
+    bool m_anyVelocityRange = false;              // In any of m_layers, including muted ones.
 
-    std::array<std::unique_ptr<PlayingZone>, 256> m_zones;  // By the byte of the id.
+    std::array<std::unique_ptr<PlayingZone>, 256> m_zones;  // By the id's byte.
 
     NoteCounters m_noteCounts;
     NoteVelocities m_noteVelocities;
 
-    // All oldest first. What is posted is pending until a slice takes it; what a slice could not play yet is timed, and
-    // stands before what is taken later.
+    // All oldest first. Posted messages are pending until a slice takes them; those that a slice could not play yet are
+    // timed, and come before those taken later.
     MessageList m_pendingMessages;
     MessageList m_takenMessages;
-    std::int32_t m_takenFrom = 0;  // None of those taken is due before.
+    std::int32_t m_takenFrom = 0;  // No taken message is due before this.
     MessageList m_timedMessages;
 
     MessageRing m_waitingUpdates{MAX_WAITING_UPDATES};

@@ -19,9 +19,9 @@ namespace Backend::MidiEngine {
 
 class MidiEngine;
 
-// The engine's front door. Requests are posted from any thread and carried out one at a time on the engine's own
-// thread, each under the engine's lock. A post never fails and loses nothing, but blocks its caller while the queue is
-// full or the thread has not started. Requests of one thread are carried out in the order in which it posted them.
+// The engine's front door. Any thread can post requests; they are carried out one at a time on the engine's own thread,
+// each under the engine's lock. A post never fails and loses nothing, but blocks while the queue is full or the thread
+// has not started. Requests from one thread are carried out in the order in which it posted them.
 class MidiEngineMessageManager {
 public:
     explicit MidiEngineMessageManager(MidiEngine& midiEngine);
@@ -35,14 +35,14 @@ public:
     // [backend]
     void start();
 
-    // [backend] Returns when the thread has ended. What was posted after this call is dropped; a post after the end
+    // [backend] Returns when the thread has ended. What is posted after this call is dropped; a post after the end
     // waits for another start.
     void stop();
 
     // [any] Queues an event for the next time slice, or for its own time if it has one.
     void postPlayMidi(const MirelMidiMessage& message);
 
-    // [any] The same for an event without a control and a time, which saves a look at them.
+    // [any] The same for an event known to have neither a control nor a time, which need not be checked.
     void postPlayMidiViaParam(const MirelMidiMessage& message);
 
     // [any] The ports, in the order of their indices.
@@ -56,14 +56,13 @@ public:
     // [any] -1 for none; only the low byte is kept.
     void postSetDefaultMidiOutput(int output);
 
-    // [any] Replaces all layers. All that sounds ends before, which takes until the next time slice.
+    // [any] Replaces all layers, after ending all sounding notes, which takes until the next time slice.
     void postSetLayerList(const Layers::LayerList& layers);
 
-    // [any] Replaces all zones. Keys that are down end on the notes that they were played as only if no zone moved
-    // them.
+    // [any] Replaces all zones. Keys that are down end the notes they started only if no zone had transposed them.
     void postSetZoneMap(const Zones::ZoneMap& zones);
 
-    // [any] Changes the transposition of one zone; notes that sound are not affected.
+    // [any] Changes the transposition of one zone; sounding notes are not affected.
     void postSetZone(const Zones::Zone& zone);
 
     // [any] Beats per minute, passed on to the host as it is.
@@ -75,7 +74,7 @@ public:
     // [any] Whether events from MIDI inputs reach the outputs.
     void postSetMidiThru(bool midiThru);
 
-    // [any; not under the engine's lock, not the player's thread] Straight to the engine, past the queue.
+    // [any; not under the engine's lock, not the player's thread] Straight to the engine, bypassing the queue.
     void sendReset();
     void sendHardReset();
 
@@ -85,10 +84,10 @@ public:
     // [any other thread] Returns when all requests posted so far have been carried out.
     void waitUntilIdle() { m_thread.waitUntilIdle(); }
 
-    // [any] Whether there is nothing to do at this moment.
+    // [any] Whether there is nothing to do at the moment.
     bool isIdle() const { return m_thread.isIdle(); }
 
-    // [engine] Carries one request out. Numbers that are none of its requests are ignored.
+    // [engine] Carries out one request. Unknown numbers are ignored.
     void handleMessage(const MSG& message);
 
 private:

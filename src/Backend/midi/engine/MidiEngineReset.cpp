@@ -50,7 +50,7 @@ void MidiEngine::sendResetOfKind(ResetKind kind) {
             return;
         }
     }
-    // A silent external clock would stop the slices, and with them this.
+    // A silent external clock would produce no slices, and this would wait endlessly.
     const char tempoSource = getTempoSource();
     setTempoSource(INTERNAL_CLOCK);
     if (kind == ResetKind::HARD) {

@@ -8,7 +8,7 @@ namespace Backend::MidiEngine {
 
 namespace {
 
-// How many ticks a window that runs backwards plays at each of its ends.
+// How many ticks a backward window plays at each of its ends.
 constexpr std::int64_t TICKS_AROUND_A_STEP_BACK = 10;
 
 constexpr std::int64_t NEVER = std::numeric_limits<std::int64_t>::max();
@@ -32,7 +32,7 @@ void MidiEngine::playTimeSlice(std::int32_t from, std::int32_t to) {
 }
 
 void MidiEngine::drainPendingMessages(std::int32_t to) {
-    // A time below zero, from a window that ended there, is none.
+    // A time below zero, from a window that ended there, counts as none.
     for (MirelMidiMessage& message : m_timedMessages)
         if (message.getPpq() < 0)
             message.setPpq(to);
@@ -49,7 +49,7 @@ void MidiEngine::drainPendingMessages(std::int32_t to) {
     if (anyRequest)
         carryOutResets();
 
-    // This request is not in the queue, as its sender does not take the lock; it stands behind all that is.
+    // This request is not in the queue, because its sender does not take the lock; it comes after everything in there.
     if (m_hardResetRequested.load(std::memory_order_acquire) && m_hardResetRequested.exchange(false)) {
         hardReset();
         m_isSliceAwaited = false;
@@ -84,7 +84,7 @@ void MidiEngine::keepUnplayedMessages() {
     m_takenMessages.truncate(m_takenMessages.begin());
 }
 
-// Ticks at which neither a message is due nor an arpeggio holds notes are passed over; nothing can happen in them.
+// Skips ticks at which no message is due and no arpeggio holds notes; nothing can happen in them.
 void MidiEngine::walk(std::int64_t first, std::int64_t last, std::int32_t earliest) {
     std::int64_t ppq = std::max<std::int64_t>(first, 0);  // Nothing plays at negative times.
     last = std::min<std::int64_t>(last, std::int64_t{std::numeric_limits<std::int32_t>::max()} + 1);

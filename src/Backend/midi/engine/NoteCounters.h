@@ -8,15 +8,15 @@
 
 namespace Backend::MidiEngine {
 
-// How often each note sounds on each output and channel. A flat table, so that counting does not search. All of it is
-// [locked, rt].
+// How many times each note sounds on each output and channel. A flat table, so that counting needs no search. All of it
+// is [locked, rt].
 class NoteCounters {
 public:
     static constexpr std::size_t OUTPUTS = 128;
     static constexpr std::size_t CHANNELS = 16;
     static constexpr std::size_t NOTES = 128;
 
-    // The counter of a note event; null if its output, channel or note lies outside the table.
+    // The counter of a note event; null if its output, channel or note is outside the table.
     std::int32_t* find(const MirelMidiMessage& message) {
         const std::size_t output = static_cast<unsigned char>(message.getOutput());
         const std::size_t channel = static_cast<unsigned char>(message.getChannel());
@@ -26,7 +26,7 @@ public:
         return &m_counts[(output * CHANNELS + channel) * NOTES + note];
     }
 
-    // Takes each note that sounds off the table and gives it to ended(output, channel, note), in that order.
+    // Removes each sounding note from the table and passes it to ended(output, channel, note), in that order.
     template <typename Ended>
     void takeAll(Ended ended) {
         for (std::size_t index = 0; index < m_counts.size(); ++index) {

@@ -7,8 +7,8 @@
 
 namespace Backend::MidiEngine {
 
-// The velocity of the last Note On of each note, told apart by input, channel, zone and number. Entries stay until the
-// table is cleared. It stands in the way of every note, and so is a flat table with open addressing.
+// The velocity of the last Note On of each note, by input, channel, zone and number. Entries stay until the table is
+// cleared. Every note goes through it, so it is a flat table with open addressing.
 class NoteVelocities {
 public:
     NoteVelocities() : m_entries(USUAL_CAPACITY) {}
@@ -34,7 +34,7 @@ public:
     // [locked, rt]
     void clear();
 
-    // [locked] Allocates, so that this many notes more can be stored without.
+    // [locked] Allocates, so that this many more notes can be stored without allocating.
     void makeRoomForMore(std::size_t count) {
         while (isCrowdedBy(m_used + count))
             grow();
@@ -48,9 +48,9 @@ private:
         char velocity = 0;
     };
 
-    static constexpr std::size_t USUAL_CAPACITY = 4096;  // A power of two, as all capacities.
+    static constexpr std::size_t USUAL_CAPACITY = 4096;  // A power of two, like all capacities.
 
-    // The default channel shares its entries with channel 0, as its events carry this number.
+    // The default channel shares its entries with channel 0, because its events carry that number.
     static std::uint32_t keyOf(const MirelMidiMessage& message) {
         return std::uint32_t{static_cast<unsigned char>(message.getInput())} << 24 |
                std::uint32_t{static_cast<unsigned char>(message.getZone())} << 16 |
@@ -58,7 +58,7 @@ private:
                std::uint32_t{static_cast<unsigned char>(message.getD1())};
     }
 
-    // Where the entry of a key is, or would go.
+    // Where a key's entry is, or would go.
     std::size_t placeOf(std::uint32_t key) const {
         std::size_t place = (key * std::uint64_t{0x9E3779B97F4A7C15} >> 32) & m_mask;
         while (m_entries[place].generation == m_generation && m_entries[place].key != key)

@@ -12,10 +12,11 @@ namespace Backend::MidiEngine {
 
 class MidiEngine;
 
-// A layer in the engine: its rule with what it holds while it plays. All but making it is [player, rt, locked].
+// A layer in the engine: its rule, and the notes it holds while playing. Everything except the construction is [player,
+// rt, locked].
 class PlayingLayer {
 public:
-    // [locked] Copies the layer deeply and lets its arpeggio play through the engine.
+    // [locked] Copies the layer deeply and connects its arpeggio to the engine.
     PlayingLayer(const Layers::Layer& layer, MidiEngine& engine);
 
     PlayingLayer(PlayingLayer&&) = default;
@@ -23,12 +24,12 @@ public:
     const Layers::Layer& getLayer() const { return m_layer; }
     ArpeggioManagement::Arpeggio* getArpeggio() const { return m_layer.arpeggio.get(); }
 
-    // An event whose output and channel are both the default. targets is what this event was sent to so far.
+    // An event whose output and channel are both the default. targets: where this event has been sent so far.
     void noteOn(const MirelMidiMessage& message);
     void noteOff(const MirelMidiMessage& message);
     void otherEvent(const MirelMidiMessage& message, TargetSet& targets);
 
-    // One ppq for its arpeggio, which it must have.
+    // One ppq for its arpeggio, which must exist.
     void timeEvent(std::int32_t ppq) { m_layer.arpeggio->timeEvent(ppq, m_layer.sequenceSetting); }
 
     // Ends its arpeggio and forgets held and toggled notes.
@@ -42,8 +43,8 @@ private:
     void startToggledNote(const MirelMidiMessage& message);
     void startMonoNote(const MirelMidiMessage& message);
 
-    // The Note Off of the note that a mono layer gives up for a new one. Without an arpeggio it is to be sent after the
-    // new note, for a legato join; with one it has been sent.
+    // The Note Off for the note that a mono layer gives up for a new one. Without an arpeggio the caller sends it after
+    // the new note, for a legato join; with one it has already been sent.
     [[nodiscard]] std::optional<MirelMidiMessage> endPreviousMonoNote(const MirelMidiMessage& message,
                                                                       HeldNotes::HeldNote previous);
 
@@ -52,7 +53,7 @@ private:
     // Sends a note by the layer's rule, or gives it to the arpeggio.
     void playNote(const MirelMidiMessage& message);
 
-    // Sets output and channel by the layer's rule. False if the output can't be played on.
+    // Sets output and channel by the layer's rule. False if the output can't be used.
     bool route(MirelMidiMessage& message) const;
 
     bool isToggled(char note) const { return m_noteToggles[static_cast<unsigned char>(note)]; }
@@ -60,10 +61,10 @@ private:
 
     MidiEngine& m_engine;
     Layers::Layer m_layer;
-    char m_channel;  // What the layer sends on; with m_isDefaultChannel the default channel.
+    char m_channel;  // The channel the layer sends on; with m_isDefaultChannel the default one.
     bool m_isDefaultChannel;
-    std::array<char, 128> m_sentNotes;       // What the rule makes of each note,
-    std::array<char, 256> m_sentVelocities;  // and of each byte of a velocity.
+    std::array<char, 128> m_sentNotes;       // What the rule turns each note into,
+    std::array<char, 256> m_sentVelocities;  // and each byte of a velocity.
     HeldNotes m_heldNotes;                   // Of a mono layer.
     std::bitset<256> m_noteToggles;
 };

@@ -23,7 +23,7 @@ constexpr std::array<std::array<int, DEGREES>, DEGREES> SEMITONES = {{
     {12, 12, 12, 12, 12, 12, 12},
 }};
 
-// steps is 1 or more.
+// steps is at least 1.
 int semitones(int steps, int degree) {
     const int octaves = (steps - 1) / DEGREES;
     const int row = (steps - 1) % DEGREES;
@@ -38,7 +38,7 @@ std::int32_t transposeDiatonic(std::int32_t note, std::int32_t key, signed char 
     const int degree = DEGREE_OF_SEMITONE[static_cast<std::size_t>((note - key + OCTAVE) % OCTAVE)];
     if (amount > 0)
         return note + semitones(amount, degree);
-    // Going down a degree spans what going up from its mirror image does.
+    // Going down from a degree spans as much as going up from its mirror image.
     const int mirrored = (9 - degree) % DEGREES;
     return note - semitones(-amount, mirrored);
 }

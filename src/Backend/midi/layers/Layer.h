@@ -50,19 +50,19 @@ struct Layer {
         };
     }
 
-    // From its element. An attribute that is missing or can't be read takes the default below.
+    // Reads its element. A missing or unreadable attribute takes the default below.
     Layer(const XmlElement& element, const SequenceManagement::SequencePresetManager& presets);
 
-    // The element on lines of its own, indent tabs deep.
+    // Writes the element on its own lines, indented by this many tabs.
     void writeXml(std::ostream& stream, int indent) const;
 
     // One line of text for lists, in which outputName stands for the layer's output.
     std::string describe(const std::string& outputName) const;
 
-    // Whether the layer lets events of a zone pass; -1 is none, for either.
+    // Whether the layer accepts events of a zone; -1 means none, for either.
     bool acceptsZone(char eventZone) const { return zone < 0 || eventZone < 0 || zone == eventZone; }
 
-    // Whether it takes a note of this zone.
+    // Whether it accepts a note of this zone.
     bool acceptsNote(char note, char noteVelocity, char eventZone) const {
         return note >= minNote.getNumber() && note <= maxNote.getNumber() && noteVelocity >= minVelocity &&
                noteVelocity <= maxVelocity && acceptsZone(eventZone);
@@ -84,7 +84,7 @@ struct Layer {
     char output = -1;  // -1: the default output.
     char channel = 0;  // Negative: the default channel.
     RelativeFixedValue transpose;
-    Note key;  // Of diatonic transposition; no note: chromatic.
+    Note key;  // For diatonic transposition; no note: chromatic.
     RelativeFixedValue velocity;
     Fraction compress;
     NoteToggle toggle;
@@ -92,7 +92,7 @@ struct Layer {
     SequenceManagement::SequenceSetting sequenceSetting;
 
 private:
-    // Text without a number leaves the note or velocity as it is.
+    // Text without a number leaves the note or velocity unchanged.
     static RelativeFixedValue readChange(const std::string& text);
 };
 

@@ -10,7 +10,7 @@ namespace Backend::Layers {
 
 namespace {
 
-// More come from a file only by mistake; each takes room in the engine.
+// A file has more only by mistake; each takes room in the engine.
 constexpr std::size_t MAX_LAYERS = 1 << 16;
 
 }

@@ -10,15 +10,15 @@
 
 namespace Backend::Layers {
 
-// The layers of a program, in the order in which events pass them. A layer's id is its place in the list.
+// The layers of a program, in the order in which events reach them. A layer's id is its place in the list.
 class LayerList : public Component::ElementCollection<LayerId, Layer> {
 public:
     static constexpr const char* TAG = "Layers";
 
-    // What a desk starts with: one layer that lets everything pass.
+    // A desk's initial list: one layer that passes everything.
     static const char* const DEFAULT_XML;
 
-    // Null if the id is no place in the list.
+    // Null if the id is not a place in the list.
     Layer* find(const LayerId& id) override;
 
     std::unique_ptr<Component::IteratorIF<Layer>> createIterator() override;
@@ -31,14 +31,15 @@ public:
 
     void clear() { m_layers.clear(); }
 
-    // Appends a layer and gives it the id of its place.
+    // Appends a layer and sets its id to its place.
     void add(Layer layer);
 
-    // Reads the layers of an element, whose merge says if they are appended or replace the list; at most 65536 in all.
+    // Reads the layers of an element, whose merge attribute says whether they are appended or replace the list; at most
+    // 65536 in all.
     void readXml(const XmlElement& element, const SequenceManagement::SequencePresetManager& presets);
 
-    // The element on lines of its own, indent tabs deep: all layers to replace others, or the selected ones to be
-    // merged.
+    // Writes the element on its own lines, indented by this many tabs: all layers to replace others, or the selected
+    // ones to be merged.
     void writeXml(std::ostream& stream, int indent, const std::vector<LayerId>& selected) const;
 
 private:

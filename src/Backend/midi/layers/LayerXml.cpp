@@ -8,7 +8,7 @@ namespace Backend::Layers {
 
 namespace {
 
-// The first kind that is known counts.
+// The first known kind counts.
 std::unique_ptr<ArpeggioManagement::Arpeggio> readArpeggio(const XmlElement& element) {
     for (auto child = element.begin(); child != element.end(); child.next()) {
         auto arpeggio = ArpeggioManagement::createArpeggio(child.getName());

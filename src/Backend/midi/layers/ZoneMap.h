@@ -14,7 +14,7 @@ class XmlElement;
 
 namespace Backend::Zones {
 
-// The attributes of the element. The flag is written and never read.
+// The attributes of the element. The flag is written but never read.
 struct ZonesElement {
     static auto attributes() { return std::tuple(Attribute{"merge", &ZonesElement::merge, false, {0, 0}}); }
 
@@ -42,7 +42,7 @@ public:
 
     void clear() { m_zones.clear(); }
 
-    // Removes the zones of which this is true.
+    // Removes the zones for which this is true.
     template <class Condition>
     void removeIf(Condition condition) {
         std::erase_if(m_zones, [&condition](const auto& entry) { return condition(entry.second); });
@@ -51,14 +51,14 @@ public:
     // All zones in the order of their numbers.
     std::vector<Zone*> inOrder();
 
-    // Reads transpositions. A zone that the element does not name gets 0, one that is new gets no note range, and the
+    // Reads transpositions. A zone that the element does not mention gets 0, a new one gets no note range, and the
     // lowest zone is selected afterwards.
     void readXml(const XmlElement& element);
 
-    // The element on lines of its own, indent tabs deep, with the zones in the order of their numbers.
+    // Writes the element on its own lines, indented by this many tabs, with the zones in the order of their numbers.
     void writeXml(std::ostream& stream, int indent, bool merge) const;
 
-    // Selects the zone with the lowest number and no other.
+    // Selects only the zone with the lowest number.
     void selectLowest();
 
 private:

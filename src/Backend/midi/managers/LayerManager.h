@@ -20,11 +20,11 @@ class XmlElement;
 
 namespace Backend::Layers {
 
-// The layers of the current program. Every change reaches the engine as a whole new list, before which all that sounds
-// ends, and the window. [backend]
+// The layers of the current program. Every change is reported to the window and sent to the engine as a whole new list,
+// before which all sounding notes are ended. [backend]
 class LayerManager {
 public:
-    // The folder of its preset files below the one for the desk's data.
+    // The folder of its preset files, inside the desk's data folder.
     static constexpr const char* PRESET_FOLDER = "Layer Presets";
 
     LayerManager(MirelIF& mirel, MessageManagerMaster& master,
@@ -37,40 +37,40 @@ public:
     const LayerList& getLayerList() const { return m_layers; }
     const PresetFolder& getPresets() const { return m_presets; }
 
-    // The built-in list, whose one layer takes what the settings hold for it.
+    // Loads the built-in list, whose one layer takes the values in the settings.
     void loadDefaultLayers();
 
-    // From a Layers element; with its attribute merge the layers are added.
+    // Reads a Layers element; if its merge attribute is set, the layers are added.
     void readXml(const XmlElement& element);
 
-    // As a Layers element, indent tabs deep: all layers, or the selected ones to be merged.
+    // Writes a Layers element, indented by this many tabs: all layers, or the selected ones to be merged.
     void writeXml(std::ostream& stream, int indent, const std::vector<LayerId>& selected) const;
 
     // Removes all layers.
     void clear();
 
-    // A preset that has no file changes nothing.
+    // A preset without a file changes nothing.
     void loadPreset(const std::string& name);
     void savePreset(const std::string& name, const std::vector<LayerId>& selected);
     void renamePreset(const std::string& oldName, const std::string& newName);
     void deletePreset(const std::string& name);
 
-    // Stores each layer at the place of its id, for which the list grows if need be.
+    // Stores each layer at the place given by its id, growing the list if necessary.
     void updateLayers(const std::vector<Layer>& layers, bool notifyGui);
     void setLayerList(const LayerList& layers, bool notifyGui);
 
-    // Selects just these layers.
+    // Selects only these layers.
     void selectLayers(const std::vector<LayerId>& ids);
 
-    // Settings of the first layer; without one nothing happens.
+    // Set a value of the first layer; do nothing if there is none.
     void setFirstVelocity(int velocity);
     void setFirstChannel(int channel);
     void setFirstUseNoteStack(bool useNoteStack);
 
-    // Selects one layer alone: the next or previous one, or one by its number. Without such a layer nothing happens.
+    // Selects a single layer: the next or previous one, or one by its number. Does nothing without such a layer.
     void dataSelectLayer(const SelectType& type);
 
-    // These act on the layer of a number, the selected ones or all; next and previous pick none.
+    // These act on the layer with a number, the selected ones or all; next and previous pick none.
     void changeLayerTranspose(const SelectType& type, const RelativeFixedValue& value);
     void changeLayerVelocity(const SelectType& type, const RelativeFixedValue& value);
     void changeLayerMute(const SelectType& type, const OnOffToggle& value);
@@ -80,7 +80,7 @@ public:
 
 private:
     void sendPresetNames();
-    // A list that grows to more than this by an id alone is a mistake.
+    // An id that would make the list grow beyond this is a mistake.
     static constexpr std::int32_t MAX_LAYERS = 1 << 16;
 
     void sendToEngine();

@@ -12,8 +12,8 @@ struct Layer;
 class LayerList;
 class LayerManager;
 
-// The way of other threads to the layers. Each post is carried out on the backend thread by the operation of
-// LayerManager of like name. The poster's objects are copied.
+// How other threads reach the layers. The operation of LayerManager with the same name carries out each post on the
+// backend thread. The poster's objects are copied.
 class LayerMessageManager : public MessageManager {
 public:
     LayerMessageManager(MessageManagerMaster& master, LayerManager& layers);

@@ -28,27 +28,28 @@ public:
     ZoneMessageManager& getMessageManager() { return m_messageManager; }
     const ZoneMap& getZoneMap() const { return m_zones; }
 
-    // From and to a Zones element.
+    // Reads and writes a Zones element.
     void readXml(const XmlElement& element);
     void writeXml(std::ostream& stream, int indent) const;
 
     // Removes all zones.
     void clear();
 
-    // Sets the transposition of one zone, in half-steps. A zone that isn't there is ignored.
+    // Sets the transposition of one zone, in half-steps. A missing zone is ignored.
     void setTranspose(ZoneId id, char transpose);
 
-    // Selects one zone alone: the next or previous one that exists, or one by its number; a number without a zone
-    // selects none.
+    // Selects a single zone: the next or previous existing one, or one by its number; a number without a zone selects
+    // none.
     void selectZone(const SelectType& type);
 
-    // Selects just these zones.
+    // Selects only these zones.
     void selectZones(const std::vector<ZoneId>& ids);
 
-    // Changes all zones, the one of a number, or else the selected one.
+    // Changes all zones, the one with a number, or otherwise the selected one.
     void changeZoneTranspose(const SelectType& type, const RelativeFixedValue& value);
 
-    // Makes the zones those that keys play in, with the ranges of these keys. Zones that stay keep their transposition.
+    // Updates the zones to those that keys play in, with the ranges of these keys. Zones that remain keep their
+    // transposition.
     void updateZonesFromKeys();
 
 private:

@@ -11,8 +11,8 @@ namespace Backend::Zones {
 
 class ZoneManager;
 
-// The way of other threads to the zones. Each post is carried out on the backend thread by the operation of ZoneManager
-// of like name.
+// How other threads reach the zones. The operation of ZoneManager with the same name carries out each post on the
+// backend thread.
 class ZoneMessageManager : public MessageManager {
 public:
     ZoneMessageManager(MessageManagerMaster& master, ZoneManager& zones);

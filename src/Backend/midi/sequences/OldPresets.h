@@ -4,8 +4,8 @@
 
 namespace Backend::SequenceManagement {
 
-// [backend] The sequence of an old preset by its number there; a number that had none gives no preset. Mode 1 lets only
-// velocity offsets count, mode 2 both, any other only note offsets.
+// [backend] The sequence of an old preset by its number there; an unused number gives no preset. In mode 1 only
+// velocity offsets count, in mode 2 both, otherwise only note offsets.
 SequenceSetting importSequenceSetting(int number, int mode, const SequencePresetManager& presets);
 
 }

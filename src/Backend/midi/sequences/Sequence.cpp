@@ -8,7 +8,7 @@ namespace {
 
 constexpr int MAX_PARTS = 3;
 
-// Takes the text up to the next separator from the front of rest, and the separator with it.
+// Removes the text up to the next separator, and the separator, from the front of rest.
 std::string_view takePiece(std::string_view& rest, char separator) {
     const auto end = rest.find(separator);
     const auto piece = rest.substr(0, end);
@@ -30,7 +30,7 @@ void applyPart(std::string_view part, SequenceItem& item) {
     }
 }
 
-// An empty text is one empty part, and so a rest.
+// An empty text is one empty part, and therefore a rest.
 SequenceItem parseItem(std::string_view text) {
     SequenceItem item;
     int parts = 0;

@@ -9,8 +9,8 @@ class ArpeggioTarget;
 
 namespace Backend::SequenceManagement {
 
-// [player, rt] Sends a note once for each item of the sequence's present node, moved by the item's offsets. Rests,
-// events that are no notes, and a position without a node send nothing.
+// [player, rt] Sends a note once for each item of the sequence's current node, changed by the item's offsets. Sends
+// nothing for rests, for events that are not notes, and for a position without a node.
 void playThroughSequence(MidiEngine::ArpeggioTarget& engine, const MidiEngine::MirelMidiMessage& note,
                          const SequenceSetting& setting);
 

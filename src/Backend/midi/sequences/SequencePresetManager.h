@@ -10,29 +10,29 @@ namespace Backend::SequenceManagement {
 // Names of sequence presets, sorted.
 using SequencePresetList = std::vector<std::string>;
 
-// Keeps the list of sequence presets and their files, one a preset. [backend; load and getSequencePresetList also by
-// threads that have an object of their own]
+// Keeps the list of sequence presets and their files, one per preset. [backend; load and getSequencePresetList also on
+// threads with an object of their own]
 class SequencePresetManager {
 public:
-    // The folder of the desk's files below the one for its data.
+    // The folder of the desk's files, inside the desk's data folder.
     static constexpr const char* FOLDER = "Sequences";
 
     static constexpr const char* EXTENSION = ".seq";
 
-    // The folder that holds the files; its list is read at once. A folder that is missing holds none, and one without a
-    // name neither holds nor takes any.
+    // Reads the list of the folder with the files at once. A missing folder contains none; without a folder name there
+    // are no presets, and none can be added.
     explicit SequencePresetManager(std::string folder);
 
     const SequencePresetList& getSequencePresetList() const { return m_names; }
 
-    // The sequence of a preset's file; empty if the file can't be read.
+    // The sequence in a preset's file; empty if the file can't be read.
     Sequence load(const std::string& name) const;
 
-    // Writes a preset from the text form of a sequence, over one of the same name. A name that is empty or could lead
-    // out of the folder, and a file that can't be written, change nothing.
+    // Writes a preset from the text form of a sequence, replacing one of the same name. Does nothing if the name is
+    // empty or could lead out of the folder, or if the file can't be written.
     void addSequencePreset(const std::string& name, const std::string& text);
 
-    // Removes a preset of the list with its file.
+    // Removes a preset of the list, and its file.
     void deleteSequencePreset(const std::string& name);
 
     // Renames a preset of the list, unless newName is taken or unusable.

@@ -4,7 +4,7 @@
 
 namespace Backend::SequenceManagement {
 
-// The sequence presets that come with the desk. Old presets refer to them by their place here.
+// The sequence presets that come with the desk. Old presets refer to them by their place in this list.
 inline constexpr std::array<const char*, 89> SEQUENCE_PRESET_NAMES = {
     "001 - Oct 1 Up",
     "002 - Oct 2 Up",

@@ -10,7 +10,7 @@ namespace Backend::SequenceManagement {
 
 class SequencePresetManager;
 
-// The sequence of a layer: a preset by its name or the layer's own, and which of its offsets count.
+// The sequence of a layer: a preset by name or the layer's own, and which of its offsets count.
 class SequenceSetting {
 public:
     static constexpr const char* TAG = "SequenceSetting";
@@ -26,14 +26,14 @@ public:
 
     SequenceSetting() = default;
 
-    // A preset by name, read from its file. An empty name or "Off" gives no sequence; a file that can't be read leaves
-    // the sequence empty.
+    // A preset by name, read from its file. An empty name or "Off" gives no sequence; an unreadable file leaves the
+    // sequence empty.
     SequenceSetting(const std::string& presetName, const SequencePresetManager& presets);
 
-    // From its element. A preset's name wins over a sequence in the element.
+    // Reads its element. A preset's name overrides a sequence in the element.
     SequenceSetting(const XmlElement& element, const SequencePresetManager& presets);
 
-    // The element on lines of its own, indent tabs deep.
+    // Writes the element on its own lines, indented by this many tabs.
     void writeXml(std::ostream& stream, int indent) const;
 
     const std::string& getPreset() const { return m_preset; }
@@ -46,7 +46,7 @@ public:
     bool getUseVelocity() const { return m_useVelocity; }
     void setUseVelocity(bool useVelocity) { m_useVelocity = useVelocity; }
 
-    // Saved and restored; playing does not use it.
+    // Saved and restored; playing ignores it.
     bool getUseLength() const { return m_useLength; }
     void setUseLength(bool useLength) { m_useLength = useLength; }
 

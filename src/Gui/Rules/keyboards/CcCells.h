@@ -1,4 +1,4 @@
-// The grid of controllers and other events: which event each cell stands for, and where it lies, in pixels of the
+// The grid of controllers and other events: which event each cell stands for, and where the cell is, in pixels of the
 // grid's client area.
 #pragma once
 
@@ -13,7 +13,7 @@ inline constexpr int CELLS = 144;
 inline constexpr int WIDTH = 546;
 inline constexpr int HEIGHT = 112;
 
-// What a cell stands for: its status, without a channel, and for a controller its number in data1, else 0.
+// The event of a cell: its status without a channel and, for a controller, its number in data1, otherwise 0.
 struct Event {
     int status;
     int data1;
@@ -21,12 +21,12 @@ struct Event {
     bool operator==(const Event&) const = default;
 };
 
-// All three of a cell from 0 to 143; the first 128 are the controllers.
+// For a cell from 0 to 143; the first 128 are the controllers.
 Rect getRect(int cell);
 std::string getLabel(int cell);
 Event getEvent(int cell);
 
-// The cell of an event, whatever its channel. Nothing for notes and for what is no event, or no controller.
+// The cell of an event, whatever its channel. Nothing for notes and for anything that is not an event or a controller.
 std::optional<int> findEvent(int status, int data1);
 
 // The cell at a point, or nothing between the cells.

@@ -129,13 +129,13 @@ struct LabelRow {
     std::string_view label;
 };
 
-// In place of the key's own label.
+// Replaces the key's own label.
 constexpr LabelRow LABELS[] = {
     {20, "CAP"}, {16, "SHIFT"}, {8, "<-"}, {107, "+"}, {109, "-"}, {111, "/"},
     {110, "."},  {220, "\\"},   {38, "5"}, {37, "3"},  {40, "6"},  {39, "4"},
 };
 
-// Escape, the modifiers, and what would need more room than a key has.
+// Escape, the modifiers, and keys whose label would need more room than they have.
 constexpr std::int32_t BLANK[] = {27, 17, 225, 164, 165, 92, 91, 144, 226, 145, 5,
                                   19, 45, 36,  34,  33,  13, 1,  93,  46,  35};
 

@@ -1,4 +1,4 @@
-// Where the keys of the computer keyboard's picture lie, in pixels of its client area.
+// Where the keys are in the picture of the computer keyboard, in pixels of its client area.
 #pragma once
 
 #include "Backend/core/settings/Rect.h"
@@ -24,16 +24,16 @@ struct KeyPlace {
 
 inline constexpr std::size_t KEYS = 104;
 
-// All keys, row by row from the top left. Their order is that of ranges.
+// All keys, row by row from the top left. Ranges follow this order.
 const std::array<KeyPlace, KEYS>& getPlaces();
 
-// The key at a point, as its place in the table; nothing beside the keys.
+// The key at a point, as its place in the table; nothing outside the keys.
 std::optional<std::size_t> findKey(int x, int y);
 
 // The place of a key in the table by its code; nothing for a code that isn't in the picture.
 std::optional<std::size_t> findCode(std::int32_t code);
 
-// What is written on the key: a short word, a sign of the font for symbols on the arrows, or nothing.
+// The text on the key: a short word, a sign of the symbol font on the arrows, or nothing.
 std::string getLabel(std::int32_t code);
 
 enum class LabelFont { TEXT, FUNCTION_KEY, SYMBOL };

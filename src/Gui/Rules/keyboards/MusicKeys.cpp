@@ -55,7 +55,7 @@ bool isBlackNeighbour(int note) {
     return note >= 0 && note < KEYS && rowOf(note).isBlack;
 }
 
-// The whole of a key, with the parts of a white one that lie under black ones.
+// A whole key, including the parts of a white one that lie under black ones.
 Rect wholeOf(int note, const Widths& widths) {
     const KeyRow& row = rowOf(note);
     const int left = note / NOTES_OF_OCTAVE * OCTAVE_WIDTH + row.left;

@@ -1,4 +1,4 @@
-// Where the 128 keys of the music keyboard lie, in pixels of its client area.
+// Where the 128 keys of the music keyboard are, in pixels of its client area.
 #pragma once
 
 #include "Backend/core/settings/Rect.h"
@@ -21,23 +21,23 @@ struct Shape {
     bool operator==(const Shape&) const = default;
 };
 
-// Of a note number, 0 to 127; another counts as the nearest.
+// For a note number, 0 to 127; any other counts as the nearest.
 bool isBlack(int note);
 
-// What is painted. It leaves free a pixel beside the next white key.
+// The painted part. It leaves a pixel free beside the next white key.
 Shape getPaintShape(int note);
 
-// What belongs to the key under the mouse, that pixel included.
+// What belongs to the key under the mouse, including that pixel.
 Shape getHitShape(int note);
 
-// The smallest rectangle around what is painted.
+// The smallest rectangle around the painted part.
 Rect getBox(int note);
 
-// The key at a point, or nothing beside the keys.
+// The key at a point, or nothing outside the keys.
 std::optional<int> findKey(int x, int y);
 
 // From the left of one key's box to the right of another's, between two heights: the bar of a layer or zone under the
-// keyboard. Its right lies left of its left if the notes stand in the wrong order.
+// keyboard. If the notes are in the wrong order, its right is left of its left.
 Rect getRangeBar(int lowNote, int highNote, int top, int bottom);
 
 }

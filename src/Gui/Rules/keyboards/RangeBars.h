@@ -1,5 +1,5 @@
-// Where the bars of layers and zones lie under the music keyboard, in pixels of the control that shows them. keyboardX
-// is where the keyboard's own left edge lies in there.
+// Where the bars of layers and zones are under the music keyboard, in pixels of the control that shows them. keyboardX
+// is the position of the keyboard's left edge in that control.
 #pragma once
 
 #include "Backend/core/settings/Rect.h"
@@ -11,7 +11,7 @@
 
 namespace Gui {
 
-// The notes of a bar. What is no note counts as the highest one.
+// The notes of a bar. Anything that is not a note counts as the highest one.
 struct BarRange {
     Backend::Note low;
     Backend::Note high;
@@ -22,13 +22,13 @@ namespace LayerBars {
 
 inline constexpr int BOX_WIDTH = 15;  // Of the "M" or "S" at the left.
 
-// All rows together; 0 without any.
+// The height of all rows together; 0 if there are none.
 int getHeight(int rows);
 
 Rect getBox(int row);
 Rect getBar(int row, const BarRange& range, int keyboardX);
 
-// What lies at a point. Where a bar reaches under a box, the box is hit.
+// What is at a point. Where a bar reaches under a box, the box is hit.
 struct Hit {
     int row;
     bool isBox;
@@ -45,10 +45,10 @@ namespace ZoneBars {
 int getHeight(int rows);
 Rect getBar(int row, const BarRange& range, int keyboardX);
 
-// The row whose bar lies at a point.
+// The row whose bar is at a point.
 std::optional<int> find(const std::vector<BarRange>& rows, int keyboardX, int x, int y);
 
-// The row at this height, beside its bar too.
+// The row at this height, even beside its bar.
 std::optional<int> findAtHeight(int rows, int y);
 
 }

@@ -4,7 +4,7 @@
 
 namespace Gui {
 
-// [any] Whether a pixel lies in a rectangle.
+// [any] Whether a pixel is inside a rectangle.
 constexpr bool contains(const Rect& rect, int x, int y) {
     return x >= rect.left && x < rect.right && y >= rect.top && y < rect.bottom;
 }

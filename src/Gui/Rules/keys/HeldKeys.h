@@ -8,12 +8,12 @@
 
 namespace Gui {
 
-// The keys that went down and have not come up. A window that loses the keyboard never hears of their end, and so tells
-// it to the desk itself. For one thread.
+// The keys that went down and have not come up. A window that loses the keyboard never gets their releases, so it
+// reports them to the desk itself. For one thread.
 class HeldKeys {
 public:
-    // A key is down, with the modifiers of its first press; repeats change nothing. False for a repeat of a key whose
-    // end was told, as it is still held: nothing is to be told of it.
+    // A key is down, with the modifiers of its first press; repeats change nothing. False for a repeat of a key already
+    // reported as released.
     bool press(const Key& key, bool isRepeat) {
         if (isRepeat && m_told.contains(key.getCode()))
             return false;
@@ -22,13 +22,13 @@ public:
         return true;
     }
 
-    // A key came up, whatever the modifiers are by then. False if its end was told already.
+    // A key came up, whatever the modifiers are by then. False if it was already reported as released.
     bool release(std::int32_t code) {
         m_keys.erase(code);
         return m_told.erase(code) == 0;
     }
 
-    // All that are down, each as it was pressed, and none afterwards. Whoever takes them tells their end.
+    // Takes all keys that are down, each as it was pressed. The caller must report their releases.
     std::vector<Key> takeAll() {
         std::vector<Key> keys;
         keys.reserve(m_keys.size());
@@ -42,7 +42,7 @@ public:
 
 private:
     std::map<std::int32_t, Key> m_keys;
-    std::set<std::int32_t> m_told;  // Still held, for all that is known, with their end told.
+    std::set<std::int32_t> m_told;  // Reported as released, though as far as is known still held.
 };
 
 }

@@ -1,4 +1,4 @@
-// What a key message of the system means to the desk.
+// What the system's key messages mean to the desk.
 #pragma once
 
 #include "Backend/input/Key.h"
@@ -8,7 +8,7 @@
 
 namespace Gui {
 
-// The system's virtual-key codes that the desk looks at.
+// The system's virtual-key codes that matter to the desk.
 namespace VirtualKeys {
 constexpr std::uint32_t ENTER = 13;
 constexpr std::uint32_t SHIFT = 16;
@@ -30,11 +30,11 @@ struct KeyModifiers {
     bool win = false;
 };
 
-// The system's table of all keys; the top bit of an entry tells that the key is down.
+// The system's table of all keys; the top bit of an entry is set while the key is down.
 using KeyboardState = std::array<std::uint8_t, 256>;
 
-// [any] What the second word of a key message tells: whether the key is the right or the outer one of two, and whether
-// it was down before.
+// [any] From the second word of a key message: whether the key is the right or the outer one of two, and whether it was
+// down before.
 constexpr bool isExtendedKey(std::intptr_t lParam) {
     return (lParam >> 24 & 1) != 0;
 }
@@ -42,7 +42,7 @@ constexpr bool wasKeyDown(std::intptr_t lParam) {
     return (lParam >> 30 & 1) != 0;
 }
 
-// [any] The code of Key for a virtual key, which alone doesn't tell the two Enter, Control and Alt keys apart.
+// [any] The code of Key for a virtual key, which by itself doesn't distinguish the two Enter, Control and Alt keys.
 std::int32_t translateKeyCode(std::uint32_t virtualKey, bool isExtended);
 
 // [any] A key as it goes down: a modifier key doesn't modify itself.
@@ -51,7 +51,7 @@ Key makePressedKey(std::uint32_t virtualKey, bool isExtended, KeyModifiers modif
 // [any] A key as it goes up, with all modifiers as they are.
 Key makeReleasedKey(std::uint32_t virtualKey, bool isExtended, const KeyModifiers& modifiers);
 
-// [any] Whether a key other than those of Shift and Control is down. A Shift that goes down then belongs to that key.
+// [any] Whether a key other than Shift and Control is down. A Shift that goes down then belongs to that key.
 bool isAnotherKeyThanShiftDown(const KeyboardState& state);
 
 }

@@ -12,17 +12,17 @@ constexpr bool isSmallButton(long width, long height) {
     return height < SMALL_BUTTON_HEIGHT || width < SMALL_BUTTON_WIDTH;
 }
 
-// [any] Whether a button's text is one of the two that stand too low in a small button.
+// [any] Whether a button's text is one of the two signs that sit too low in a small button.
 constexpr bool isSign(std::string_view text) {
     return text == "+" || text == "-";
 }
 
-// What the system's button controls are to the skin.
+// How the skin treats the system's button controls.
 enum class ButtonKind { pushButton, checkBox, radioButton };
 
 constexpr int BUTTON_TYPE_BITS = 0xf;
 
-// [any] The kind of a button by the type bits of its style.
+// [any] The kind of a button, from the type bits of its style.
 constexpr ButtonKind getButtonKind(unsigned type) {
     constexpr ButtonKind KINDS[BUTTON_TYPE_BITS + 1] = {
         ButtonKind::pushButton,   // BS_PUSHBUTTON

@@ -2,20 +2,20 @@
 
 namespace Gui {
 
-// What the help screen has to do when the pointer comes to something. It remembers what it shows, so that moving within
-// a control costs nothing, and keeps still while it tells about the product.
+// What the help screen should do when the pointer moves over something. It remembers what is shown, so that moving
+// within a control costs nothing, and does nothing while information about the product is shown.
 class HelpHover {
 public:
-    // Of text that is not one of the table's.
+    // Stands for text that is not in the table.
     static constexpr int OWN_TEXT_ID = 5498;
 
-    // [gui] The pointer is over something with this help. True if its text is to be shown now.
+    // [gui] The pointer is over something with this help. True if its text should be shown now.
     bool enter(int id);
 
-    // [gui] The pointer is over something without help: what shows stays, and is loaded anew at the next enter.
+    // [gui] The pointer is over something without help: the shown text stays, and is loaded again at the next enter.
     void enterNothing() { m_currentId = NOTHING; }
 
-    // [gui] The pointer is over something that brings its own text. True if that is to be shown.
+    // [gui] The pointer is over something that brings its own text. True if that should be shown.
     bool enterText();
 
     void setShowingAbout(bool showing) { m_showingAbout = showing; }

@@ -17,9 +17,9 @@ struct WindowPosition {
     bool operator==(const WindowPosition&) const = default;
 };
 
-// [any] Where the host's window is to begin, from where it was at the end of the last run. A window that is docked to
-// its bottom edge keeps that edge, now that it may be of another height; host is the rectangle that it has now. Unknown
-// if that would be above the screen or beyond all numbers.
+// [any] Where the host's window should start, given its place at the end of the last run. A window docked to its bottom
+// edge keeps that edge even if its height has changed; host is its current rectangle. Unknown if the place would be
+// above the screen or out of range.
 WindowPosition chooseInitialWindowPosition(const Rect& last, bool dockToBottomEdge, const Rect& host);
 
 }

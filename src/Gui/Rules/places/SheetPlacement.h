@@ -4,8 +4,8 @@
 
 namespace Gui {
 
-// [any] Where a window of this size stands with its middle over that of another one, moved as little as puts all of it
-// inside the screen. One that is larger than the screen begins at its top left corner.
+// [any] Where to put a window of this size so that it is centred over another one, moved as little as possible to be
+// fully on the screen. One larger than the screen starts at the screen's top left corner.
 Rect placeSheet(const Rect& sheet, const Rect& around, const Rect& screen);
 
 }

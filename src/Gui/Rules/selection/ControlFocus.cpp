@@ -10,7 +10,7 @@ bool isInGrid(const Cell& cell) {
     return cell.getRow() >= 0 && cell.getRow() < GRID_SIZE && cell.getColumn() >= 0 && cell.getColumn() < GRID_SIZE;
 }
 
-// A cell beside the grid, from which the first step leads to its first cell.
+// A cell outside the grid, from which the first step leads to its first cell.
 std::optional<Cell> findStart(const Cell& focus, SelectControlType::Mode direction) {
     if (isInGrid(focus))
         return focus;

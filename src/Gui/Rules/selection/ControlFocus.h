@@ -8,9 +8,9 @@
 
 namespace Gui {
 
-// [any] The cell that the focus goes to from the cell that has it (outside the grid: none has it) when it moves up,
-// down, left or right: the next cell in that direction for which isControl is true. Left and right go on in the row
-// before or behind; nothing beyond the ends of the grid, nor for up and left without a start.
+// [any] The cell that the focus moves to, up, down, left or right from the cell that has it (outside the grid: none has
+// it): the next cell in that direction for which isControl is true. Left and right continue in the row before or after;
+// nothing beyond the ends of the grid, nor for up and left without a start.
 std::optional<Cell> findFocusCell(const Cell& focus, SelectControlType::Mode direction,
                                   const std::function<bool(const Cell&)>& isControl);
 

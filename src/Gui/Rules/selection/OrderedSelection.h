@@ -10,13 +10,12 @@
 
 namespace Gui {
 
-// The marks of things that stand in an order: rows below one another, keys in the order of their table, cells row by
-// row. A derived class says which of them can be marked, which lie in a range, and what a change of a mark repaints.
-// [gui]
+// The marks of things in an order: rows below one another, keys in the order of their table, cells row by row. A
+// derived class says which of them can be marked, which lie in a range, and what to repaint when a mark changes. [gui]
 template <class Id>
 class OrderedSelection : public Selection<Id> {
 public:
-    // Without any mark, and without a call of selectionChanged.
+    // Clears all marks, without calling selectionChanged.
     void setItems(std::vector<Id> ids) {
         m_items.clear();
         for (Id& id : ids)
@@ -56,7 +55,7 @@ public:
                            [kind](const Item& item) { return item.marks[indexOf(kind)]; });
     }
 
-    // Behind the last one it starts at the top again.
+    // After the last one it starts at the top again.
     std::optional<Id> nextSelected(bool restart, SelectionKind kind) override {
         std::size_t& next = m_next[indexOf(kind)];
         for (std::size_t i = restart ? 0 : next; i < m_items.size(); ++i)
@@ -83,7 +82,7 @@ public:
             mark(item, selected, kind);
     }
 
-    // Turns every mark over.
+    // Inverts every mark.
     void invert(SelectionKind kind) {
         for (Item& item : m_items)
             mark(item, !item.marks[indexOf(kind)], kind);

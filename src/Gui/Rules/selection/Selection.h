@@ -4,7 +4,7 @@
 
 namespace Gui {
 
-// The two marks that one thing on a screen can carry, independent of each other.
+// The two independent marks that a thing on a screen can carry.
 enum class SelectionKind {
     EDIT = 0,  // Its fields show in the settings.
     DATA = 1,  // Functions and moves that act on what is selected act on it.
@@ -12,27 +12,27 @@ enum class SelectionKind {
 
 inline constexpr int SELECTION_KINDS = 2;
 
-// What a screen lets the user mark: layers, zones, keys or controls. Id names one of them. [gui]
+// What the user can mark on a screen: layers, zones, keys or controls. Id names one of them. [gui]
 template <class Id>
 class Selection {
 public:
     virtual ~Selection() = default;
 
-    // False for what isn't there.
+    // False for a missing one.
     virtual bool isSelected(const Id& id, SelectionKind kind) const = 0;
 
-    // Ignores what isn't there or can't carry this mark.
+    // Ignores what is missing or can't carry this mark.
     virtual void setSelected(const Id& id, bool selected, SelectionKind kind) = 0;
 
-    // Takes the mark from all others, and gives it to this one or takes it from it too.
+    // Takes the mark from all others, and gives it to this one or takes it from this one too.
     virtual void selectOnly(const Id& id, bool selected, SelectionKind kind) = 0;
 
-    // Marks what lies from one to the other, either way round, and nothing else. False, with nothing changed, if no
-    // range lies between the two.
+    // Marks exactly the range from one to the other, in either order. False, with nothing changed, if there is no range
+    // between the two.
     virtual bool selectRange(const Id& from, const Id& to, SelectionKind kind) = 0;
 
-    // In the order of the screen. nextSelected goes on behind the one that was returned last, or from the start;
-    // behind the last one there is nothing.
+    // In the order of the screen. nextSelected continues after the one returned last, or from the start; after the last
+    // one there is nothing.
     virtual std::optional<Id> firstSelected(SelectionKind kind) = 0;
     virtual bool anySelected(SelectionKind kind) const = 0;
     virtual std::optional<Id> nextSelected(bool restart, SelectionKind kind) = 0;

@@ -1,4 +1,4 @@
-// What a click marks, in the same way on all screens.
+// What a click marks, the same on all screens.
 #pragma once
 
 #include "Gui/Rules/selection/Selection.h"
@@ -7,7 +7,7 @@
 
 namespace Gui {
 
-// The keys that are held during a click.
+// The keys held during a click.
 struct ClickKeys {
     bool control = false;
     bool shift = false;
@@ -77,10 +77,8 @@ ClickOutcome clickUnmarked(Selection<Id>& selection, const Id& id, SelectionKind
 
 }
 
-// [gui] Carries out a click on one thing:
-// - Alone, it marks that thing only; if nothing else is marked, it takes the mark away.
-// - With Control it turns the mark of that thing over.
-// - With Shift it marks a range up to that thing.
+// [gui] Carries out a click on one thing: alone, it marks only that thing or, if nothing else is marked, takes its mark
+// away; with Control it inverts that thing's mark; with Shift it marks a range up to that thing.
 template <class Id>
 ClickOutcome clickSelection(Selection<Id>& selection, const Id& id, SelectionKind kind, ClickKeys keys,
                             const RangeRule<Id>& range) {

@@ -15,8 +15,8 @@ struct BuildTime {
     int second;
 };
 
-// [any] What the product says about itself, in lines that end with "\r\n". The time stands in parentheses after the
-// version if it is known.
+// [any] The information about the product, in lines that end with "\r\n". The time, if known, follows the version in
+// parentheses.
 std::string describeProduct(const std::optional<BuildTime>& built);
 
 }

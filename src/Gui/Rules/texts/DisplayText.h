@@ -5,21 +5,21 @@
 
 namespace Gui::DisplayText {
 
-// What the display shows at most, in bytes; it always stays below it.
+// The text in the display is always shorter than this, in bytes.
 constexpr std::size_t CAPACITY = 30000;
 
-// The lowest that the display gets, in pixels.
+// The minimum height of the display, in pixels.
 constexpr int MIN_HEIGHT = 25;
 
-// [any] Whether some of the shown text has to go before this much is added.
+// [any] Whether some of the shown text must go before this much can be added.
 constexpr bool isFull(std::size_t shown, std::size_t added) {
     return shown + added >= CAPACITY;
 }
 
-// [any] The last half of the text, in whole characters, or less if more would not fit with what is added.
+// [any] The last half of the text in whole characters, or less if more would not leave room for the addition.
 std::string makeRoom(const std::string& shown, std::size_t added);
 
-// [any] A height that someone asked for, or the lowest one.
+// [any] The requested height, or the minimum if that is larger.
 constexpr int limitHeight(int height) {
     return height < MIN_HEIGHT ? MIN_HEIGHT : height;
 }

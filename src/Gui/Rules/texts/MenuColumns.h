@@ -4,8 +4,8 @@
 
 namespace Gui {
 
-// [any] Whether an item of a menu opens a new column. index is its place, from 0; with rowsPerColumn above 0 a column
-// holds that many rows, otherwise columns open where items ask for one.
+// [any] Whether a menu item opens a new column. index is its place, from 0; if rowsPerColumn is above 0, a column holds
+// that many rows, otherwise columns open where items ask for one.
 constexpr bool opensMenuColumn(std::size_t index, int rowsPerColumn, bool asksForColumn) {
     if (rowsPerColumn > 0)
         return index != 0 && index % static_cast<std::size_t>(rowsPerColumn) == 0;

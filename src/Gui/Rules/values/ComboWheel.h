@@ -4,8 +4,8 @@
 
 namespace Gui {
 
-// [any] Which item of a list one turn of the wheel selects: the next enabled one after `selected` (-1 for none) going
-// down the list, or before it. -1 if there is none; the list has no way round its ends.
+// [any] The item of a list that one notch of the wheel selects: the next enabled one after (down) or before `selected`
+// (-1 for none). -1 if there is none; the list does not wrap.
 int nextEnabledItem(const std::vector<bool>& enabled, int selected, bool down);
 
 }

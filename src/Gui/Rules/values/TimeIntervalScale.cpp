@@ -25,7 +25,7 @@ int indexOf(std::int32_t value) {
     return TimeInterval(value).getNearestIndex();
 }
 
-// The logarithm of no length is that of the shortest.
+// Zero, which has no logarithm, is treated as the shortest length.
 double logarithm(std::int32_t value) {
     return std::log(static_cast<double>(std::max(value, 1)));
 }
@@ -60,11 +60,11 @@ std::int32_t ppqAt(Range range, int position) {
     const auto low = static_cast<float>(logarithm(range.min));
     const auto high = static_cast<float>(logarithm(range.max));
     const float exponent = (high - low) * static_cast<float>(LAST_POSITION - position) / LAST_POSITION + low;
-    // The exponential of a logarithm may miss a whole number by a hair to either side.
+    // The exponential of a logarithm may miss a whole number by a hair either way.
     return static_cast<std::int32_t>(std::lround(std::exp(exponent)));
 }
 
-// The note length so many entries after that of a value, within the range.
+// The note length this many entries after that of a value, within the range.
 std::int32_t noteAfterSteps(Range range, std::int32_t value, int steps) {
     const auto [low, high] = std::minmax({indexOf(range.min), indexOf(range.max)});
     constexpr int ALL = TimeInterval::LAST_INDEX;

@@ -4,8 +4,8 @@
 
 namespace Gui {
 
-// [any] Where the channel of a vertical track bar is drawn. Most systems tell it crosswise, its left and right along
-// the bar; it is then centred on the thumb. One that stands upright already is left as it is.
+// [any] Where to draw the channel of a vertical track bar. Most systems report it sideways, its left and right along
+// the bar; it is then centred on the thumb. One that is already upright is left as it is.
 constexpr Rect getVerticalChannel(const Rect& thumb, const Rect& channel) {
     if (channel.bottom - channel.top > channel.right - channel.left)
         return channel;

@@ -5,9 +5,9 @@
 
 namespace Gui {
 
-// How an edit shows a value and what it accepts, as its window's options say.
+// How an edit shows a value and what it accepts, according to its window's options.
 struct ValueField {
-    // What is read of a text at most, in characters.
+    // The most characters read from a text.
     static constexpr int TEXT_LENGTH = 20;
 
     bool isNote = false;         // The name of a note.
@@ -22,8 +22,8 @@ struct ValueField {
     bool operator==(const ValueField&) const = default;
 };
 
-// [any] The number that a field shows: what its text begins with, or the number of the note that it names. 0 for an
-// empty text and for one that holds no number.
+// [any] The number that a field shows: the one its text begins with, or the number of the note it names. 0 for an empty
+// text and for one without a number.
 std::int64_t readValue(std::string_view text, const ValueField& field);
 
 }

@@ -24,7 +24,7 @@ struct ValuePicker {
     int current = NOTHING;  // The choice that the field shows.
 };
 
-// [any] The list for a field that shows this text. Nothing for one that has no limits, goes below 0 or has too many
+// [any] The list for a field that shows this text. Nothing if the field has no limits, goes below 0 or has too many
 // values.
 std::optional<ValuePicker> makeValuePicker(std::string_view text, const ValueField& field);
 

@@ -12,14 +12,14 @@ namespace {
 
 constexpr std::int64_t OCTAVE = 12;
 constexpr std::int64_t LARGE_STEP = 10;
-constexpr std::int64_t LIMIT = 127;  // Of a field that names none, to both sides.
+constexpr std::int64_t LIMIT = 127;  // For a field without a limit, in both directions.
 
 struct Limits {
     std::int64_t min;
     std::int64_t max;
 };
 
-// There is no note below 0, and none above 127.
+// There are no notes below 0 or above 127.
 Limits getLimits(const ValueField& field) {
     const bool noSign = field.takesDigitsOnly || field.isNote;
     Limits limits{noSign ? 0 : -LIMIT, LIMIT};

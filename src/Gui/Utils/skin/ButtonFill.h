@@ -6,7 +6,7 @@
 
 namespace Gui {
 
-// [gui] The ground of a button that stands for several things of which some are on and some off.
+// [gui] The background of a button that stands for several things, some on and some off.
 inline void fillOnAndOff(HDC dc, const RECT& rect, const GdiManager& gdi) {
     RECT off = rect;
     RECT on = rect;

@@ -6,7 +6,7 @@
 
 namespace Gui {
 
-// [any] The text as the system draws it. What draws bytes goes by the system's code page, not by the process's.
+// [any] The text as the system draws it: functions that draw bytes use the system's code page, not the process's.
 inline std::wstring toDrawnText(const std::string& utf8) {
     const auto length = static_cast<int>(utf8.size());
     std::wstring wide(static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, nullptr, 0)),
@@ -15,7 +15,7 @@ inline std::wstring toDrawnText(const std::string& utf8) {
     return wide;
 }
 
-// [gui] As the system's calls of these names do with UTF-8.
+// [gui] The system's functions of these names, for UTF-8.
 inline void drawText(HDC dc, const std::string& text, RECT& place, UINT format) {
     const std::wstring wide = toDrawnText(text);
     DrawTextW(dc, wide.c_str(), static_cast<int>(wide.size()), &place, format);

@@ -10,8 +10,8 @@
 
 namespace Gui {
 
-// Every colour, brush, pen, font, cursor and knob that the screens draw with. Made on any thread, then used by the
-// window's alone [gui]. What the getters return lives as long as this object; copies share fonts and knobs.
+// Every colour, brush, pen, font, cursor and knob that the screens draw with. Created on any thread, then used only by
+// the window's [gui]. What the getters return lives as long as this object; copies share fonts and knobs.
 class GdiManager {
 public:
     static constexpr COLORREF BLACK = RGB(0, 0, 0);
@@ -35,7 +35,7 @@ public:
                COLORREF controlBorderDisabled, COLORREF frame, COLORREF text, COLORREF labelDisabled, COLORREF greenPen,
                COLORREF selectedCell, COLORREF label);
 
-    // In the colours of the desk.
+    // With the desk's colours.
     static GdiManager create();
 
     const WindowsLib::Brush& getBackroundBrush() const { return m_background; }
@@ -79,10 +79,10 @@ public:
     const WindowsLib::Font& getWebdingsFont3() const { return m_webdingsFont3; }
     const WindowsLib::Font& getSmallWebdingsFont() const { return m_smallWebdingsFont; }
 
-    // [gui] The picture of a knob, made at the first call for it and kept. See createKnobBitmap.
+    // [gui] The picture of a knob, created when first requested and then kept. See createKnobBitmap.
     WindowsLib::Bitmap& getKnob(COLORREF foreground, COLORREF background, bool smooth, int diameter);
 
-    // [any] A new picture of a knob, for the caller to own. See createKnobBitmap.
+    // [any] A new picture of a knob, owned by the caller. See createKnobBitmap.
     static HBITMAP createKnob(COLORREF foreground, COLORREF background, bool smooth, int diameter);
 
 private:

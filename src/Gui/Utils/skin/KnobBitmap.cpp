@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-// What the header below takes for granted, but for the macros of that name.
+// The header below expects these in its namespace unless they are macros.
 namespace Gdiplus {
 using std::max;  // NOLINT(misc-unused-using-decls)
 using std::min;  // NOLINT(misc-unused-using-decls)
@@ -18,13 +18,13 @@ namespace {
 
 using namespace Gdiplus;
 
-// The reverse order of a COLORREF's.
+// The reverse of a COLORREF's byte order.
 constexpr ARGB opaque(COLORREF colour) {
     return 0xff000000u | static_cast<ARGB>(GetRValue(colour)) << 16 | static_cast<ARGB>(GetGValue(colour)) << 8 |
            GetBValue(colour);
 }
 
-// The library, for as long as one picture takes.
+// Loads the library for the time one picture takes.
 class Session {
 public:
     Session() {
@@ -45,7 +45,7 @@ private:
     ULONG_PTR m_token = 0;
 };
 
-// A picture of the library's, with a context to draw on it. Null where it failed.
+// A picture of the library's, with a context to draw on it. Null on failure.
 struct Picture {
     Picture(int width, int height) {
         if (DllExports::GdipCreateBitmapFromScan0(width, height, 0, PixelFormat32bppARGB, nullptr, &bitmap) == Ok)

@@ -56,7 +56,7 @@ void PopupMenu::paintBackground() {
     SetMenuInfo(m_menu, &info);
 }
 
-// An item of the resources keeps its id, its state and the column that it opens.
+// An item from the resources keeps its id, its state and the column that it opens.
 void PopupMenu::takeOver(int position) {
     std::array<char, 256> text{};
     MENUITEMINFOA info = makeInfo(MIIM_FTYPE | MIIM_ID | MIIM_STRING);

@@ -1,12 +1,12 @@
-// The names under which windows carry the options of their looks and manners. Flags are there or not; a limit of 0 has
-// a name of its own, since a number of 0 reads as none.
+// The names of the window properties that hold options for looks and behaviour. Flags are present or not; a limit of 0
+// has a name of its own, because a number of 0 can't be told from a missing one.
 #pragma once
 
 namespace Gui::SkinProperties {
 
 constexpr const char* SKINNER = "SkinnerPtr";  // The Skinner of a window.
 
-// The procedures that stood before the skin's.
+// The window procedures that the skin's replaced.
 constexpr const char* WINDOW_PROCEDURE = "SkinnedWindowOrigProc";
 constexpr const char* BUTTON_PROCEDURE = "SkinnedButtonOrigProc";
 constexpr const char* CHECK_BOX_PROCEDURE = "SkinnedCheckBoxOrigProc";
@@ -21,7 +21,7 @@ constexpr const char* SELECTED = "SELECTED";          // Buttons: the text in th
 constexpr const char* COLOUR = "COLOR";               // Buttons: a WindowsLib::Brush to fill with. Edits: of the text.
 constexpr const char* BACKGROUND_COLOUR = "BKCOLOR";  // Edits with a colour: a WindowsLib::Brush behind the text.
 constexpr const char* GRAY_TEXT = "GRAYTEXT";         // Any: invalid, or of several values.
-constexpr const char* DISABLED = "DISABLED";          // Labels: of a control that is disabled.
+constexpr const char* DISABLED = "DISABLED";          // Labels: of a disabled control.
 constexpr const char* TEXT = "TEXT";                  // Labels and edits: a value rather than a name.
 constexpr const char* TOGGLE = "TOGGLE";              // Track bars: one of two states.
 
@@ -35,8 +35,8 @@ constexpr const char* SHOW_NOTE_STRING = "SHOW_NOTE_STRING";
 constexpr const char* JUMP_BY_12 = "JUMP_BY_12";
 constexpr const char* SHOW_ZERO_AS_BLANK = "SHOW_ZERO_AS_BLANK";
 
-constexpr const char* SET_BY_PROGRAM = "MYSET";  // Edits: the next change is not the user's.
+constexpr const char* SET_BY_PROGRAM = "MYSET";  // Edits: the program makes the next change.
 constexpr const char* COMBO_BOX = "ComboBox";    // Edits: the ComboBox over it.
-constexpr const char* HELP = "HELP";             // Any: the id of the text that tells about it.
+constexpr const char* HELP = "HELP";             // Any: the id of its help text.
 
 }

@@ -13,15 +13,15 @@ class GdiManager;
 class MirelGuiIF;
 class TimeIntervalCtl;
 
-// Gives the system's own controls the desk's look, and the manners that all screens share: help about what is under the
-// pointer, values that the wheel turns, lists of values on the right button. It puts procedures of its own in front of
-// the windows' and reads what it needs from their properties (SkinProperties.h) whenever it needs it.
+// Gives the system's own controls the desk's look, and the behaviour that all screens share: help about what is under
+// the pointer, values that the wheel turns, lists of values on the right button. It puts its own procedures in front of
+// the windows' and reads what it needs from their properties (SkinProperties.h) when it needs it.
 //
-// In an edit, Tab goes to the next field of its window and Shift+Tab to the one before, and Enter and Escape give the
-// keyboard back to the desk. [gui]
+// In an edit, Tab goes to the next field of its window and Shift+Tab to the previous one, and Enter and Escape return
+// the keyboard to the desk. [gui]
 class Skinner {
 public:
-    // The gui is used from the first skinWindow on, and must outlive every window that is skinned.
+    // The gui is used from the first skinWindow on, and must outlive every skinned window.
     explicit Skinner(MirelGuiIF& gui) : m_gui(gui) {}
 
     // Skins all controls below a window, and the window itself, which draws for them. Controls that come to it later
@@ -30,14 +30,14 @@ public:
     // one of them stands in front of the skin's. What is skinned already stays as it is. Null is ignored.
     void skinWindow(HWND window);
 
-    // For a Skinner that ends before a window: neither the window nor what is below it comes to this Skinner any more.
+    // For a Skinner that ends before a window: neither the window nor its children use this Skinner any more.
     void leaveWindow(HWND window) const;
 
-    // Frames the menus of this thread until as many calls of endHook. The first thread to start is the one.
+    // Frames this thread's menus until endHook has been called as often. Only the first thread to call it is hooked.
     static void startHook();
     static void endHook();
 
-    // Options of a control, by its id in a window or by its own window.
+    // Set options of a control, given by its id in a window or by its own window.
     static void setNoWheel(HWND dialog, int id);
     static void setNoWheel(HWND control);
     static void setMinMax(HWND dialog, int id, int min, int max);
@@ -48,12 +48,12 @@ public:
     static void showZeroAsBlank(HWND dialog, int id, bool blank = true);
     static void setGrayText(HWND dialog, int id, bool gray, bool invalidateNow);
     static void setText(HWND dialog, int id, bool text = true);
-    static void setSelected(HWND dialog, int id, bool selected);  // Draws it anew.
+    static void setSelected(HWND dialog, int id, bool selected);  // Redraws it.
 
-    // Shows a control as one without a value, "?", or as one with a value again, whose text is then left to the caller.
+    // Shows a control as having no value, "?", or as having one again, whose text the caller then sets.
     static void indicateInvalidValue(HWND dialog, int id, bool invalid);
 
-    // An edit with its label.
+    // Enables or disables an edit with its label.
     static void enableControl(HWND dialog, int editId, int labelId, bool enable);
     static void enableControl(HWND dialog, TimeIntervalCtl& control, int labelId, bool enable);
 
@@ -62,7 +62,7 @@ private:
 
     using Procedure = LRESULT (Skinner::*)(HWND, UINT, WPARAM, LPARAM);
 
-    // A window's procedure: hands over to its Skinner.
+    // A window's procedure: calls its Skinner.
     template <Procedure PROCEDURE>
     static LRESULT CALLBACK enter(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 

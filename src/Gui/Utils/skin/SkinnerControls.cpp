@@ -18,7 +18,7 @@ using namespace SkinProperties;
 
 namespace {
 
-constexpr const char* PASSING_WHEEL = "PASSINGWHEEL";  // Track bars: a turn is on its way up.
+constexpr const char* PASSING_WHEEL = "PASSINGWHEEL";  // Track bars: a wheel turn is being passed up.
 
 void setChecked(HWND window, bool checked) {
     setNumber(window, CHECKED, checked);
@@ -87,7 +87,7 @@ LRESULT Skinner::radioButtonProc(HWND window, UINT message, WPARAM wParam, LPARA
     return handleButtonMessage(RADIO_BUTTON_PROCEDURE, window, message, wParam, lParam);
 }
 
-// The walk leaves out what is hidden or disabled, perhaps the button itself; it then ends where it began.
+// The walk skips hidden and disabled buttons, perhaps even this one; it then ends where it began.
 void Skinner::checkRadioButton(HWND window) {
     setChecked(window, true);
     const HWND parent = GetParent(window);
@@ -101,7 +101,7 @@ void Skinner::checkRadioButton(HWND window) {
     }
 }
 
-// The far edges still count as inside.
+// The far edges also count as inside.
 bool Skinner::inWindow(HWND window, LPARAM lParam) {
     RECT place{};
     GetWindowRect(window, &place);
@@ -122,7 +122,7 @@ LRESULT Skinner::trackbarProc(HWND window, UINT message, WPARAM wParam, LPARAM l
     return callOriginal(window, TRACKBAR_PROCEDURE, message, wParam, lParam);
 }
 
-// Without an answer on the way it gets to the main window, which sends it to what is under the pointer: here.
+// If nobody on the way handles it, it reaches the main window, which sends it to what is under the pointer: here.
 LRESULT Skinner::passWheelUp(HWND window, WPARAM wParam, LPARAM lParam) {
     if (getFlag(window, PASSING_WHEEL))
         return 0;
@@ -132,7 +132,7 @@ LRESULT Skinner::passWheelUp(HWND window, WPARAM wParam, LPARAM lParam) {
     return result;
 }
 
-// It leaves nothing to paint for the control's own procedure.
+// Leaves the control's own procedure nothing to paint.
 void Skinner::handlePaintTrackbar(HWND window) {
     const Rect thumb = askForRect(window, TBM_GETTHUMBRECT);
     Rect channel = askForRect(window, TBM_GETCHANNELRECT);

@@ -1,4 +1,4 @@
-// Edits: their frame, the wheel on their values, and the list of these.
+// Edits: their frame, the wheel on their values, and the list of values.
 #include "Gui/MirelGuiIF.h"
 #include "Gui/Rules/values/ValuePicker.h"
 #include "Gui/Rules/values/ValueWheel.h"
@@ -43,7 +43,7 @@ bool endsEntry(WPARAM key) {
     return key == VK_RETURN || key == VK_ESCAPE;
 }
 
-// A field that a user can type into. A ComboBox hands its keys to the desk.
+// A field that users can type into. A ComboBox passes its keys to the desk.
 bool isField(HWND window) {
     constexpr LONG_PTR NEEDED = WS_VISIBLE | WS_TABSTOP;
     const LONG_PTR style = GetWindowLongPtrA(window, GWL_STYLE);
@@ -62,7 +62,7 @@ HWND findNextField(HWND field, bool backwards) {
     return other == field ? nullptr : other;
 }
 
-// Where a list of values opens. The keyboard names no point.
+// Where a list of values opens. A key press gives no point.
 POINT getListCorner(HWND window, LPARAM lParam) {
     if (static_cast<DWORD>(lParam) != NO_POINT)
         return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
@@ -111,7 +111,7 @@ LRESULT Skinner::editProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
     return callOriginal(window, EDIT_PROCEDURE, message, wParam, lParam);
 }
 
-// The message loop leaves Tab to the windows, since on the main window it is a key like any other.
+// The message loop leaves Tab to the windows, because on the main window it is a key like any other.
 bool Skinner::handleEditKey(HWND window, WPARAM key) {
     if (endsEntry(key)) {
         PostMessageA(GetParent(window), UM_RETURN_FOCUS, 0, 0);
@@ -158,7 +158,7 @@ bool Skinner::handleEditBoxMouseWheel(HWND window, UINT message, WPARAM wParam, 
         SendMessageA(GetParent(window), message, wParam, lParam);
         return true;
     }
-    // Fine wheels send many parts of a notch, at which the user has not changed anything yet.
+    // Fine wheels send many partial notches, by which the user has not changed anything yet.
     const int steps = getWheelSteps(wParam);
     if (steps == 0)
         return true;
@@ -178,7 +178,7 @@ bool Skinner::handleContextMenu(HWND window, WPARAM, LPARAM lParam) {
         menu.add(choice.caption, ++id);
     menu.select(picker->current);
     const POINT corner = getListCorner(window, lParam);
-    // The parent draws the items, since it is the one that is skinned as a window.
+    // The parent draws the items, because it is the one skinned as a window.
     const int choice = menu.track(GetParent(window), corner.x, corner.y);
     if (choice > 0 && IsWindow(window))
         SetWindowTextA(window, picker->choices[static_cast<std::size_t>(choice) - 1].text.c_str());

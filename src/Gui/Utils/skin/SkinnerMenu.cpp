@@ -1,4 +1,4 @@
-// Menus: their items, which their owner draws, and the frame around them.
+// Menus: their items, which their owners draw, and the frame around them.
 #include "Gui/MirelGuiIF.h"
 #include "Gui/Utils/skin/DrawnText.h"
 #include "Gui/Utils/skin/GdiManager.h"
@@ -20,7 +20,7 @@ namespace {
 constexpr int TEXT_INDENT = 5;
 constexpr UINT LINE_GAP = 3;
 
-// All menus of a thread have one hook, however many windows asked for it.
+// All menus of a thread share one hook, however many windows asked for it.
 HHOOK g_hook = nullptr;
 int g_hookUsers = 0;
 

@@ -1,4 +1,4 @@
-// What screens say about their controls.
+// The options that screens set for their controls.
 #include "Gui/Utils/skin/SkinProperties.h"
 #include "Gui/Utils/skin/Skinner.h"
 #include "Gui/Utils/windows/Redraw.h"
@@ -10,9 +10,9 @@ using namespace SkinProperties;
 
 namespace {
 
-constexpr WPARAM WHOLE_FRAME = 1;  // In place of a region.
+constexpr WPARAM WHOLE_FRAME = 1;  // Instead of a region.
 
-// The limit that was set last counts, 0 or not.
+// The limit set last counts, whether it is 0 or not.
 void setLimit(HWND control, const char* property, const char* zeroProperty, int limit) {
     if (limit == 0) {
         setNumber(control, zeroProperty, 1);
@@ -79,7 +79,7 @@ void Skinner::indicateInvalidValue(HWND dialog, int id, bool invalid) {
     if (!invalid)
         return;
     const HWND control = GetDlgItem(dialog, id);
-    // A change below a ComboBox is no entry of the user's anyway.
+    // The user can't type below a ComboBox anyway.
     if (!getFlag(control, COMBO_BOX))
         setNumber(control, SET_BY_PROGRAM, 1);
     SetWindowTextA(control, "?");

@@ -37,13 +37,13 @@ const GdiManager& Skinner::gdi() const {
     return m_gui.getGdiManager();
 }
 
-// A procedure in front of itself would call itself for ever.
+// A procedure in front of itself would recurse endlessly.
 void Skinner::install(HWND window, const char* property, WNDPROC procedure) {
     if (!getFlag(window, property))
         subclass(window, property, procedure);
 }
 
-// What is below no window is, to the system, every window of the desktop.
+// To the system, the children of no window are all windows of the desktop.
 void Skinner::skinWindow(HWND window) {
     if (!window)
         return;
@@ -104,7 +104,7 @@ void Skinner::skinButton(HWND window) {
             break;
         case ButtonKind::pushButton: install(window, BUTTON_PROCEDURE, enter<&Skinner::buttonProc>); break;
     }
-    // The type is a number, not a set of bits: joined to a radio button's it would be yet another type.
+    // The type is a number, not a set of bits: combined with a radio button's it would be a different type.
     SetWindowLongPtrA(window, GWL_STYLE, (style & ~LONG_PTR{BUTTON_TYPE_BITS}) | BS_OWNERDRAW);
 }
 
@@ -134,7 +134,7 @@ LRESULT Skinner::wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam
             return handleControlColour(reinterpret_cast<HWND>(lParam), reinterpret_cast<HDC>(wParam),
                                        message == WM_CTLCOLOREDIT);
         case WM_PARENTNOTIFY: {
-            // It comes from the windows below a child as well.
+            // It also comes from windows below a child.
             const auto child = reinterpret_cast<HWND>(lParam);
             if (LOWORD(wParam) == WM_CREATE && GetParent(child) == window)
                 skinChild(child);

@@ -74,7 +74,7 @@ void Button::report() {
 
 void Button::onLeftButtonDown() {
     setState(!m_isToggle || !m_state);
-    // What is on only while it is held has to hear of its release, wherever that is.
+    // A button that is on only while held needs its release, wherever that happens.
     if (m_reportOnRelease || !m_isToggle)
         SetCapture(m_windowHandle);
     if (!m_reportOnRelease)
@@ -82,7 +82,7 @@ void Button::onLeftButtonDown() {
 }
 
 void Button::handleLeftButtonUp() {
-    // A press that began elsewhere is not one of this button.
+    // Ignores a press that began elsewhere.
     const bool wasPressed = GetCapture() == m_windowHandle;
     if (!m_isToggle)
         setState(false);

@@ -11,8 +11,8 @@ namespace Gui {
 
 class MirelGuiIF;
 
-// A button that toggles with each press, or is on while it is held. It tells its listener and leaves the keyboard to
-// the main window. Its look follows the properties "COLOR", "CHECKED", "SELECTED" and "GRAYTEXT". [gui]
+// A button that toggles with each press, or is on while it is held. It notifies its listener and leaves the keyboard to
+// the main window. The properties "COLOR", "CHECKED", "SELECTED" and "GRAYTEXT" set its look. [gui]
 class Button {
 public:
     class Listener {
@@ -25,30 +25,30 @@ public:
 
     enum class Kind { push, toggle };
 
-    // The listener may be null. With reportOnRelease it hears of a press only at its end, and only if the pointer is
-    // still above the button.
+    // The listener may be null. With reportOnRelease it is notified of a press only at its end, and only if the pointer
+    // is still over the button.
     Button(MirelGuiIF& gui, Listener* listener, Kind kind, bool reportOnRelease = false);
 
-    // The pressing itself, with its report.
+    // Presses the button and reports it.
     virtual void onLeftButtonDown();
 
     virtual ~Button();
     Button(const Button&) = delete;
     Button& operator=(const Button&) = delete;
 
-    // Takes the place of a static control, with its id, position, size and caption, and destroys it.
+    // Replaces a static control, taking its id, position, size and caption, and destroys it.
     void create(HWND placeholder);
 
-    // A hidden window of 29 by 20 pixels at (x, 6) of its parent.
+    // Creates a hidden window of 29 by 20 pixels at (x, 6) in its parent.
     void create(const std::string& caption, int x, HWND parent, int id, HINSTANCE module);
 
     bool getState() const { return m_state; }
-    void setState(bool state);  // Draws it anew; no report.
+    void setState(bool state);  // Redraws it, without a report.
 
     const std::string& getCaption() const { return m_caption; }
     void setCaption(const std::string& caption);
 
-    // For buttons of more than 15 by 10 pixels, from the next paint on; others have their own.
+    // For buttons of more than 15 by 10 pixels, from the next paint on; smaller ones have their own.
     void setFont(const WindowsLib::Font& font) { m_font = &font; }
 
     HWND getWindowHandle() const { return m_windowHandle; }

@@ -99,7 +99,7 @@ void ComboBox::setEnabled(bool enabled) {
     EnableWindow(m_windowHandle, enabled);
 }
 
-// False once the edit is gone, perhaps with this object, at which the answer doesn't look.
+// False once the edit is gone. This object may be gone with it, so the check doesn't use it.
 bool ComboBox::isOn(HWND edit) const {
     return getObject<ComboBox>(edit, SkinProperties::COMBO_BOX) == this;
 }
@@ -129,7 +129,7 @@ LRESULT ComboBox::wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
             return 0;
         case WM_RBUTTONDOWN:
         case WM_RBUTTONDBLCLK: handleClick(); return 0;
-        // The list is all that the right button gives.
+        // The right button does nothing but open the list.
         case WM_RBUTTONUP:
         case WM_CONTEXTMENU: return 0;
         case WM_MOUSEWHEEL:
@@ -164,14 +164,14 @@ void ComboBox::handleClick() {
 void ComboBox::openMenu() {
     const HWND edit = m_windowHandle;
     m_menuShowing = true;
-    // The list may become another one while the menu shows.
+    // The list may be replaced while the menu shows.
     const std::vector<Item> shown = m_items;
     int index = trackMenu() - 1;
     if (!isOn(edit))
         return;
     if (m_items != shown)
         index = index >= 0 ? findItem(shown[static_cast<std::size_t>(index)]) : index;
-    // The click that closed the menu may have been one on the edit, which comes only now.
+    // The click that closed the menu may have been on the edit, and arrives only now.
     SetTimer(m_windowHandle, MENU_TIMER, MENU_TIMER_MILLISECONDS, nullptr);
     if (index >= 0 && index < getItemCount() && m_items[static_cast<std::size_t>(index)].enabled)
         choose(index);

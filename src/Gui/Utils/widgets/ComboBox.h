@@ -9,8 +9,8 @@ namespace Gui {
 
 class GdiManager;
 
-// A list of choices on an edit control: a click opens it as a menu, the wheel goes through it. The control's parent is
-// asked before each choice of the user's, and told after it. [gui]
+// A list of choices on an edit control: a click opens it as a menu, the wheel steps through it. Before each choice of
+// the user the control's parent is asked, and after it notified. [gui]
 class ComboBox {
 public:
     // Posted to the parent. w: the edit's window; l: its control id.
@@ -24,24 +24,24 @@ public:
     ComboBox& operator=(const ComboBox&) = delete;
     virtual ~ComboBox();
 
-    // The edit's messages; a derived class hands over what it doesn't answer itself.
+    // The edit's messages; a derived class calls this for what it doesn't handle itself.
     virtual LRESULT wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-    // Takes over an edit, whose parent must be skinned. A column of the menu holds this many rows. The middle argument
-    // means nothing. An edit with ES_READONLY or the property "READONLY" never keeps the focus that a click gave it.
+    // Takes over an edit, whose parent must be skinned. A column of the menu holds this many rows; unused is ignored.
+    // An edit with ES_READONLY or the property "READONLY" gives up the focus that a click gave it.
     void attach(HWND edit, int unused, int rowsPerColumn);
 
     void addItem(int value, const std::string& text, bool enabled = true);
     void addItem(const std::string& key, const std::string& text, bool enabled = true);
 
-    // The text stays as it is; nothing is selected.
+    // Keeps the text; nothing is selected.
     void clearItems();
 
-    // Select the first item of that value or key, without telling the parent; none if there is no such item.
+    // Select the first item with that value or key, without notifying the parent; none if there is no such item.
     void selectValue(int value);
     void selectKey(const std::string& key);
 
-    // An index without an item selects none and empties the text. notify: tells the parent.
+    // An index without an item selects none and empties the text. notify: whether to notify the parent.
     void setSelection(int index, bool notify);
 
     int getSelection() const { return m_selected; }  // -1 for none.
@@ -50,10 +50,10 @@ public:
     std::string getSelectedText() const;             // Empty for none.
     int getItemCount() const { return static_cast<int>(m_items.size()); }
 
-    // A disabled one answers neither clicks nor the wheel; the edit is disabled with it.
+    // A disabled list responds neither to clicks nor to the wheel; the edit is disabled with it.
     void setEnabled(bool enabled);
 
-    // Whether the left button opens the list as well as the right one. At first it does.
+    // Whether the left button opens the list as well as the right one; true at first.
     void setLeftClickOpens(bool opens) { m_leftClickOpens = opens; }
 
     HWND getWindowHandle() const { return m_windowHandle; }
@@ -71,7 +71,7 @@ private:
     static LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     const Item* selectedItem() const;
-    int findItem(const Item& item) const;  // -1 if there is none like it.
+    int findItem(const Item& item) const;  // -1 if there is no equal one.
     bool isOn(HWND edit) const;
     int controlId() const;
     bool isReadOnly() const;

@@ -9,25 +9,25 @@ namespace Gui {
 
 class MirelGuiIF;
 
-// A button that goes round several states, each with its text. The first counts as off, the others as on. [gui]
+// A button that cycles through several states, each with its text. The first counts as off, the others as on. [gui]
 class ComboButton {
 public:
     // Posted to the parent after each press. l: the control id.
     static UINT changeMessage();
 
-    // The texts of the states, in the order of the presses.
+    // The texts of the states, in order.
     ComboButton(MirelGuiIF& gui, std::vector<std::string> texts);
     ComboButton(const ComboButton&) = delete;
     ComboButton& operator=(const ComboButton&) = delete;
     ~ComboButton();
 
-    // Takes the place of a static control, with its position, size and caption, and destroys it. Also with its id,
-    // unless another is given.
+    // Replaces a static control, taking its position, size and caption, and destroys it. Takes its id too unless
+    // another is given.
     void create(HWND placeholder, int id = 0);
 
     int getSelected() const { return m_selected; }
 
-    // Draws it anew; no message. An index without a state shows no text.
+    // Redraws it, without a message. An index without a state shows no text.
     void setSelected(int index);
 
     HWND getWindowHandle() const { return m_windowHandle; }

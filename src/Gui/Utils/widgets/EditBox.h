@@ -4,7 +4,7 @@
 
 namespace Gui {
 
-// An edit control of the system's with a procedure of one's own in front. [gui]
+// One of the system's edit controls with a custom procedure in front. [gui]
 class EditBox {
 public:
     EditBox() = default;
@@ -15,10 +15,10 @@ public:
     // Passes everything on to the control.
     virtual LRESULT wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-    // Makes the control as a child, in the parent's client area. The style is added to WS_CHILD.
+    // Creates the control as a child, in the parent's client area. The style is added to WS_CHILD.
     void create(HWND parent, DWORD style, int x, int y, int width, int height, const char* text);
 
-    // Null when there is no control.
+    // Null if there is no control.
     HWND getWindowHandle() const { return m_windowHandle; }
 
 private:

@@ -13,7 +13,7 @@ namespace Gui {
 // Asks the user for a file. [gui]
 class FileDialog {
 public:
-    // A kind of file: what the user reads, and its pattern ("*.bnk").
+    // A kind of file: the text for the user, and its pattern ("*.bnk").
     struct Filter {
         std::string name;
         std::string pattern;
@@ -21,11 +21,11 @@ public:
 
     FileDialog(std::string title, const std::vector<Filter>& filters);
 
-    // The path of a file that is there, or nothing if the user cancels.
+    // The path of an existing file; nothing if the user cancels.
     std::optional<std::string> open(HWND owner);
 
-    // The path of a file to write, which the user has agreed to replace if it is there. A name without an extension
-    // gets that of its filter.
+    // The path of a file to write; if it exists, the user has agreed to replace it. A name without an extension gets
+    // its filter's.
     std::optional<std::string> save(HWND owner);
 
 private:
@@ -33,7 +33,7 @@ private:
     std::optional<std::string> run(HWND owner, DWORD flags, Ask ask);
 
     std::string m_title;
-    std::string m_filter;     // As the system takes it: each text ends with a zero, all of it with another one.
+    std::string m_filter;     // As the system takes it: each text ends with a zero, and all of it with another one.
     std::string m_extension;  // Of the first filter.
 };
 

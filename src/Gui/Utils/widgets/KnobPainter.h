@@ -11,11 +11,11 @@ class GdiManager;
 // Paints a knob: a disc in the desk's colours with a pointer that shows a position. [gui]
 class KnobPainter {
 public:
-    // On a background of this colour, with a diameter in pixels. The manager must outlive the painter.
+    // For a background of this colour, with a diameter in pixels. The manager must outlive the painter.
     KnobPainter(GdiManager& gdi, COLORREF background, int diameter);
 
-    // Fills a square of diameter + 1 pixels from this corner on. Positions go from 0, at the lower left, clockwise to
-    // 127, at the lower right.
+    // Fills a square of diameter + 1 pixels from this corner. Positions go from 0, at the lower left, clockwise to 127,
+    // at the lower right.
     void paint(HDC dc, POINT corner, int position, bool isEnabled) const;
 
 private:

@@ -9,7 +9,7 @@ void ModalDialog::run(HWND owner) {
     runModal(IDD_WORK, owner);
 }
 
-// Work that doesn't begin never ends, and nothing else would close the dialog.
+// Work that doesn't start never ends, and nothing else would close the dialog.
 void ModalDialog::startOrEnd() {
     try {
         start(window());

@@ -8,15 +8,15 @@
 
 namespace Gui {
 
-// A dialog with one line of text that stays for as long as something else works, and that the user can't close. [gui]
+// A dialog with one line of text that stays open while something else works, and that the user can't close. [gui]
 class ModalDialog : private DialogObject {
 public:
-    // closeMessage: what the dialog's window gets when the work is done.
+    // closeMessage: sent to the dialog's window when the work is done.
     ModalDialog(UINT closeMessage, std::string text)
         : DialogObject("ModalDialog"), m_closeMessage(closeMessage), m_text(std::move(text)) {}
     virtual ~ModalDialog() = default;
 
-    // Starts the work, which ends with closeMessage to this window. An exception ends the dialog at once.
+    // Starts the work, which must end by sending closeMessage to this window. An exception closes the dialog at once.
     virtual void start(HWND dialog) = 0;
 
     // Shows the dialog in front of its owner until the message comes.

@@ -25,7 +25,7 @@ const char* MouseLock::ownPress() const {
     return m_button == Button::LEFT ? OWN_LEFT_PRESS : OWN_RIGHT_PRESS;
 }
 
-// The button that means left or right to programs, which a left-handed user's system exchanges.
+// The button that programs see as left or right, which a left-handed user's system swaps.
 bool MouseLock::sendButton(bool down) const {
     const bool isSwapped = GetSystemMetrics(SM_SWAPBUTTON) != 0;
     const bool isLeft = (m_button == Button::LEFT) != isSwapped;
@@ -80,7 +80,7 @@ bool MouseLock::endByButton() {
     return true;
 }
 
-// No real press will ever end the one that was sent at the start.
+// No real release will ever end the press that was sent at the start.
 bool MouseLock::end() {
     if (!endByButton())
         return false;
@@ -93,7 +93,7 @@ bool MouseLock::released() {
     const bool wasLocked = unlock();
     if (wasLocked)
         ReleaseCapture();
-    // After a click so short that it ends before the press that was sent arrives, nothing else would end that one.
+    // If the click was so short that it ends before the sent press arrives, nothing else would release that press.
     if (m_window && getFlag(m_window, ownPress()))
         sendButton(false);
     return wasLocked;

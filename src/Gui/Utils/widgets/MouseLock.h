@@ -7,10 +7,10 @@
 namespace Gui {
 
 // A value that follows the mouse: while a button is held, or after a click of the middle one until something ends it.
-// The mouse stays with the window even beyond the program's own windows only while some button is down, so the lock
-// presses one itself, by the system's own input. That press comes back to the window, which must drop it.
+// The mouse stays with the window outside the program's own windows only while some button is down, so the lock presses
+// one itself through the system's own input. That press comes back to the window, which must drop it.
 //
-// What lasts stands in properties of the window. [gui]
+// Lasting state is kept in properties of the window. [gui]
 class MouseLock {
 public:
     // The button that the lock presses.
@@ -20,14 +20,14 @@ public:
     MouseLock(const MouseLock&) = delete;
     MouseLock& operator=(const MouseLock&) = delete;
 
-    // Takes the mouse. position: where the pointer is, in client pixels along the way that counts, above -2000; value:
-    // what is to be changed from there on. Without a held button the cursor becomes the given one until the end.
+    // Takes the mouse. position: where the pointer is, in client pixels along the relevant axis, above -2000; value:
+    // the starting value of what changes. Without a held button, the cursor becomes the given one until the end.
     void startHeld(HWND window, int position, int value);
     void startFree(HWND window, int position, int value, const WindowsLib::Cursor& cursor);
 
     bool isLocked() const;
 
-    // For the handler of the button's press, which does nothing more if this is true: the press was the lock's own.
+    // For handlers of the button's press, which must do nothing if this is true: the press was the lock's own.
     bool takeOwnPress();
 
     // The lock is over; false if there was none.
@@ -41,7 +41,7 @@ public:
     // For WM_CAPTURECHANGED: ends the lock if another window has taken the mouse.
     void captureChanged(HWND capturer);
 
-    // While locked: how far the pointer has come since the start, towards 0, and the value at the start.
+    // While locked: how far the pointer has moved since the start, towards 0, and the value at the start.
     int getDistance(int position) const;
     int getStartValue() const;
 

@@ -12,14 +12,14 @@ class MusicKeyboardCtl {
 public:
     static constexpr std::size_t KEYS = 128;
 
-    // A note sounds once more, or once less. Numbers that are no note are ignored.
+    // A note was started or ended once more. Numbers that are not notes are ignored.
     void noteOn(const Backend::Note& note) { change(note, 1); }
     void noteOff(const Backend::Note& note) { change(note, -1); }
 
-    // Nothing sounds.
+    // Nothing sounds any more.
     void clearHilight() { m_counts = {}; }
 
-    // How often a note was begun and not ended; 0 for what is no note.
+    // How many times a note was started and not ended; 0 for anything that is not a note.
     int getCount(const Backend::Note& note) const { return note.isNote() ? m_counts[note.getNumber()] : 0; }
 
 private:

@@ -9,13 +9,13 @@
 
 namespace Gui {
 
-// [gui] A static control of a dialog template in whose place a window of one's own goes: it tells where in the layout,
-// under which id and with which words.
+// [gui] A static control of a dialog template to be replaced by a custom window, which takes over its place in the
+// layout, its id and its caption.
 struct Placeholder {
     explicit Placeholder(HWND window);
 
-    // Destroys the static control and makes the window: as visible and enabled as that was, at its place among its
-    // neighbours. Position, id and caption are those of this object.
+    // Destroys the static control and creates the window, as visible and enabled as that was and at its place among its
+    // neighbours, with the position, id and caption of this object.
     HWND replace(const char* windowClass, HINSTANCE module, void* object) const;
 
     HWND window;

@@ -6,7 +6,7 @@
 
 namespace Gui {
 
-// One of several buttons of which one is on. A press turns it on, and the others off; another press changes nothing.
+// One of several buttons of which one is on. Pressing it turns it on and the others off; another press changes nothing.
 class RadioButton : public Button {
 public:
     RadioButton(MirelGuiIF& gui, Listener* listener) : Button(gui, listener, Kind::toggle) {}

@@ -15,7 +15,7 @@ std::optional<std::string> TextPrompt::run(HWND owner) {
 
 INT_PTR TextPrompt::dlgProc(UINT message, WPARAM wParam, LPARAM) {
     switch (message) {
-        case WM_INITDIALOG: fill(); return TRUE;  // The system gives the focus to the field, all of it selected.
+        case WM_INITDIALOG: fill(); return TRUE;  // The system focuses the field and selects all of it.
         case WM_COMMAND:
             if (LOWORD(wParam) == IDCANCEL || (LOWORD(wParam) == IDOK && take()))
                 EndDialog(window(), LOWORD(wParam));

@@ -19,7 +19,7 @@ public:
           m_text(std::move(defaultText)),
           m_allowBlank(allowBlank) {}
 
-    // The text without blanks around it, or nothing if the user cancels. An empty one only if that is allowed.
+    // The text, trimmed of blanks; nothing if the user cancels. It can be empty only if that is allowed.
     std::optional<std::string> run(HWND owner);
 
 private:

@@ -20,9 +20,9 @@ namespace Gui {
 class MirelGuiIF;
 class PopupMenu;
 
-// A length of time as a knob, with its value beside it, as a note length or as a number of ppq. The knob follows the
-// mouse while the left button is held, or after a click of the middle one until the next left press; the wheel turns
-// it; the value opens as a menu or as a field; the box beside it changes the type. [gui]
+// A length of time as a knob, with its value beside it as a note length or a number of ppq. The knob follows the mouse
+// while the left button is held, or after a click of the middle one until the next left press; the wheel turns it; the
+// value opens as a menu or as a field; the box beside it changes the type. [gui]
 class TimeIntervalCtl : private TimeIntervalEdit::Listener {
 public:
     class Listener {
@@ -44,7 +44,7 @@ public:
         WindowsLib::Brush typeText;
     };
 
-    // All of them in the colours of the desk's other controls.
+    // The colours of the desk's other controls.
     static Colours standardColours(MirelGuiIF& gui);
 
     static constexpr int DIAMETER = 21;
@@ -58,30 +58,30 @@ public:
     TimeIntervalCtl& operator=(const TimeIntervalCtl&) = delete;
     ~TimeIntervalCtl();
 
-    // Takes the place of a static control of a skinned panel, with its corner and caption, and destroys it. Also with
-    // its id, unless another is given.
+    // Replaces a static control of a skinned panel, taking its corner and caption, and destroys it. Takes its id too
+    // unless another is given.
     void create(HWND placeholder, const Colours& colours, int id = 0);
 
-    // The limits of the value, in ppq, at least 1 each; 20 and 30720 at first. The value is cut to them.
+    // The limits of the value, in ppq, at least 1 each; 20 and 30720 at first. Clamps the value to them.
     void setRange(std::int32_t min, std::int32_t max);
 
-    // Cuts to the limits. The listener is told unless the value is the present one, or notify is false. An invalid
-    // value becomes valid.
+    // Clamps to the limits. The listener is notified unless the value is unchanged or notify is false. An invalid value
+    // becomes valid.
     void setValue(std::int32_t value, bool notify = true);
     std::int32_t getValue() const { return m_value; }
 
-    // Tells nobody.
+    // Notifies nobody.
     void setType(Backend::TimeIntervalType::Mode type);
     Backend::TimeIntervalType::Mode getType() const { return m_type.getMode(); }
 
-    // Shows "?" until the value is set next.
+    // Shows "?" until the value is next set.
     void setInvalid(bool invalid);
     bool isInvalid() const { return m_invalid; }
 
-    // On which side of its boxes the knob lies; at first on the right.
+    // Which side of its boxes the knob is on; at first the right.
     void setKnobOnRight(bool right);
 
-    // What the value's box shows.
+    // The text in the value's box.
     std::string getDisplayText() const;
 
     HWND getWindowHandle() const { return m_windowHandle; }

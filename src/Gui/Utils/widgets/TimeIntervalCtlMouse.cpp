@@ -1,4 +1,4 @@
-// What mouse and wheel do to the time knob, and the field and the menu that they open.
+// Mouse and wheel on the time knob, and the field and menu that they open.
 #include "Backend/midi/TimeInterval.h"
 #include "Gui/MirelGuiIF.h"
 #include "Gui/Rules/values/ValueWheel.h"
@@ -95,10 +95,10 @@ void TimeIntervalCtl::openMenu() {
     m_menuShowing = true;
     const HWND window = m_windowHandle;
     const int index = chooseFromMenu();
-    // What came while the menu showed may have destroyed the window, and this object with it.
+    // Messages handled while the menu showed may have destroyed the window, and this object with it.
     if (!IsWindow(window))
         return;
-    // The click that closed the menu may have been one on the box, which comes only now.
+    // The click that closed the menu may have been on the box, and arrives only now.
     SetTimer(m_windowHandle, MENU_TIMER, MENU_TIMER_MILLISECONDS, nullptr);
     if (index > 0)
         setValue(TimeInterval::fromIndex(index).getPpq());
@@ -115,7 +115,7 @@ int TimeIntervalCtl::chooseFromMenu() {
     }
     const int current = TimeInterval(m_value).getIndex();
     m_intervalMenu->select(current != 0 && !m_invalid ? last - current : -1);
-    // Marking an item numbers all of them anew, from 1; let it be so without a mark too.
+    // Marking an item renumbers all of them from 1; without a mark this must happen too.
     m_intervalMenu->rebuild();
     RECT box = valueBox();
     MapWindowPoints(m_windowHandle, nullptr, reinterpret_cast<POINT*>(&box), 2);

@@ -1,4 +1,4 @@
-// How the time knob looks.
+// How the time knob is drawn.
 #include "Gui/MirelGuiIF.h"
 #include "Gui/Utils/skin/DrawnText.h"
 #include "Gui/Utils/skin/GdiManager.h"

@@ -33,7 +33,7 @@ void TimeIntervalEdit::open(HWND parent, int x, int y, int width, int height, HF
     SendMessageA(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     SendMessageA(window, EM_SETSEL, BEHIND_LAST, BEHIND_LAST);
     SetFocus(window);
-    // The next press anywhere ends it.
+    // The next press anywhere ends the edit.
     SetCapture(window);
 }
 
@@ -59,7 +59,7 @@ LRESULT TimeIntervalEdit::wndProc(HWND window, UINT message, WPARAM wParam, LPAR
             end(true);
             return 0;
         case WM_LBUTTONUP: {
-            // The control lets go of the mouse after a press on its text.
+            // The control releases the mouse after a press on its text.
             const LRESULT result = EditBox::wndProc(window, message, wParam, lParam);
             if (getWindowHandle())
                 SetCapture(window);
@@ -74,7 +74,7 @@ LRESULT TimeIntervalEdit::wndProc(HWND window, UINT message, WPARAM wParam, LPAR
 
 void TimeIntervalEdit::end(bool byKey) {
     const HWND window = getWindowHandle();
-    // The window loses the focus once more as it goes.
+    // The window loses the focus once more when it closes.
     if (m_ending || !window)
         return;
     m_ending = true;

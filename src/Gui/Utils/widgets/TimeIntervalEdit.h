@@ -6,13 +6,13 @@
 
 namespace Gui {
 
-// The field in which a number of ppq is typed. It ends, and tells its listener, at Enter, at Escape, at a press beside
-// it, and when the focus goes elsewhere. [gui]
+// The field for typing a number of ppq. It ends, notifying its listener, on Enter, on Escape, on a press outside it,
+// and when the focus goes elsewhere. [gui]
 class TimeIntervalEdit : public EditBox {
 public:
     class Listener {
     public:
-        // taken: the user wants the value; not after Escape. byKey: the focus is nowhere yet.
+        // taken: the user wants the value; false after Escape. byKey: the focus has not gone anywhere yet.
         virtual void editEnded(bool taken, std::int32_t value, bool byKey) = 0;
 
     protected:
@@ -23,7 +23,7 @@ public:
 
     LRESULT wndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    // Opens over a part of the parent with the caret at the end, and takes focus and mouse.
+    // Opens over a part of the parent with the caret at the end, and takes the focus and the mouse.
     void open(HWND parent, int x, int y, int width, int height, HFONT font, std::int32_t value);
 
 private:

@@ -1,4 +1,4 @@
-// The part of the skin that knows a widget, and so stands above both.
+// The part of the skin that depends on a widget, and so belongs above both.
 #include "Gui/Utils/skin/Skinner.h"
 #include "Gui/Utils/widgets/TimeIntervalCtl.h"
 #include "Gui/Utils/windows/Redraw.h"

@@ -1,4 +1,4 @@
-// Device contexts and what is selected into them, given back in the right order.
+// Device contexts and what is selected into them, released in the right order.
 #pragma once
 
 #include <windows.h>
@@ -37,7 +37,7 @@ private:
     HDC m_dc;
 };
 
-// A font, pen, brush or bitmap that is selected for a while.
+// Selects a font, pen, brush or bitmap for the length of a block.
 class SelectScope {
 public:
     SelectScope(HDC dc, HGDIOBJ object) : m_dc(dc), m_old(SelectObject(dc, object)) {}
@@ -50,7 +50,7 @@ private:
     HGDIOBJ m_old;
 };
 
-// A picture in memory, as like another device as need be.
+// A picture in memory, compatible with another device if necessary.
 class MemoryDc {
 public:
     MemoryDc(HDC like, int width, int height)

@@ -6,7 +6,7 @@ namespace Gui {
 
 namespace {
 
-// Null for a file that is missing or no library, about which the system says nothing to the user then.
+// Null if the file is missing or is not a library; the system shows the user no message about it.
 HMODULE loadSilently(const std::string& path) {
     DWORD before = 0;
     const BOOL isSilent = SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &before);
@@ -36,7 +36,7 @@ KeyboardHookProxy::~KeyboardHookProxy() {
 
 template <class Function>
 void KeyboardHookProxy::find(Function& function, const char* name) const {
-    // The only way from the system's type of a function to the function's own.
+    // The only legal conversion from the system's function type to the function's own.
     function = reinterpret_cast<Function>(reinterpret_cast<void (*)()>(GetProcAddress(m_library, name)));
 }
 

@@ -8,19 +8,19 @@ class Key;
 
 namespace Gui {
 
-// The library that catches keys while another program has the keyboard. It stands beside the program and may be
-// missing, as may any of its functions; operations then do nothing. [gui], but for the construction.
+// The library that catches keys while another program has the keyboard. It lies beside the program. It, or any of its
+// functions, may be missing; operations then do nothing. [gui], except the construction.
 class KeyboardHookProxy {
 public:
     static constexpr const char* LIBRARY = "\\KeyboardHook_64.dll";
 
-    // A control key's effect on the hook.
+    // What a control key does to the hook.
     enum Action : int { toggle = -1, off = 0, on = 1 };
 
-    // Loads the library from a folder, given without a separator at its end.
+    // Loads the library from a folder, given without a trailing separator.
     explicit KeyboardHookProxy(const std::string& folder);
 
-    // The library is freed, so its hook must be off.
+    // Frees the library, so its hook must be off.
     ~KeyboardHookProxy();
     KeyboardHookProxy(const KeyboardHookProxy&) = delete;
     KeyboardHookProxy& operator=(const KeyboardHookProxy&) = delete;
@@ -31,19 +31,19 @@ public:
     // Whether keys are taken.
     void setEnabled(bool enabled) const;
 
-    // Keys that pass to the program in front.
+    // Keys that are passed to the program in front.
     void setExcludeKey(const Key& key, bool excluded) const;
     void clearExclude() const;
 
-    // Keys that switch the hook itself, also while it is off: when they go up, or else down.
+    // Keys that switch the hook itself, even while it is off: on release, or else on press.
     void clearControlKeys() const;
     void addControlKey(const Key& key, bool onKeyUp, Action action) const;
 
-    // [any] What the window gets when a control key has switched the hook: w is whether it is on now.
+    // [any] The message that the window gets when a control key has switched the hook; w is whether it is on now.
     static UINT getStateMessage();
 
 private:
-    // As the library exports them.
+    // The types that the library exports.
     using SetWindowHandle = void (*)(HWND window);
     using SetEnabled = void (*)(bool enabled);
     using SetExcludeKey = void (*)(int code, bool shift, bool control, bool alt, bool win, bool excluded);

@@ -9,7 +9,7 @@ namespace Gui {
 
 namespace {
 
-// A hook's procedure knows nothing but its thread.
+// A hook's procedure has no context but its thread.
 thread_local std::vector<const KeyboardLossWatch*> watches;
 thread_local HHOOK hook = nullptr;
 

@@ -6,11 +6,11 @@
 
 namespace Gui {
 
-// Notices that key messages will not reach the windows of a desk for a while: another window gets the keyboard, a menu
-// opens, or a window is dragged. For the thread that makes it, and for its windows alone. [gui]
+// Detects that key messages will not reach a desk's windows for a while: another window gets the keyboard, a menu
+// opens, or a window is dragged. Only for the thread that creates it, and its windows. [gui]
 class KeyboardLossWatch {
 public:
-    // keepsKeyboard: whether a window, null for one of another program, hands all its keys to the desk.
+    // keepsKeyboard: whether a window (null for one of another program) passes all its keys to the desk.
     KeyboardLossWatch(std::function<bool(HWND window)> keepsKeyboard, std::function<void()> keyboardLost);
     ~KeyboardLossWatch();
     KeyboardLossWatch(const KeyboardLossWatch&) = delete;

@@ -4,8 +4,7 @@
 
 namespace Gui {
 
-// [gui] Has a window painted anew. Without a window nothing happens; the system would take null for every window of the
-// desktop.
+// [gui] Has a window repainted. Ignores null, which to the system would mean every window of the desktop.
 inline void redraw(HWND window, bool erase = false) {
     if (window)
         InvalidateRect(window, nullptr, erase);

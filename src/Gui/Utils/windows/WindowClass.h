@@ -4,9 +4,9 @@
 
 namespace Gui {
 
-// [gui] Registers a class of windows with the arrow cursor and, unless a brush is given, no background. Each class does
-// so once in the process, with the module of its first window. That is the module under which the system knows the
-// class from then on, also for windows whose templates come from another one; null if it can't be registered.
+// [gui] Registers a window class with the arrow cursor and, unless a brush is given, no background. Each class is
+// registered once per process, with the module of its first window. The system knows the class under that module from
+// then on, even for windows whose templates come from another one. Returns that module; null on failure.
 inline HINSTANCE registerWindowClass(const char* name, HINSTANCE module, WNDPROC procedure,
                                      HBRUSH background = nullptr) {
     WNDCLASSEXA windowClass{};

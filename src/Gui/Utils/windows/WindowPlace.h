@@ -1,4 +1,4 @@
-// Where a window is on the screen, minimised or not.
+// A window's place on the screen, minimised or not.
 #pragma once
 
 #include "Backend/core/settings/Rect.h"
@@ -15,7 +15,7 @@ inline Rect fromWindows(const RECT& rect) {
     return {rect.left, rect.top, rect.right, rect.bottom};
 }
 
-// The monitor that is nearest to a place: all of it, and what the task bar and its like leave of it.
+// The monitor nearest to a place: its whole area, and what the task bar and the like leave free.
 inline MONITORINFO monitorNear(const Rect& place) {
     const RECT rect = toWindows(place);
     MONITORINFO info{};
@@ -24,13 +24,13 @@ inline MONITORINFO monitorNear(const Rect& place) {
     return info;
 }
 
-// The system counts the place that a minimised window comes back to from the corner of the work area of its monitor.
+// The system gives the restored place of a minimised window relative to the work area of its monitor.
 inline POINT workAreaOffset(const Rect& place) {
     const MONITORINFO monitor = monitorNear(place);
     return {monitor.rcWork.left - monitor.rcMonitor.left, monitor.rcWork.top - monitor.rcMonitor.top};
 }
 
-// [any] The window's rectangle on the screen; for a minimised one the one that it comes back to.
+// [any] The window's rectangle on the screen; for a minimised one the rectangle it will be restored to.
 inline Rect windowPlace(HWND window) {
     RECT rect{};
     WINDOWPLACEMENT placement{};
@@ -45,7 +45,7 @@ inline Rect windowPlace(HWND window) {
     return fromWindows(rect);
 }
 
-// [gui] Moves the window there. A minimised one stays so.
+// [gui] Moves the window there. A minimised one stays minimised.
 inline void placeWindow(HWND window, const Rect& place) {
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;

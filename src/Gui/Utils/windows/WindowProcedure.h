@@ -1,4 +1,4 @@
-// What every procedure of a window class does: find the object behind the window, hand over, and let no exception out.
+// What every window procedure does: find the object behind the window, call it, and let no exception out.
 #pragma once
 
 #include "Backend/core/trace/Trace.h"
@@ -14,7 +14,7 @@ inline void traceException(const char* what) {
     Backend::Trace::channel().trace("src\\Gui\\Utils\\WindowProcedure", __LINE__, "withoutExceptions", what);
 }
 
-// The result of a call; 0 for one that ends in an exception, which is only traced.
+// The result of a call; 0 if it throws, and the exception is only traced.
 template <class Call>
 auto withoutExceptions(Call call) -> decltype(call()) {
     try {
@@ -23,13 +23,13 @@ auto withoutExceptions(Call call) -> decltype(call()) {
         traceException(exception.what());
         return 0;
     } catch (...) {
-        traceException("an exception of no known kind");
+        traceException("an exception of unknown type");
         return 0;
     }
 }
 
-// For windows whose creation parameter is their object. It stands with the window under this name for as long as the
-// window lives and the object doesn't take it away; without it the system's procedure answers.
+// For windows whose creation parameter is their object. The window keeps it under this property until either goes;
+// without it, the system's procedure answers.
 template <class Object>
 LRESULT handOver(const char* name, LRESULT (Object::*procedure)(HWND, UINT, WPARAM, LPARAM), HWND window, UINT message,
                  WPARAM wParam, LPARAM lParam) {
@@ -43,7 +43,7 @@ LRESULT handOver(const char* name, LRESULT (Object::*procedure)(HWND, UINT, WPAR
     return withoutExceptions([&] { return (object->*procedure)(window, message, wParam, lParam); });
 }
 
-// An object that ends before its window hears no more of it.
+// Stops the messages of a window from reaching an object that ends before it.
 inline void forget(HWND window, const char* name, const void* object) {
     if (window && GetPropA(window, name) == object)
         RemovePropA(window, name);

@@ -1,4 +1,4 @@
-// Options and objects that stand with a window under a name.
+// Options and objects that a window keeps under a name.
 #pragma once
 
 #include <windows.h>
@@ -7,7 +7,7 @@
 
 namespace Gui {
 
-// A number. One that is not there reads as 0, so 0 can't be told from nothing.
+// A number. A missing one reads as 0, so the two can't be told apart.
 inline std::intptr_t getNumber(HWND window, const char* name) {
     return reinterpret_cast<std::intptr_t>(GetPropA(window, name));
 }
@@ -35,7 +35,7 @@ inline void subclass(HWND window, const char* name, WNDPROC procedure) {
     setNumber(window, name, SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
 }
 
-// Gives the window its own procedure back, and returns it; null if there was none of this name.
+// Restores the window's own procedure, and returns it; null if none is kept under this name.
 inline WNDPROC unsubclass(HWND window, const char* name) {
     const auto original = getNumber(window, name);
     if (original == 0)
@@ -45,14 +45,14 @@ inline WNDPROC unsubclass(HWND window, const char* name) {
     return reinterpret_cast<WNDPROC>(original);
 }
 
-// What the kept procedure makes of a message; DefWindowProc without one.
+// Passes a message to the kept procedure; without one, to DefWindowProc.
 inline LRESULT callOriginal(HWND window, const char* name, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto original = reinterpret_cast<WNDPROC>(getNumber(window, name));
     return original ? CallWindowProcA(original, window, message, wParam, lParam)
                     : DefWindowProcA(window, message, wParam, lParam);
 }
 
-// The same at the end of the window, which gets its own procedure back first.
+// The same when the window ends; restores its own procedure first.
 inline LRESULT passOnForTheLastTime(HWND window, const char* name, UINT message, WPARAM wParam, LPARAM lParam) {
     const WNDPROC original = unsubclass(window, name);
     return original ? CallWindowProcA(original, window, message, wParam, lParam)

@@ -1,4 +1,4 @@
-// Handles of the system's graphics that belong to an object.
+// Handles of the system's graphics, each owned by an object.
 #pragma once
 
 #include <windows.h>
@@ -9,7 +9,7 @@
 
 namespace WindowsLib {
 
-// One handle, deleted with the object. An empty one has a null handle.
+// One handle, deleted with the object. An empty object has a null handle.
 template <class Handle>
 class GdiObject {
 public:
@@ -29,14 +29,14 @@ public:
 
     Handle handle() const { return m_handle; }
 
-    // Leaves the handle to the caller.
+    // Gives the handle's ownership to the caller.
     Handle release() { return std::exchange(m_handle, nullptr); }
 
 private:
     Handle m_handle = nullptr;
 };
 
-// A solid brush that knows its colour.
+// A solid brush that remembers its colour.
 class Brush {
 public:
     explicit Brush(COLORREF colour) : m_brush(CreateSolidBrush(colour)), m_colour(colour) {}
@@ -85,7 +85,7 @@ private:
 // A font; copies share it.
 class Font {
 public:
-    // The height as in CreateFont: a negative one is that of the characters, a positive one that of the cells.
+    // The height as in CreateFont: negative for the characters' height, positive for the cells'.
     Font(const char* face, int height, int weight)
         : m_font(std::make_shared<GdiObject<HFONT>>(
               CreateFontA(height, 0, 0, 0, weight, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, face))) {}
@@ -103,7 +103,7 @@ inline Region makeRegion(const RECT& rect) {
     return Region(CreateRectRgnIndirect(&rect));
 }
 
-// Adds another region to this one, or takes it away. The other stays as it is.
+// Adds another region to this one, or removes it. The other one stays as it is.
 inline void addRegion(const Region& region, const Region& added) {
     CombineRgn(region.handle(), region.handle(), added.handle(), RGN_OR);
 }
@@ -112,14 +112,14 @@ inline void cutRegion(const Region& region, const Region& cut) {
     CombineRgn(region.handle(), region.handle(), cut.handle(), RGN_DIFF);
 }
 
-// Gives a window this shape, in pixels from its top left corner. The system owns the region from then on; a window that
-// doesn't take it leaves it to be deleted here.
+// Gives a window this shape, in pixels from its top left corner. The system then owns the region, unless the window
+// doesn't take it.
 inline void shapeWindow(HWND window, Region region) {
     if (SetWindowRgn(window, region.handle(), TRUE))
         region.release();
 }
 
-// A cursor of a module's resources, which the system owns.
+// A cursor from a module's resources, owned by the system.
 class Cursor {
 public:
     Cursor(HINSTANCE module, int id) : m_cursor(LoadCursorA(module, MAKEINTRESOURCEA(id))) {}

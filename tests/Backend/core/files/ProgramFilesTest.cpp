@@ -141,7 +141,7 @@ TEST_F(ProgramFilesTest, AProgramThatWouldMakeItsBankUnreadableIsNotSaved) {
     EXPECT_EQ(m_notified.take(), std::vector<UINT>{SAVE_TO_BANK_DONE.NUMBER});
 }
 
-// The first save of what it can't hold makes it one in UTF-8.
+// The first save of something it can't hold turns it into UTF-8.
 TEST_F(ProgramFilesTest, ABankInAnotherEncodingKeepsItsNames) {
     using namespace std::string_literals;
     const std::string utf8 = "Zo\xC3\xAB";
@@ -186,7 +186,7 @@ TEST_F(ProgramFilesTest, AProgramFileIsSavedWithoutBeingLoaded) {
     m_desk.run([&](Mirel& mirel) { EXPECT_EQ(mirel.getCurrentBank().getPath(), m_desk.file("a.bnk")); });
 }
 
-// What nobody is told otherwise stands in the developers' trace.
+// What is not reported otherwise is in the developers' trace.
 TEST_F(ProgramFilesTest, FilesThatCanNotBeUsedAreTraced) {
     const TestSupport::CapturedDebugText captured;
     Trace::channel().setEnabled(true);
@@ -199,7 +199,7 @@ TEST_F(ProgramFilesTest, FilesThatCanNotBeUsedAreTraced) {
     for (const std::string& text : captured.texts())
         all += text;
     EXPECT_NE(all.find("missing.bnk: can't be read\n"), std::string::npos) << all;
-    EXPECT_NE(all.find("a.bnk: is no XML that can be used\n"), std::string::npos) << all;
+    EXPECT_NE(all.find("a.bnk: is not usable XML\n"), std::string::npos) << all;
     EXPECT_NE(all.find("a.prg: can't be written\n"), std::string::npos) << all;
     EXPECT_NE(all.find("MIREL_TRACE: src\\Backend\\core\\xml\\XmlDocument:"), std::string::npos) << all;
 }
@@ -350,7 +350,7 @@ TEST_F(ProgramFilesTest, ALargerBankEndsWithEmptyPrograms) {
     EXPECT_EQ(m_notified.take(), std::vector<UINT>{CHANGE_BANK_SIZE_DONE.NUMBER});
 }
 
-TEST_F(ProgramFilesTest, ASizeThatIsNoneOrNoChangeDoesNothing) {
+TEST_F(ProgramFilesTest, AnInvalidOrUnchangedSizeDoesNothing) {
     const std::string text = bankOf(3);
     load(writeBank(text));
     for (const int size : {3, 0, -1, -2147483647 - 1})
@@ -376,7 +376,7 @@ TEST_F(ProgramFilesTest, TheSizeOfABankThatIsGoneCanNotBeChanged) {
     EXPECT_TRUE(m_notified.take().empty());
 }
 
-// Each was once enough to lose a bank somewhere.
+// Each of these once lost a bank somewhere.
 const std::vector<std::string> STRANGE_NAMES = {
     "Zo\xC3\xAB \xE2\x80\x93 \xE3\x83\x94\xE3\x82\xA2\xE3\x83\x8E",
     "\xF0\x9F\x8E\xB9",
@@ -469,7 +469,7 @@ TEST_F(ProgramFilesTest, BanksAndProgramsMayHaveAnyFileName) {
 TEST_F(ProgramFilesTest, ABankThatCanNotBeReplacedIsShownAgainAsItWas) {
     const std::string text = bankOf(3);
     load(writeBank(text));
-    // A folder stands where the bank should go.
+    // There is a folder where the bank should go.
     const std::string folder = m_desk.file("b.bnk");
     ASSERT_TRUE(Files::createFolders(folder));
     rename("lost");
@@ -495,7 +495,7 @@ TEST_F(ProgramFilesTest, AProgramThatCanNotBeWrittenIsNotNotified) {
     EXPECT_TRUE(m_notified.take().empty());
 }
 
-TEST_F(ProgramFilesTest, ABankThatIsGoneOrNoFileIsNotMadeBySaving) {
+TEST_F(ProgramFilesTest, SavingCreatesNoBankThatIsGoneOrIsNotAFile) {
     const std::string path = writeBank(bankOf(3));
     load(path);
     ASSERT_TRUE(Files::remove(path));
@@ -566,7 +566,7 @@ TEST_F(ProgramFilesTest, APresetThatTheKeysStillAreIsWrittenAsItsName) {
     m_desk.run([](Mirel& mirel) { mirel.getComputerInput().setUseKeyUpMod(false); });
     EXPECT_NE(m_desk.programXml().find(reference), std::string::npos);
 
-    // Without the file nobody can tell, and the reference stays.
+    // Without the file nobody can know, and the reference stays.
     const std::string path = m_desk.dataFile("Computer Input Presets", name + ".pst");
     ASSERT_TRUE(Files::remove(path));
     m_desk.run([](Mirel& mirel) { mirel.getComputerInput().setUseKeyUpMod(true); });
