@@ -47,7 +47,7 @@ protected:
         eventually([dialog] { return !IsWindow(dialog); });
     }
 
-    // [other thread] The kinds of files that a dialog offers, which is cancelled then.
+    // [other thread] The kinds of files that a dialog offers; cancels it.
     static std::string takeKinds(const std::string& title) {
         std::string kinds;
         const HWND dialog = waitForDialog([&title](HWND window) { return textOf(window) == title; });
@@ -68,7 +68,7 @@ protected:
         return full;
     }
 
-    // A copy of a file of the tests, under another name.
+    // A copy of one of the tests' files, under another name.
     std::string copy(const std::string& from, const std::string& name) {
         const auto content = Platform::Files::read(projectFile(from));
         EXPECT_TRUE(content) << from;
@@ -176,7 +176,7 @@ TEST_F(MirelGuiDialogsTest, ImportAsksForThePresetsName) {
     EXPECT_TRUE(Platform::Files::size(desk.file("Computer Input Presets/Old Keys.pst")));
 }
 
-TEST_F(MirelGuiDialogsTest, ImportKnowsItsFilesByTheirExtensionsInLowerCase) {
+TEST_F(MirelGuiDialogsTest, ImportRecognisesItsFilesByTheirExtensionsInLowerCase) {
     const std::string from = copy("tests/data/version2/bank.txt", "old.BNK");
     {
         const OtherThread user([&from] { answer("Select Version 2 File To Import", from); });
@@ -215,7 +215,7 @@ TEST_F(MirelGuiDialogsTest, ImportThatIsCancelledAtAnyQuestionChangesNothing) {
     EXPECT_FALSE(Platform::Files::size(desk.file("Computer Input Presets/Old Keys.pst")));
 }
 
-// Of the setup, as its user presses them.
+// Acts on the setup as its user would.
 void enterVelocity(const char* velocity, int button) {
     const HWND sheet = waitForDialog([](HWND window) { return textOf(window) == "Mirel Console Setup"; });
     const auto page = reinterpret_cast<HWND>(SendMessageA(sheet, PSM_GETCURRENTPAGEHWND, 0, 0));
@@ -243,7 +243,7 @@ class MirelGuiHeldKeysTest : public MirelGuiDialogsTest {
 protected:
     using Strings = std::vector<std::string>;
 
-    // What becomes of a key that is down while something else gets the keyboard.
+    // What happens to a key that is down while something else gets the keyboard.
     Strings holdDuring(const std::function<void()>& action) {
         SetForegroundWindow(desk.host.handle());
         desk.gui().setFocus();

@@ -8,7 +8,7 @@
 namespace Gui {
 namespace {
 
-// Where the compiler keeps an operation among those of its class: the destructor has the first two places.
+// Where the compiler places an operation among those of its class: the destructor has the first two places.
 template <class Operation>
 std::ptrdiff_t placeOf(Operation operation) {
     constexpr std::ptrdiff_t VIRTUAL = 1;
@@ -25,7 +25,7 @@ using OwnProgram = Backend::Program& (IF::*)();
 using PresetList = const Backend::SequenceManagement::SequencePresetList& (IF::*)() const;
 using OwnPresetList = Backend::SequenceManagement::SequencePresetList& (IF::*)();
 
-// Who was compiled with these finds them by their order.
+// Programs compiled with this interface find its operations by their order.
 TEST(MirelGuiIF, KeepsTheOrderOfItsOperations) {
     std::ptrdiff_t place = 1;
     const auto expectOne = [&place](auto operation) {

@@ -17,7 +17,7 @@ constexpr LPARAM REPEAT = 0x40000001;
 constexpr LPARAM EXTENDED = 0x01000001;
 constexpr LPARAM RELEASED = static_cast<LPARAM>(0xc0000001);
 
-// Keys of the computer that are down for a while.
+// Keys of the computer that are held for a while.
 class HeldKey {
 public:
     explicit HeldKey(WORD key) : m_key(key) { send(0); }
@@ -83,13 +83,13 @@ TEST_F(MirelGuiKeysTest, AKeyWithAltReachesTheDeskToo) {
     EXPECT_EQ(desk.takeKeys(), (Strings{"down 65 0", "up 65 0"}));
 }
 
-TEST_F(MirelGuiKeysTest, ARepeatIsToldAsOne) {
+TEST_F(MirelGuiKeysTest, ARepeatIsReportedAsOne) {
     send(WM_KEYDOWN, 'A', FIRST);
     send(WM_KEYDOWN, 'A', REPEAT);
     EXPECT_EQ(desk.takeKeys(), (Strings{"down 65 0", "down 65 0 repeat"}));
 }
 
-TEST_F(MirelGuiKeysTest, TheTwoKeysOfOneVirtualKeyAreTold) {
+TEST_F(MirelGuiKeysTest, TheTwoKeysOfOneVirtualKeyAreDistinguished) {
     send(WM_KEYDOWN, VK_RETURN, FIRST);
     send(WM_KEYDOWN, VK_RETURN, EXTENDED);
     send(WM_SYSKEYDOWN, VK_MENU, FIRST);
@@ -266,7 +266,7 @@ TEST_F(MirelGuiKeysTest, KeysAreReleasedWhenTheWindowIsDragged) {
 
 TEST_F(MirelGuiKeysTest, KeysAreReleasedWhenTheWindowGoes) {
     const TestWindow other;
-    SetForegroundWindow(other.handle());  // The hook brings them.
+    SetForegroundWindow(other.handle());  // The hook delivers them.
     desk.settle();
     desk.takeKeys();
     send(WM_KEYDOWN, 'A', FIRST);
@@ -277,7 +277,7 @@ TEST_F(MirelGuiKeysTest, KeysAreReleasedWhenTheWindowGoes) {
     EXPECT_EQ(desk.takeKeys(), (Strings{"up 65 0", "up 83 0"}));
 }
 
-// Another program has the keyboard, and only the hook has brought its keys.
+// Another program has the keyboard, and its keys came only through the hook.
 TEST_F(MirelGuiKeysTest, KeysOfTheHookAreReleasedWhenItEnds) {
     const TestWindow other;
     SetForegroundWindow(other.handle());

@@ -32,7 +32,7 @@ HWND childWithId(HWND parent, int id) {
     return GetDlgItem(parent, id);
 }
 
-// The titles of a window's children from the first that was made.
+// The titles of a window's children, starting with the first one created.
 std::vector<std::string> childTitles(HWND parent) {
     std::vector<std::string> titles;
     for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
@@ -111,7 +111,7 @@ TEST_F(MirelGuiLifeTest, ItsScreensStandInOrder) {
     const RECT rect = rectInParent(root);
     EXPECT_EQ(rect.left, 4);
     EXPECT_EQ(rect.top, 5);
-    // Windows that are made later stand further to the front; panels only stand below one another.
+    // Windows created later are further to the front; panels only lie below one another.
     auto titles = childTitles(root);
     std::vector<std::string> expected = {
         "Gui::System::SystemPanel", "Gui::Help::HelpPanel", "Gui::Display::DisplayPanel", "", "",
@@ -212,7 +212,7 @@ TEST_F(MirelGuiLifeTest, ItsThreadCanUseComWhileItLives) {
     CoUninitialize();
 }
 
-TEST_F(MirelGuiLifeTest, AWindowThatTheHostDestroyedIsKnownNoMore) {
+TEST_F(MirelGuiLifeTest, AWindowThatTheHostDestroyedIsForgotten) {
     desk.open();
     DestroyWindow(desk.window());
     EXPECT_EQ(desk.window(), nullptr);
@@ -355,7 +355,7 @@ TEST(MirelGuiSettings, NonsenseInAllOfThemDoesNoHarm) {
     }
 }
 
-// Where the host is asked to move to while the window is made.
+// Where the host is asked to move while the window is being created.
 class MirelGuiPlaceTest : public testing::Test {
 protected:
     void open(const Rect& last, bool dock, bool isVstPlugin) {
@@ -387,7 +387,7 @@ TEST_F(MirelGuiPlaceTest, IsTheLastOne) {
 
 TEST_F(MirelGuiPlaceTest, KeepsTheBottomEdgeOfADockedHost) {
     open({120, 90, 520, 650}, true, false);
-    // The host of this test is 600 pixels high and stands at 50; the window's own growth has moved it before.
+    // The host of this test is 600 pixels high and lies at 50; the window's own growth has moved it before.
     ASSERT_FALSE(moves().empty());
     EXPECT_EQ(moves().back().first, RelativeFixedValue(false, 120));
     EXPECT_EQ(moves().back().second, RelativeFixedValue(false, 650 - 600 + 50));

@@ -58,7 +58,7 @@ protected:
         return GetDlgItem(FindWindowExA(root, nullptr, nullptr, "Gui::System::SystemPanel"), id);
     }
 
-    // All that a message could change, but for what the host gets.
+    // Everything that a message could change, except what the host gets.
     std::string state() {
         std::string text;
         for (const auto& [name, value] : settings().describe())
@@ -95,7 +95,7 @@ TEST_F(MirelGuiMessagesTest, NumbersWithoutAMeaningDoNothing) {
 struct FlagSetting {
     UINT message;
     bool (RegistrySettings::*get)() const;
-    UINT toHost;  // 0: the host hears nothing.
+    UINT toHost;  // 0: the host gets nothing.
 };
 
 TEST_F(MirelGuiMessagesTest, FlagsGoIntoTheWindowsSettingsAndToTheHost) {
@@ -126,7 +126,7 @@ TEST_F(MirelGuiMessagesTest, FlagsGoIntoTheWindowsSettingsAndToTheHost) {
         }
 }
 
-// Their next press asks for the opposite of what they show.
+// Their next press requests the opposite of what they show.
 TEST_F(MirelGuiMessagesTest, ThruIsShownByItsButtons) {
     for (const HWND button : {systemControl(1021), GetDlgItem(desk.window(), 118)})
         for (const bool thru : {false, true}) {
@@ -149,7 +149,7 @@ TEST_F(MirelGuiMessagesTest, TheLogsFontFollowsItsSetting) {
     EXPECT_EQ(font(), gui().getGdiManager().getSmallFont().handle());
 }
 
-// What a message brings may be missing.
+// A message's payload may be missing.
 TEST_F(MirelGuiMessagesTest, MessagesWithoutTheirObjectsDoNothing) {
     const std::string before = state();
     for (const UINT message : {33220u, 33221u, 33222u, 33223u, 33228u, 33255u, 33256u})
@@ -218,7 +218,7 @@ struct ScreenMessages {
 };
 
 TEST_F(MirelGuiMessagesTest, ScreensShowHideAndToggle) {
-    // The message behind each toggles.
+    // The message after each one toggles.
     const ScreenMessages rows[] = {
         {33229, &MirelGuiIF::isSystemPanelShowing},  {33231, &MirelGuiIF::isHelpPanelShowing},
         {33233, &MirelGuiIF::isDisplayPanelShowing}, {33239, &MirelGuiIF::isComputerInputPanelShowing},
@@ -290,7 +290,7 @@ TEST_F(MirelGuiMessagesTest, AFullLogDoesNotHoldTheWindowUp) {
     flood.join();
 }
 
-// As before, and the desk waits for the log too.
+// The same, with the desk waiting for the log too.
 TEST_F(MirelGuiMessagesTest, AFullLogDoesNotHoldUpTheWindowThatWaitsForTheDesk) {
     constexpr int CAPACITY = Platform::MessageThread::CAPACITY;
     gui().showDisplay(true);
@@ -361,12 +361,12 @@ TEST_F(MirelGuiMessagesTest, AHoverShowsTheHelpOfWhatIsThere) {
     EXPECT_EQ(textOf(text), help);
 }
 
-TEST_F(MirelGuiMessagesTest, ADockedWindowTellsTheDesk) {
+TEST_F(MirelGuiMessagesTest, ADockedWindowNotifiesTheDesk) {
     gui().setDockToBottomEdge(true);
     EXPECT_TRUE(gui().getDockToBottomEdge());
     desk.settle();
     EXPECT_TRUE(desk.mirel().getRegistrySettings().getDockToBottomEdge());
-    EXPECT_EQ(desk.host.count(UM_DOCK_CHANGED), 1u);  // By way of the desk.
+    EXPECT_EQ(desk.host.count(UM_DOCK_CHANGED), 1u);  // Through the desk.
 }
 
 TEST_F(MirelGuiMessagesTest, OutputsHaveNamesByTheirIndex) {
@@ -409,7 +409,7 @@ protected:
     WindowDesk desk;
 };
 
-TEST_F(MirelGuiHookTest, TheHookLearnsOfTheWindowAndTheSetting) {
+TEST_F(MirelGuiHookTest, TheHookGetsTheWindowAndTheSetting) {
     open(TestSupport::RecordedHook::recordingFolder(), true);
     const std::string calls = hook.takeCalls();
     EXPECT_TRUE(calls.starts_with("setWindowHandle window\nsetEnabled on\n")) << calls;

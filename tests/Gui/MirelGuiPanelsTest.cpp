@@ -15,7 +15,7 @@ bool isVisible(HWND window) {
     return (GetWindowLongPtrA(window, GWL_STYLE) & WS_VISIBLE) != 0;
 }
 
-// Whether a button is drawn as one that is on.
+// Whether a button is drawn as on.
 bool isLit(MirelGui& gui, HWND button) {
     const Picture picture(button);
     return picture.count(gui.getGdiManager().getSelectedButtonBrush().colour()) >
@@ -93,7 +93,7 @@ TEST_F(MirelGuiPanelsTest, TheWindowIsAsHighAsItsScreens) {
     EXPECT_EQ(desk.size().cy, before);
 }
 
-TEST_F(MirelGuiPanelsTest, TheHostHearsOfEachSize) {
+TEST_F(MirelGuiPanelsTest, TheHostIsNotifiedOfEachSize) {
     desk.host.forgetMessages();
     gui().showHelp(true);
     const auto sizes = desk.host.received(UM_SIZE_CHANGED);
@@ -102,7 +102,7 @@ TEST_F(MirelGuiPanelsTest, TheHostHearsOfEachSize) {
     EXPECT_EQ(sizes.back().lParam, desk.size().cy);
 }
 
-TEST_F(MirelGuiPanelsTest, TheHostHearsOfAMinimiseButNothingMoves) {
+TEST_F(MirelGuiPanelsTest, TheHostIsNotifiedOfAMinimiseButNothingMoves) {
     gui().handleDockToBottomEdgeChanged(true);
     desk.settle();
     desk.host.forgetMessages();
@@ -180,7 +180,7 @@ struct LampRow {
     int button;
 };
 
-TEST_F(MirelGuiPanelsTest, EachScreensButtonTellsWhetherItShows) {
+TEST_F(MirelGuiPanelsTest, EachScreensButtonShowsWhetherItIsVisible) {
     for (const LampRow& row : {LampRow{&MirelGuiIF::showOutput, 102}, LampRow{&MirelGuiIF::showControl, 1012},
                                LampRow{&MirelGuiIF::showDisplay, 1016}, LampRow{&MirelGuiIF::showHelp, 1020}}) {
         (gui().*row.show)(true);
@@ -227,7 +227,7 @@ TEST_F(MirelGuiPanelsTest, ATogglePutsAPanelOfAHiddenOutputScreenOn) {
     }
 }
 
-TEST_F(MirelGuiPanelsTest, OnlyTheSystemPanelTellsTheHost) {
+TEST_F(MirelGuiPanelsTest, OnlyTheSystemPanelNotifiesTheHost) {
     desk.settle();
     desk.host.forgetMessages();
     gui().showHelp(true);

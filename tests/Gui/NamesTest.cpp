@@ -1,4 +1,4 @@
-// The names and numbers by which windows of the desk, and the host, know one another.
+// The names and numbers by which the desk's windows and the host recognise each other.
 #include "Gui/Utils/skin/SkinProperties.h"
 #include "Gui/Utils/windows/UserMessages.h"
 
@@ -54,22 +54,14 @@ struct Number {
 
 TEST(UserMessagesTest, HaveTheirNumbers) {
     constexpr Number NUMBERS[] = {
-        {UM_RETURN_FOCUS, 101},
-        {UM_HOVER, 102},
-        {UM_VERTICAL_TRACK, 103},
-        {UM_HORIZONTAL_TRACK, 104},
-        {UM_CHILD_RESIZED, 105},
-        {UM_SIZE_CHANGED, 105},
-        {UM_DOCK_CHANGED, 106},
-        {UM_ALWAYS_ON_TOP_CHANGED, 107},
-        {UM_SKIN_BORDER_CHANGED, 108},
-        {UM_MOUSEWHEEL, 109},
-        {UM_SYSTEM_PANEL_SHOWN, 110},
-        {UM_BANK_CHANGED, 111},
-        {UM_MIDI_THRU_CHANGED, 117},
-        {UM_GLOBAL_KEYBOARD_CHANGED, 118},
-        {UM_MOVE_WINDOW, 120},
-        {UM_DISPLAY_CREATED, 121},
+        {UM_RETURN_FOCUS, 101},        {UM_HOVER, 102},
+        {UM_VERTICAL_TRACK, 103},      {UM_HORIZONTAL_TRACK, 104},
+        {UM_CHILD_RESIZED, 105},       {UM_SIZE_CHANGED, 105},
+        {UM_DOCK_CHANGED, 106},        {UM_ALWAYS_ON_TOP_CHANGED, 107},
+        {UM_SKIN_BORDER_CHANGED, 108}, {UM_MOUSEWHEEL, 109},
+        {UM_SYSTEM_PANEL_SHOWN, 110},  {UM_BANK_CHANGED, 111},
+        {UM_MIDI_THRU_CHANGED, 117},   {UM_GLOBAL_KEYBOARD_CHANGED, 118},
+        {UM_MOVE_WINDOW, 120},         {UM_DISPLAY_CREATED, 121},
         {UM_MODAL_WORK_DONE, 123},
     };
     for (const Number& row : NUMBERS)

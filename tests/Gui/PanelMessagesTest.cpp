@@ -1,4 +1,4 @@
-// What the desk tells of layers, zones and controls: the panels' copies, and what of the panels is painted anew.
+// The desk's notifications of layers, zones and controls: the panels' copies, and what is repainted.
 #include "Backend/functions/values/RelativeFixedValue.h"
 #include "Backend/functions/values/SelectControlType.h"
 #include "Backend/functions/values/SelectType.h"
@@ -30,7 +30,7 @@ constexpr SelectionKind EDIT = SelectionKind::EDIT;
 constexpr SelectionKind DATA = SelectionKind::DATA;
 constexpr int HEIGHT = 100;
 
-// A panel of a real desk in a window of its own, shown with all that is in it.
+// A panel of a real desk in a window of its own, shown with all its contents.
 template <class Panel>
 class PanelMessagesTest : public testing::Test {
 protected:
@@ -55,7 +55,7 @@ protected:
         panel->getMessageManager().handleMessage(message, wParam, lParam);
     }
 
-    // What waits to be painted: nothing, "all", or a rectangle.
+    // The area that waits to be painted: nothing, "all", or a rectangle.
     static std::string painted(const Gui::Panel& part) {
         RECT waiting{};
         RECT client{};
@@ -361,7 +361,7 @@ TEST_F(KeyMessagesTest, ANewMapFillsTheSettingsAnew) {
     EXPECT_EQ(painted(settings.getUpFunctionPanel()), "all");
 }
 
-// The desk's own windows hear of each change of the presets.
+// The desk's own windows are notified of each change of the presets.
 TEST(PresetNames, ReachTheWindow) {
     TestSupport::WindowDesk desk;
     desk.start();

@@ -298,7 +298,7 @@ TEST(HelpTexts, OfTheSettingsOfFunctionsAndOfKeys) {
         EXPECT_EQ(loadText(row.id), row.text) << row.id;
 }
 
-TEST(HelpTexts, OfControlsTellOfTheRightButton) {
+TEST(HelpTexts, OfControlsMentionTheRightButton) {
     for (const int id : {148, 178, 179, 180, 181})
         EXPECT_NE(loadText(id).find("ight click"), std::string::npos) << id;
 }

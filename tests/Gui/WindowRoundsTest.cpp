@@ -1,4 +1,4 @@
-// A window that is opened and closed for a whole season in one process.
+// A window that is opened and closed in one process as often as in a whole season.
 #include "tests/support/win32/OwnedHandles.h"
 #include "tests/support/win32/OwnedMemory.h"
 #include "tests/support/win32/WindowDesk.h"

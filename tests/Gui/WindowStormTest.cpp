@@ -1,4 +1,4 @@
-// The desk with its window under more than it ever gets: floods of events while the window shows, hides and goes.
+// The desk with its window under more load than it ever gets: floods of events while the window shows, hides and goes.
 #include "Backend/core/files/Bank.h"
 #include "Backend/core/log/DisplayListener.h"
 #include "Backend/functions/values/SelectType.h"
@@ -53,7 +53,7 @@ std::vector<std::string> splitLines(const std::string& text) {
     return lines;
 }
 
-// The number that an event's line begins with.
+// The number at the start of an event's line.
 std::optional<int> numberOf(const std::string& line) {
     int number = 0;
     const auto [end, error] = std::from_chars(line.data(), line.data() + line.size(), number);
@@ -62,7 +62,7 @@ std::optional<int> numberOf(const std::string& line) {
     return number;
 }
 
-// Asks a window whether it still answers, each time that something has gone on.
+// Checks at every step that a window still answers.
 class AnswerWatch {
 public:
     AnswerWatch(HWND window, const std::atomic<int>& progress)
@@ -139,7 +139,7 @@ protected:
         return text;
     }
 
-    // Events go out and others come in, at once, while the window is asked whether it answers.
+    // Sends events out and lets others come in at the same time, while checking that the window answers.
     void storm(int eventsEachWay) {
         AnswerWatch watch(desk.window(), played);
         std::atomic<int> done = 0;
@@ -176,7 +176,7 @@ protected:
         expectLog(splitLines(TestSupport::readLog(desk.mirel().getDisplayMessageManager())));
     }
 
-    // A note that the engine took for sounding would be ended now.
+    // A note that the engine believed to be sounding would be ended now.
     void expectNothingSounds() {
         engine().sendReset();
         desk.settle();
@@ -186,7 +186,7 @@ protected:
     static void expectLog(const std::vector<std::string>& lines) {
         ASSERT_GT(lines.size(), 100u);
         const int first = 2 * EVENTS_EACH_WAY - static_cast<int>(lines.size());
-        for (std::size_t i = 1; i < lines.size(); ++i)  // The oldest line is cut somewhere.
+        for (std::size_t i = 1; i < lines.size(); ++i)  // The oldest line may be cut.
             ASSERT_EQ(numberOf(lines[i]), first + static_cast<int>(i)) << lines[i];
         EXPECT_EQ(numberOf(lines.back()), 2 * EVENTS_EACH_WAY - 1);
     }
@@ -275,7 +275,7 @@ protected:
         return GetDlgItem(FindWindowExA(root, nullptr, nullptr, "Gui::Display::DisplayPanel"), 1074);
     }
 
-    // One message, if there is one.
+    // Dispatches one message, if there is one.
     static void handOutOne() {
         MSG message;
         if (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
@@ -301,7 +301,7 @@ TEST_F(WindowClosingTest, ClosesWhileEventsPourIn) {
             const HWND edit = logEdit();
             EXPECT_TRUE(TestSupport::eventually([&] {
                 handOutOne();
-                SendMessageA(GetParent(edit), WM_TIMER, 0, 0);  // The flood leaves no room for the system's own.
+                SendMessageA(GetParent(edit), WM_TIMER, 0, 0);  // The flood leaves no room for the system's own timers.
                 return round % 2 != 0 || GetWindowTextLengthA(edit) > 1000;
             }));
             desk.gui().destroy();  // Returns while they go on.
@@ -324,7 +324,7 @@ TEST_F(WindowClosingTest, ClosesDuringALoadAndDuringAChangeOfTheBank) {
             case 1: manager.postLoadBank(bank); break;
             default: manager.postChangeProgram(SelectType(SelectType::SPECIFIC, round % 2)); break;
         }
-        for (int i = 0; i < round / 3; ++i)  // Goes at another moment of the load each time.
+        for (int i = 0; i < round / 3; ++i)  // Ends at a different moment of the load each time.
             handOutOne();
         desk.close();
     }

@@ -8,7 +8,7 @@
 namespace Platform {
 namespace {
 
-TEST(AddressWaitTest, WordOfAnotherValueIsNotWaitedFor) {
+TEST(AddressWaitTest, ReturnsAtOnceIfTheWordDiffers) {
     const std::atomic<std::uint32_t> word{7};
     waitWhileEqual(word, 6);
 }

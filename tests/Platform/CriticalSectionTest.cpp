@@ -138,7 +138,7 @@ TEST(CriticalSectionTest, WaitWithMessageLoopTakesMessagesWhileItWaits) {
         section.waitWithMessageLoop();
         section.leave();
     });
-    // More than the queue holds, so they go in only if they are taken.
+    // More than the queue holds, so they only fit if they are taken.
     for (std::size_t i = 0; i < 2 * MessageThread::CAPACITY; ++i)
         ASSERT_TRUE(eventually([&] { return thread.post(WM_APP, 0, 0); }));
     section.leave();

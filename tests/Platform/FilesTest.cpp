@@ -56,7 +56,7 @@ TEST(FilesTest, AFileWithTheLongestNameIsReplaced) {
     EXPECT_EQ(entries(folder.path()), 1u);
 }
 
-TEST(FilesTest, ReadRefusesWhatIsTooLargeOrNoPlainFile) {
+TEST(FilesTest, ReadRefusesLargeFilesAndWhatIsNotAPlainFile) {
     const TemporaryFolder folder;
     const std::string path = folder.file("a");
     ASSERT_TRUE(Files::replace(path, "12345"));
@@ -101,7 +101,7 @@ TEST(FilesTest, ReaderSeesTheOldOrTheNewContentOfAReplacedFile) {
     EXPECT_EQ(strange, 0);
 }
 
-TEST(FilesTest, AppendMakesTheFileAndAddsToItsEnd) {
+TEST(FilesTest, AppendCreatesTheFileOrAddsToItsEnd) {
     const TemporaryFolder folder;
     const std::string path = folder.file("a");
     EXPECT_TRUE(Files::append(path, "one\n"));
@@ -140,7 +140,7 @@ TEST(FilesTest, MoveKeepsAnExistingTarget) {
     EXPECT_FALSE(Files::move(folder.path(), folder.path() + "2")) << "a folder";
 }
 
-TEST(FilesTest, CreateFoldersMakesAllAbove) {
+TEST(FilesTest, CreateFoldersCreatesParentsToo) {
     const TemporaryFolder folder;
     const std::string deep = folder.file("a/b/" + UNICODE_NAME);
     EXPECT_TRUE(Files::createFolders(deep));
@@ -172,7 +172,7 @@ TEST(FilesTest, ListGivesPlainFilesOfTheExtensionInByteOrder) {
     EXPECT_TRUE(Files::list("", ".seq").empty());
 }
 
-TEST(FilesTest, SizeIsThatOfPlainFilesAlone) {
+TEST(FilesTest, OnlyPlainFilesHaveASize) {
     const TemporaryFolder folder;
     ASSERT_TRUE(Files::replace(folder.file("a"), "123"));
     EXPECT_EQ(Files::size(folder.file("a")), 3u);

@@ -25,7 +25,7 @@ struct Received {
     bool operator==(const Received&) const = default;
 };
 
-// A thread that keeps what it gets until WM_QUIT or END_MESSAGE.
+// A thread that records what it gets until WM_QUIT or END_MESSAGE.
 class Recorder {
 public:
     ~Recorder() { end(); }

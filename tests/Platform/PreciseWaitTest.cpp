@@ -19,7 +19,7 @@ TEST(PreciseWaitTest, WaitsNoShorterThanAsked) {
     for (const std::int64_t length : {0, 1, 999, 1000, 2500}) {
         const std::int64_t until = monotonicMicroseconds() + length;
         wait.waitUntil(until);
-        // Timers of the system may round to their own grain.
+        // The system's timers may round to their own resolution.
         EXPECT_GE(monotonicMicroseconds(), until - 1000) << length;
     }
 }
@@ -38,7 +38,7 @@ TEST(PreciseWaitTest, WakeEndsAWaitFromAnotherThread) {
     waker.join();
 }
 
-TEST(PreciseWaitTest, WakeBeforeTheWaitEndsTheNextOneAlone) {
+TEST(PreciseWaitTest, WakeBeforeTheWaitEndsOnlyTheNextOne) {
     PreciseWait wait;
     wait.wake();
     wait.wake();
@@ -48,7 +48,7 @@ TEST(PreciseWaitTest, WakeBeforeTheWaitEndsTheNextOneAlone) {
     EXPECT_GE(monotonicMicroseconds(), until - 1000) << "the second wake was used up with the first";
 }
 
-TEST(PreciseWaitTest, TakesNothingFromTheHeap) {
+TEST(PreciseWaitTest, AllocatesNothing) {
     PreciseWait wait;
     std::size_t count = 0;
     {

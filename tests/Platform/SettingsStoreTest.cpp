@@ -42,7 +42,7 @@ void expectAll(SettingsStore& store, const std::string& key) {
     EXPECT_EQ(opened->readBytes("missing"), std::nullopt);
 }
 
-TEST_F(SettingsStoreTest, ValuesAreThereForTheNextToOpen) {
+TEST_F(SettingsStoreTest, ValuesAreKeptForTheNextOpening) {
     writeAll(*m_store, "A\\B\\1.0");
     expectAll(*m_store, "A\\B\\1.0");
     expectAll(*createFileSettingsStore(m_path), "A\\B\\1.0");
@@ -54,7 +54,7 @@ TEST_F(SettingsStoreTest, KeysDoNotShareTheirValues) {
     expectAll(*m_store, "one");
 }
 
-TEST_F(SettingsStoreTest, OpeningMakesTheKey) {
+TEST_F(SettingsStoreTest, OpeningCreatesTheKey) {
     ASSERT_NE(m_store->open("key"), nullptr);
     EXPECT_EQ(Files::read(m_path), "[key]\n");
 }
@@ -82,7 +82,7 @@ TEST_F(SettingsStoreTest, NonsenseInTheFileCountsAsNoValue) {
     EXPECT_EQ(key->readNumber("j"), 7u);
 }
 
-TEST_F(SettingsStoreTest, OnlyAKeyThatIsThereOpensAsExisting) {
+TEST_F(SettingsStoreTest, OnlyAnExistingKeyOpensAsExisting) {
     EXPECT_EQ(m_store->openExisting("key"), nullptr);
     EXPECT_EQ(Files::read(m_path), std::nullopt);
     writeAll(*m_store, "key");
@@ -92,7 +92,7 @@ TEST_F(SettingsStoreTest, OnlyAKeyThatIsThereOpensAsExisting) {
     EXPECT_EQ(key->readNumber("number"), 4000000000u);
 }
 
-// As one that is far too large to be settings, or that somebody holds open.
+// For instance one that is far too large to hold settings, or that another program holds open.
 TEST_F(SettingsStoreTest, AFileThatCanNotBeReadIsNotReplacedByAnEmptyOne) {
     ASSERT_TRUE(Files::createFolders(m_folder.file("sub")));
     ASSERT_TRUE(Files::replace(m_path, "[key]\nnumber=number:5\n"));

@@ -35,7 +35,7 @@ TEST(WindowSinkTest, PostArrivesAtOnce) {
     }
 }
 
-TEST(WindowSinkTest, HandlesTellSinksApart) {
+TEST(WindowSinkTest, HandlesIdentifyTheirSinks) {
     RecordingSink one;
     RecordingSink two;
     EXPECT_NE(one.handle(), two.handle());

@@ -15,7 +15,7 @@ public:
 
     std::string path(const std::string& name) const { return Platform::Files::join(m_folder.getPath(), name); }
 
-    // Without the care for crashes that a save takes, which costs time.
+    // Without the crash safety of a save, which costs time.
     void write(const std::string& name, const unsigned char* data, std::size_t size) const {
         std::ofstream file(path(name), std::ios::binary);
         file.write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));

@@ -11,7 +11,7 @@
 
 namespace {
 
-// Commands whose numbers make them take as long as they say would only hold the fuzzer up.
+// Commands that take as long as their numbers say would only slow the fuzzer down.
 bool isQuick(const Host::Cli::ScriptLine& line) {
     constexpr int MAX_SLICES = 100;
     if (line.words.front() != "run" || line.words.size() < 4)
@@ -22,7 +22,7 @@ bool isQuick(const Host::Cli::ScriptLine& line) {
     return !from || !to || !step || *step < 1 || (std::int64_t{*to} - *from) / *step <= MAX_SLICES;
 }
 
-// Whether it keeps to this folder.
+// Whether it stays in this folder.
 bool isHarmless(const Host::Cli::ScriptLine& line) {
     return std::none_of(line.words.begin(), line.words.end(),
                         [](const std::string& word) { return word.find('/') != std::string::npos; });

@@ -1,5 +1,5 @@
-// Any bytes as a file to check. Each complaint is one line of printable text about a line that the file has, and the
-// same file is always told the same.
+// Any bytes as a file to check. Each complaint is one line of printable text about an existing line, and the same file
+// always gets the same complaints.
 #include "Host/cli/check/FileCheck.h"
 
 #include <algorithm>
@@ -14,7 +14,7 @@ void require(bool holds) {
         std::abort();
 }
 
-// In places where there is no preset at all.
+// In a place without any presets.
 Complaints check(std::string_view content) {
     PresetFiles presets("", "/nowhere");
     FileCheck check(content, presets);
@@ -31,7 +31,7 @@ bool isSame(const Complaint& left, const Complaint& right) {
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
     const std::string content(reinterpret_cast<const char*>(data), size);
-    // At most: a return alone ends a line as well.
+    // At most, because a lone carriage return also ends a line.
     const auto ends = std::count_if(content.begin(), content.end(), [](char c) { return c == '\n' || c == '\r'; });
     const Complaints complaints = check(content);
     int line = 1;

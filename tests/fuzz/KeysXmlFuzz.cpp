@@ -1,6 +1,6 @@
-// Any bytes as the keys of a program, and as the name of a key. Functions equal their copies and what is read back of
-// them. What was written is read back to the same text for good from the second time on: at first a key may become one
-// without a name, and then there is but one of these.
+// Any bytes as the keys of a program, and as the name of a key. Functions equal their copies and what is read back from
+// their text. From the second time on, what was written reads back to the same text; the first time, a key may lose its
+// name, and there is only one key without a name.
 #include "Backend/core/xml/XmlDocument.h"
 #include "Backend/input/KeyConfigurationMap.h"
 #include "tests/support/FakeHost.h"

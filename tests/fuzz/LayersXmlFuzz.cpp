@@ -1,5 +1,5 @@
-// Any bytes as a list of layers and of zones. What was written once is read back to the same text for good; only the
-// first time may it settle, as a limit that is no note is written empty and so read as none.
+// Any bytes as a list of layers and of zones. What was written once reads back to the same text; only the first time
+// may it change, because a limit that isn't a note is written empty and so read as none.
 #include "Backend/core/xml/XmlDocument.h"
 #include "Backend/midi/layers/LayerList.h"
 #include "Backend/midi/layers/ZoneMap.h"

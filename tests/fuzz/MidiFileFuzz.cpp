@@ -1,5 +1,5 @@
-// Any bytes as a MIDI file. Those that can be read are written in both layouts and read back: the events have to be the
-// same.
+// Any bytes as a MIDI file. Files that can be read are written in both layouts and read back, and must give the same
+// events.
 #include "Host/common/midifile/MidiFileClock.h"
 #include "Host/common/midifile/MidiFileReader.h"
 #include "Host/common/midifile/MidiFileWriter.h"
@@ -21,7 +21,7 @@ void require(bool holds) {
         std::abort();
 }
 
-// Empty texts are what the writer bridges pauses with, so they don't count in a comparison.
+// The writer bridges pauses with empty texts, so they don't count in a comparison.
 bool isBridge(const MidiFileEvent& event) {
     return event.isMeta(META_TEXT) && event.data.empty();
 }

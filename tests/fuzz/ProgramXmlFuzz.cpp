@@ -1,5 +1,5 @@
-// Any bytes as a program. What was written twice reads back to the same text, and a bank that takes it in keeps its
-// other programs.
+// Any bytes as a program. What was written twice reads back to the same text, and a bank that it is saved into keeps
+// its other programs.
 #include "Backend/core/files/BankFile.h"
 #include "Backend/core/xml/XmlDocument.h"
 #include "Backend/core/xml/XmlElement.h"

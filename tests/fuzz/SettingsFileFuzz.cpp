@@ -1,4 +1,4 @@
-// Any bytes as the file of settings. What was read is there again after it was written.
+// Any bytes as the file of settings. What was read is still there after it was written.
 #include "Backend/core/settings/RegistrySettings.h"
 #include "Platform/Files.h"
 #include "Platform/TemporaryFolder.h"

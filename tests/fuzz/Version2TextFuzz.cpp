@@ -1,4 +1,4 @@
-// Any bytes as a version 2 bank, program and preset of each kind. What comes of it can be read.
+// Any bytes as a version 2 bank, program and preset of each kind. The result can be read.
 #include "Backend/core/version2/Version2Import.h"
 #include "Backend/core/xml/XmlDocument.h"
 #include "Backend/core/xml/XmlElement.h"

@@ -1,4 +1,4 @@
-// Any bytes as a document, walked whole through the cursor.
+// Any bytes as a document, walked completely through the cursor.
 #include "Backend/core/xml/XmlDocument.h"
 
 namespace {

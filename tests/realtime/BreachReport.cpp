@@ -1,4 +1,5 @@
-// Of the program alone, not of the tests: whatever a script printed, it fails if a slice did what it must not.
+// For the program only, not for the tests: whatever a script printed, the program fails if a slice did something
+// forbidden.
 #include "tests/realtime/SliceGuard.h"
 
 #include <unistd.h>

@@ -1,5 +1,5 @@
-// The functions of the system's libraries that a slice must not call. They stand before the libraries' own for all of
-// the program, note the call and hand it on.
+// The functions of the system's libraries that a slice must not call. These replace the libraries' own for the whole
+// program, record the call and pass it on.
 #include <dlfcn.h>
 #include <linux/futex.h>
 #include <poll.h>
@@ -30,7 +30,7 @@ Function* find(Function*, const char* name) {
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
-// The same where the library still has an older one of that name.
+// The same for functions of which the library also has an older version.
 template <class Function>
 Function* findNewest(Function* function, const char* name) {
     if (void* newest = dlvsym(RTLD_NEXT, name, "GLIBC_2.3.2"))
@@ -40,7 +40,7 @@ Function* findNewest(Function* function, const char* name) {
 
 }
 
-// The heap, whose own functions have second names that need no search.
+// The heap, whose own functions have second names that needn't be looked up.
 extern "C" {
 
 void* __libc_malloc(std::size_t size);
@@ -81,7 +81,7 @@ void free(void* memory) noexcept {
     __libc_free(memory);
 }
 
-// Locks and waits. What only tries is allowed.
+// Locks and waits. Merely trying is allowed.
 int pthread_mutex_lock(pthread_mutex_t* mutex) noexcept {
     noteIfInside("pthread_mutex_lock");
     static auto* const own = find(pthread_mutex_lock, "pthread_mutex_lock");

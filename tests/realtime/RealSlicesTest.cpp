@@ -1,4 +1,4 @@
-// Slices of the desk as it runs on real ports, and of what scripts don't reach: the controls' queue and floods.
+// Slices of the desk as it runs on real ports, and what scripts don't reach: the controls' queue and floods.
 #include "Backend/core/Mirel.h"
 #include "Backend/core/MirelMessageManager.h"
 #include "Backend/core/installation/MirelUtils.h"
@@ -107,7 +107,7 @@ TEST_F(RealSlicesTest, PlayerOfPorts) {
     EXPECT_EQ(SliceGuard::takeBreaches(), Breaches());
 }
 
-// A host that takes nothing of the heap for itself.
+// A host that allocates nothing itself.
 class QuietHost : public MidiEngine::MidiPlayer {
 public:
     void playMidi(const MirelMidiMessage&) override { ++played; }
@@ -145,7 +145,7 @@ public:
 
     void post(const MirelMidiMessage& event) { engine().postPlayMidi(event); }
 
-    // Waits for backend and engine, with slices for what waits for one.
+    // Waits for backend and engine, playing slices for those who wait for one.
     void settle() {
         while (!mirel.getMessageManagerMaster().isIdle() || !engine().isIdle()) {
             if (mirel.getMidiEngine().isSliceAwaited())
@@ -179,7 +179,7 @@ TEST_F(RealSlicesTest, ControlsFollowWithoutTheHeap) {
     desk.settle();
     desk.playSlice(1);
 
-    // What found no room in the first slice follows in later ones.
+    // What didn't fit into the first slice follows in later ones.
     EXPECT_TRUE(eventually([&] {
         desk.playSlice(1);
         desk.settle();

@@ -23,7 +23,7 @@ struct AllowedPlace {
     std::string_view reason;
 };
 
-// Nothing of the engine and of the real host is among these.
+// Nothing in the engine or the real host is among these.
 constexpr std::array ALLOWED = {
     AllowedPlace{"Host::Cli::ScriptPlayer::", "a script's outputs and window: they keep text of what is played"},
     AllowedPlace{"Host::Cli::ScriptDesk::keepUpdate", "a script's controls: they hear of events after the slice"},
@@ -34,7 +34,7 @@ constexpr int DEPTH = 40;
 thread_local bool t_isInside = false;
 std::atomic<std::size_t> s_count{0};
 
-// Built when first used and never destroyed, as threads may still play when the program ends.
+// Built on first use and never destroyed, because threads may still be playing when the program ends.
 struct Breaches {
     std::mutex mutex;
     std::set<std::string> texts;
@@ -60,7 +60,8 @@ struct Caller {
     bool isAllowed;
 };
 
-// Looked up once, as scripts come by the same places with each event. Only under the mutex of the breaches.
+// Looked up only once, because scripts pass the same places with each event. Use it only under the mutex of the
+// breaches.
 const Caller& callerAt(void* address) {
     static auto* const all = new std::map<void*, Caller>;
     const auto known = all->find(address);

@@ -6,9 +6,9 @@
 
 namespace TestSupport {
 
-// While one lives, its thread is in a slice: taking from the heap or returning to it, waiting, writing, opening files
-// and reading the clock are breaches, which are noted with the calls that led there. For the programs of this folder,
-// as the calls are caught where a program calls the system's libraries.
+// While this object exists, its thread is in a slice: allocating or freeing memory, waiting, writing, opening files and
+// reading the clock are breaches, which are recorded with the calls that led there. For the programs in this folder,
+// since it catches a program's calls of the system's libraries.
 class SliceGuard {
 public:
     SliceGuard();

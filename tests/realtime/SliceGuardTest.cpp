@@ -115,7 +115,7 @@ TEST_F(SliceGuardTest, NothingIsNotedOutsideAndOnOtherThreads) {
     EXPECT_EQ(SliceGuard::takeBreaches(), std::vector<std::string>());
 }
 
-// An output that takes from the heap with each event.
+// An output that allocates with each event.
 class GreedyPlayer : public FakeHost {
 public:
     void playMidi(const MirelMidiMessage&) override { delete new int; }

@@ -11,8 +11,8 @@ thread_local std::size_t t_returned = 0;
 
 }
 
-// The heap of all test programs, so that it can be counted. The array and sized forms come here as well. The form that
-// does not throw is the library's own for sorting, and must match.
+// The heap of all test programs, so that it can be counted. The array and sized forms end up here as well. The form
+// that does not throw is what the library's sorting uses, and must match.
 void* operator new(std::size_t size) {
     if (t_isCounting)
         ++t_count;

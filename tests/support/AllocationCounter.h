@@ -4,7 +4,7 @@
 
 namespace TestSupport {
 
-// Counts what the calling thread takes from the heap while this object lives. One at a time on a thread.
+// Counts the calling thread's heap allocations while this object exists. One at a time per thread.
 class AllocationCounter {
 public:
     AllocationCounter();
@@ -14,7 +14,7 @@ public:
 
     std::size_t count() const;
 
-    // How much of it was not given back. Negative if the thread gave back more.
+    // How many were not freed. Negative if the thread freed more.
     std::ptrdiff_t unreturned() const;
 };
 

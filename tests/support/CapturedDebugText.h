@@ -8,7 +8,7 @@
 
 namespace TestSupport {
 
-// Catches what goes to the debug sink while this object lives.
+// Captures what goes to the debug sink while this object exists.
 class CapturedDebugText {
 public:
     CapturedDebugText() {
@@ -22,7 +22,7 @@ public:
     CapturedDebugText(const CapturedDebugText&) = delete;
     CapturedDebugText& operator=(const CapturedDebugText&) = delete;
 
-    // One entry a call.
+    // One entry per call.
     std::vector<std::string> texts() const {
         const std::lock_guard lock(m_mutex);
         return m_texts;

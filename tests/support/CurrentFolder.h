@@ -7,7 +7,7 @@
 
 namespace TestSupport {
 
-// Works in another folder while it lives.
+// Changes the current folder while this object exists.
 class CurrentFolder {
 public:
     explicit CurrentFolder(const std::string& path) : m_before(std::filesystem::current_path()) {

@@ -10,7 +10,7 @@
 
 namespace TestSupport {
 
-// The rows of a file in tests/data, whose columns are divided by "|". A line that begins with "#" is a comment.
+// The rows of a file in tests/data, whose columns are separated by "|". A line that begins with "#" is a comment.
 inline std::vector<std::vector<std::string>> readTable(const std::string& name) {
     std::ifstream file(projectFile("tests/data/" + name));
     EXPECT_TRUE(file.is_open()) << name;

@@ -9,10 +9,10 @@
 
 namespace TestSupport {
 
-// The layers of the text of a Layers element.
+// The layers in the text of a Layers element.
 Backend::Layers::LayerList readLayers(const std::string& xml);
 
-// A Layers element with this many equal layers inside.
+// A Layers element with this many equal layers in it.
 std::string repeatLayer(const std::string& layer, int count);
 
 // An engine with a fake host, two outputs and its thread running.
@@ -23,10 +23,10 @@ public:
 
     Backend::MidiEngine::MidiEngineMessageManager& manager() { return engine->getMessageManager(); }
 
-    // Carries out on this thread what the engine's thread would do. Only before the first slice.
+    // Does on this thread what the engine's thread would do. Only before the first slice.
     void setLayers(const std::string& xml);
 
-    // Posts and waits until the engine has it.
+    // Posts an event and waits until the engine has it.
     void post(const Backend::MidiEngine::MirelMidiMessage& message);
     void post(Backend::MidiEngine::MidiMessage::MessageType status, int d1, int d2);
 

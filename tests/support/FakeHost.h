@@ -11,7 +11,7 @@
 
 namespace TestSupport {
 
-// A host, a window-less backend and controls in one, which remember what the engine tells them.
+// A host, a backend without a window, and controls in one; they record what the engine reports to them.
 class FakeHost : public Backend::MidiEngine::MidiPlayer {
 public:
     // Under the engine's lock.

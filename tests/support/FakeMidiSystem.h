@@ -13,28 +13,28 @@
 
 namespace TestSupport {
 
-// MIDI ports that exist in a test alone: plugged and unplugged, hung and freed by it. Everything is [any].
+// MIDI ports that exist only in a test, which can plug and unplug them and make them hang. Everything is [any].
 class FakeMidiSystem : public Host::MidiSystem, public std::enable_shared_from_this<FakeMidiSystem> {
 public:
     using Bytes = std::vector<std::uint8_t>;
 
-    // What is plugged in, by names in the system's order.
+    // Sets what is plugged in, by names in the system's order.
     void plugInputs(const std::vector<std::string>& names);
     void plugOutputs(const std::vector<std::string>& names);
 
-    // Ports of this name can't be opened, or can again.
+    // Makes ports of this name fail to open, or open again.
     void refuse(const std::string& name, bool refuses);
 
-    // An output of this name hangs in each of its sends, or goes on.
+    // Makes an output of this name hang in each of its sends, or go on.
     void hang(const std::string& name, bool hangs);
 
-    // Sends to an output of this name fail, or work again.
+    // Makes sends to an output of this name fail, or work again.
     void breakPort(const std::string& name, bool isBroken);
 
-    // How many sends hang at the moment, of all ports.
+    // How many sends hang at the moment, over all ports.
     int hanging() const { return m_hanging; }
 
-    // How often somebody asked what is plugged in.
+    // How often the list of ports was requested.
     int timesListed() const { return m_timesListed; }
 
     // What was sent to an output, by its name and copy.
@@ -44,7 +44,7 @@ public:
     bool isOutputOpen(const std::string& name, int copy = 1) const;
     int timesOpened(const std::string& name, int copy = 1) const;
 
-    // Has bytes come in from an input. False if it is not open.
+    // Delivers bytes from an input. False if it is not open.
     bool receive(const std::string& name, const Bytes& bytes, std::int64_t microseconds = 0, int copy = 1);
 
     std::string name() override { return "fake"; }

@@ -13,7 +13,7 @@
 
 namespace TestSupport {
 
-// A whole desk whose data lie in a folder of its own. Everything that a call sets off is done when it returns.
+// A whole desk with its data in a folder of its own. When a call returns, everything that it set off is done.
 class FileDesk {
 public:
     FileDesk() { m_desk.start(); }
@@ -55,7 +55,7 @@ public:
     }
 
 private:
-    // While it lives, data are kept in a folder.
+    // Keeps data in a folder while this object exists.
     struct DataFolder {
         explicit DataFolder(const std::string& path) { Backend::MirelUtils::useDataFolder(path); }
         ~DataFolder() { Backend::MirelUtils::useDataFolder(""); }
@@ -68,7 +68,7 @@ private:
     Host::Cli::ScriptDesk m_desk{{}};
 };
 
-// Remembers the numbers that were posted to it. Look at them only when their sender rests.
+// Records the numbers that were posted to it. Read them only while their sender is idle.
 class PostedNumbers : private Platform::WindowSink {
 public:
     HWND window() { return handle(); }

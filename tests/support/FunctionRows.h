@@ -9,25 +9,25 @@
 
 namespace TestSupport {
 
-// What every function class has to be, from tests/data/functions.txt.
+// What every function class must be like, from tests/data/functions.txt.
 struct FunctionRow {
     std::string className;
-    std::string displayName;  // Empty for what users can't choose.
+    std::string displayName;  // Empty if users can't choose it.
     std::string xmlTag;
     std::string kind;
     int helpId;
     std::string helpText;
-    std::string newElement;      // As a new one is written.
-    std::string emptyElement;    // As one that was read from an element without attributes is written.
-    std::string exampleElement;  // With every attribute, each other than in the two above.
+    std::string newElement;      // How a new one is written.
+    std::string emptyElement;    // How one read from an element without attributes is written.
+    std::string exampleElement;  // With every attribute, each different from the two above.
 };
 
 std::vector<FunctionRow> readFunctionRows();
 
-// The element's line as writeXml makes it, without the line end.
+// The element's line as writeXml writes it, without the line end.
 std::string write(const Backend::FunctionManagement::Function& function);
 
-// The function of an element's text; null for what is none.
+// The function in an element's text; null if there is none.
 std::unique_ptr<Backend::FunctionManagement::Function> readFunction(const std::string& xml, Backend::MirelIF& mirel);
 
 // A new function of a row, NoFunction included.

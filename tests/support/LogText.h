@@ -7,7 +7,7 @@
 
 namespace TestSupport {
 
-// All that stands in a desk's log at this moment. Nobody listens to the log afterwards.
+// The whole text of a desk's log at this moment. The log has no listener afterwards.
 inline std::string readLog(Backend::Display::DisplayMessageManager& log) {
     struct Reader : Backend::Display::DisplayListener {
         void append(const char* added) override { text += added; }

@@ -8,7 +8,7 @@
 
 namespace TestSupport {
 
-// Stands before a manager on a worker and sees what it gets.
+// Stands in front of a manager on a worker and records what it gets.
 class MessageWitness : public Backend::MessageManager {
 public:
     MessageWitness(Backend::MessageManagerMaster& master, Backend::MessageManager& manager)
@@ -24,7 +24,8 @@ public:
         m_manager.disposeMessage(message);
     }
 
-    // While the worker rests: what was handled since the last call, and the numbers of all that was disposed of.
+    // Call this while the worker is idle: what was handled since the last call, and the numbers of all that was
+    // disposed of.
     std::vector<MSG> takeSeen() { return std::exchange(m_seen, {}); }
     const std::vector<UINT>& getDisposed() const { return m_disposed; }
 
@@ -34,7 +35,7 @@ private:
     std::vector<UINT> m_disposed;
 };
 
-// Holds the worker back at a message of this number until it is let go.
+// Holds the worker at a message of this number until it is released.
 class WorkerGate : public Backend::MessageManager {
 public:
     static constexpr UINT NUMBER = 40001;

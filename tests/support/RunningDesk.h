@@ -16,8 +16,8 @@
 
 namespace TestSupport {
 
-// A whole desk with a data folder of its own, a host without ports or a clock, and something that takes the place of
-// the window and puts down in words what it is told. The thread of the test is the player's. One at a time.
+// A whole desk with a data folder of its own, a host without ports or a clock, and a stand-in for the window that
+// records its notifications in words. The test's thread acts as the player's. One at a time.
 class RunningDesk : public Backend::MidiEngine::MidiPlayer, private Platform::WindowSink {
 public:
     struct Posted {
@@ -42,7 +42,7 @@ public:
     // The same with two inputs and three outputs.
     void start();
 
-    // Ends it all, as the destructor does if need be.
+    // Ends everything; the destructor does so too if necessary.
     void end();
 
     Backend::Mirel& mirel() { return *m_mirel; }
@@ -62,10 +62,10 @@ public:
     // Settles after a slice.
     void playSlice(std::int32_t from, std::int32_t to);
 
-    // What the window was told since the last call: "NUMBER TEXT" each.
+    // Notifications to the window since the last call: "NUMBER TEXT" each.
     std::vector<std::string> takeTold();
 
-    // The same as it was posted. What a word points to is gone.
+    // The same as they were posted. Objects that words pointed to are gone.
     std::vector<Posted> takePosted();
 
     // What came out since the last call: "0xSS D1 D2 ch=C out=O" each.

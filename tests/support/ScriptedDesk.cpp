@@ -12,7 +12,7 @@ namespace {
 
 constexpr const char* KEY_PRESETS = "Computer Input Presets";
 
-// The settings and presets of a desk that is about to start.
+// Keeps the settings and presets of a desk that is about to start in a folder.
 Host::Cli::ScriptPlayer::Options keepIn(const TemporaryFolder& folder, Host::Cli::ScriptPlayer::Options options) {
     Backend::MirelUtils::useDataFolder(folder.path());
     return options;

@@ -11,17 +11,17 @@ namespace TestSupport {
 // A whole desk with a data folder of its own, driven by the commands of desk scripts.
 class ScriptedDesk {
 public:
-    // With a line for each notification to the window and each event that the controls hear of.
+    // With a line for each notification to the window and each event that reaches the controls.
     ScriptedDesk() : ScriptedDesk({false, true, true}) {}
     explicit ScriptedDesk(Host::Cli::ScriptPlayer::Options options);
 
-    // Carries commands out and returns the lines that they print. Throws ScriptError for what can't be understood.
+    // Executes commands and returns the lines that they print. Throws ScriptError for commands that make no sense.
     std::string run(const std::string& commands);
 
-    // The same with two slices behind them, which play all events that were sent, and without the times of the lines.
+    // Like run, followed by two slices that play all events that were sent, and without the times of the lines.
     std::string runAndPlay(const std::string& commands);
 
-    // Makes the function of an element and executes it, as a key would, and plays what it sent.
+    // Creates an element's function, executes it as a key would, and plays what it sent.
     std::string execute(const std::string& functionXml) { return runAndPlay("function\n" + functionXml + "\n.\n"); }
 
     // The folder that stands for the user's data.
@@ -31,7 +31,7 @@ public:
     void writeKeyPreset(const std::string& name, const std::string& text);
     std::string readKeyPreset(const std::string& name) const;
 
-    // On the backend thread.
+    // Runs something on the backend thread.
     void onBackend(const std::function<void(Backend::Mirel&)>& action) { m_desk.run(action); }
 
 private:

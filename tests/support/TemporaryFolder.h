@@ -12,7 +12,7 @@
 
 namespace TestSupport {
 
-// A folder of its own for one test, gone at the end of it. Its name is beyond ASCII.
+// A folder for one test, removed when it ends. Its name has characters beyond ASCII.
 class TemporaryFolder {
 public:
     TemporaryFolder() {

@@ -4,7 +4,7 @@
 
 namespace TestSupport {
 
-// A visitor that keeps which of its operations was called, by its place in their order, and what was visited.
+// A visitor that records which of its operations was called, by its place in their order, and what was visited.
 template <class Visitor, class List, std::size_t COUNT = List::SIZE>
 class VisitRecorder : public VisitRecorder<Visitor, List, COUNT - 1> {
 public:

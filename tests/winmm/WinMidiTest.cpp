@@ -1,4 +1,4 @@
-// The desk's ports at the real multimedia calls, with the devices of the tests' own driver behind them.
+// The desk's ports on the real multimedia calls, with the devices of the tests' own driver.
 #include "Host/common/desk/PortPlayer.h"
 #include "Host/common/ports/MidiPorts.h"
 #include "tests/support/Eventually.h"
@@ -43,7 +43,7 @@ protected:
         return std::exchange(m_events, {});
     }
 
-    // Everything that came in, as soon as there are so many.
+    // Everything that came in, once there are this many.
     std::vector<MirelMidiMessage> waitForEvents(std::size_t count) {
         EXPECT_TRUE(eventually([&] {
             const std::lock_guard lock(m_mutex);
@@ -92,7 +92,7 @@ TEST_F(WinMidiTest, EventsGoOutAndComeIn) {
     EXPECT_TRUE(events[3].isNoteOff());
 }
 
-TEST_F(WinMidiTest, TwinInputsAreHeardApart) {
+TEST_F(WinMidiTest, TwinInputsAreDistinguished) {
     ASSERT_TRUE(ports.play(findOutput(SECOND_OUTPUT), 0x643c90, 0));
     const std::vector<MirelMidiMessage> events = waitForEvents(1);
     EXPECT_EQ(events[0].getInput(), 1);
@@ -152,8 +152,8 @@ TEST_F(WinMidiTest, PlayerPlaysToThePorts) {
     EXPECT_TRUE(waitForEvents(1)[0].isNoteOff());
 }
 
-// The last one, as the device is lost to this process afterwards.
-TEST_F(WinMidiTest, ZHungDeviceHoldsUpNeitherTheOthersNorTheEnd) {
+// Runs last, because this process loses the device.
+TEST_F(WinMidiTest, ZHungDeviceDelaysNeitherTheOthersNorTheEnd) {
     const int hung = findOutput(SECOND_OUTPUT);
     ASSERT_TRUE(ports.play(hung, 0x0077b0, 0));
     for (int i = 0; i < 10000; ++i)

@@ -11,29 +11,30 @@ namespace Host::Cli {
 
 using Arguments = std::vector<std::string>;
 
-// What a command of the program prints of itself.
+// What a command of the program prints about itself.
 struct CommandUsage {
     const char* text;                  // All of it, as --help prints it; it ends with a line end.
     const char* afterError = nullptr;  // What follows an error in place of the text, where that is too long.
 };
 
-// Ends a command: its text is the one line on standard error.
+// Ends a command with its text as one line on standard error.
 class CommandError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-// [main] True if that was all that was asked for.
+// [main] Prints the usage and returns true if the only argument is --help.
 bool printHelp(const CommandUsage& usage, const Arguments& arguments);
 
-// [main] An empty error prints the usage alone.
+// [main] Prints the error and the usage; for an empty error only the usage.
 void printUsageError(const CommandUsage& usage, const std::string& error);
 
-// [main] Prints what was printed before first.
+// [main] Flushes standard output first.
 void printCommandError(const CommandError& error);
 
-// [main] One command of the program from its arguments to its exit status: answers --help, has parse(arguments, error)
-// make an optional of options of them, and runs run(options), which returns an ExitStatus or throws a CommandError.
+// [main] Runs one command of the program from its arguments to its exit status: answers --help, lets parse(arguments,
+// error) turn the arguments into an optional of options, and calls run(options), which returns an ExitStatus or throws
+// a CommandError.
 template <typename Parse, typename Run>
 int runWithOptions(const CommandUsage& usage, const Arguments& arguments, Parse parse, Run run) {
     if (printHelp(usage, arguments))

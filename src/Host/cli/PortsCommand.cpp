@@ -15,21 +15,21 @@ namespace {
 
 constexpr CommandUsage USAGE{R"(usage: mirel ports [--data DIR]
 
-lists the MIDI inputs and outputs with the numbers that they have for the desk, also those that it remembers and
-that are absent now: the user's own desk, or that of the folder.
+Lists the MIDI inputs and outputs with their numbers, including remembered ones that are absent now, for the user's
+own desk or for the one whose data is in DIR.
 )"};
 
 struct PortsOptions {
     std::string dataFolder;  // Empty: the user's own.
 };
 
-// Nothing, with one line in error, for words that make no sense.
+// Nothing, with one line in error, for arguments that make no sense.
 std::optional<PortsOptions> parseOptions(const Arguments& arguments, std::string& error) {
     if (arguments.empty())
         return PortsOptions{};
     if (arguments.size() == 2 && arguments.front() == "--data" && !arguments.back().empty())
         return PortsOptions{.dataFolder = arguments.back()};
-    error = "ports takes nothing but --data DIR";
+    error = "ports takes only --data DIR";
     return std::nullopt;
 }
 
@@ -47,7 +47,7 @@ void printList(const char* title, const PortList& list) {
     }
 }
 
-// The rows that the desk of this folder would have now.
+// Lists the rows that this folder's desk would have now.
 ExitStatus list(const PortsOptions& options) {
     const std::string dataFolder =
         options.dataFolder.empty() ? Backend::MirelUtils::getMirelAppDataDir() : options.dataFolder;
@@ -57,7 +57,7 @@ ExitStatus list(const PortsOptions& options) {
     ids.outputs.push_back({Recorder::NAME, PortList::BUILT_IN});
     PortList inputs = readPortFile(dataFolder, INPUTS_FILE);
     PortList outputs = readPortFile(dataFolder, OUTPUTS_FILE);
-    outputs.update({ids.outputs.back()});  // Which the desk has before it has looked at the system.
+    outputs.update({ids.outputs.back()});  // The desk has it before it has scanned the system.
     inputs.update(ids.inputs);
     outputs.update(ids.outputs);
     std::printf("MIDI system: %s\n", system->name().c_str());

@@ -23,7 +23,8 @@ struct Command {
 };
 
 constexpr std::array COMMANDS = {
-    Command{"check", Host::Cli::runCheck, "says what the desk would ignore in programs, banks, presets and sequences"},
+    Command{"check", Host::Cli::runCheck,
+            "reports what the desk would ignore in programs, banks, presets and sequences"},
     Command{"import", Host::Cli::runImport, "converts a version 2 bank, program or preset"},
     Command{"ports", Host::Cli::runPorts, "lists the MIDI inputs and outputs"},
     Command{"render", Host::Cli::runRender, "plays a MIDI file through layers and zones into another MIDI file"},
@@ -54,6 +55,6 @@ int main(int argc, char** argv) {
     for (const Command& command : COMMANDS)
         if (name == command.name)
             return command.run({arguments.begin() + 1, arguments.end()});
-    std::fprintf(stderr, "mirel: unknown command \"%s\"; mirel --help lists all\n", name.c_str());
+    std::fprintf(stderr, "mirel: unknown command \"%s\"; see mirel --help\n", name.c_str());
     return Host::Cli::FAILED;
 }

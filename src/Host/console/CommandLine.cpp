@@ -20,7 +20,7 @@ constexpr std::array<TextOption, 4> TEXT_OPTIONS = {{
     {"--record", &CommandLine::recordFile},
 }};
 
-// Takes the file over. False, with why in error, if the desk has no such files.
+// Adds the file. False, with the reason in error, if it is not a kind of file the desk opens.
 bool addFile(const std::string& path, CommandLine& line, std::string& error) {
     if (kindOfDeskFile(path) == DeskFileKind::NONE) {
         error = "\"" + path + "\" is neither a bank (.bnk) nor a program (.prg)";
@@ -57,7 +57,7 @@ std::optional<CommandLine> CommandLine::parse(const std::vector<std::string>& ar
             if (name == option.name)
                 target = option.target;
         if (!target) {
-            error = "there is no option " + name;
+            error = "unknown option " + name;
             return std::nullopt;
         }
         if (equals != std::string::npos)

@@ -6,7 +6,7 @@ namespace Host::Console {
 
 namespace {
 
-// Where the extension begins, with its dot; the end of the path if there is none.
+// Where the extension begins, including its dot; the end of the path if there is none.
 std::size_t findExtension(const std::string& path) {
     const std::size_t dot = path.rfind('.');
     const std::size_t separator = path.find_last_of("/\\");

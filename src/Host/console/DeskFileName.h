@@ -6,10 +6,10 @@ namespace Host::Console {
 
 enum class DeskFileKind { NONE, BANK, PROGRAM };
 
-// [any] What a file is by its extension, in which case doesn't count.
+// [any] The kind of a file by its extension, ignoring case.
 DeskFileKind kindOfDeskFile(const std::string& path);
 
-// [any] The path with its extension in lower case, by which the desk itself knows a program.
+// [any] The path with its extension in lower case, which is how the desk recognises a program.
 std::string withLowerCaseExtension(const std::string& path);
 
 }

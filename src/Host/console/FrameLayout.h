@@ -7,17 +7,17 @@ namespace Host::Console {
 // The parts of the frame that the mouse can be over.
 enum class FramePart { OUTSIDE, DESK, CAPTION, ICON, MINIMISE, CLOSE };
 
-// Where things are in a frame with the metallic border, in pixels from the top left corner of the window.
+// Where things are in a frame with the metallic border, in pixels from the window's top left corner.
 class FrameLayout {
 public:
-    // What the border takes on each side.
+    // The border's width on each side.
     static constexpr int SIDE = 6;
     static constexpr int TOP = 25;
     static constexpr int BOTTOM = 7;
 
     FrameLayout(int width, int height) : m_width(width), m_height(height) {}
 
-    // [any] The window around a desk of this size.
+    // [any] The layout of the window around a desk of this size.
     static FrameLayout around(int deskWidth, int deskHeight) {
         return {deskWidth + 2 * SIDE, deskHeight + TOP + BOTTOM};
     }

@@ -7,17 +7,17 @@
 
 namespace Host::Console {
 
-// [any] The window after a move that a message asks for; the words are those of Gui::packWindowMove.
+// [any] The window after a move that a message requests; the words are those of Gui::packWindowMove.
 Rect moveFrame(const Rect& window, std::uintptr_t x, std::uintptr_t y);
 
 // [any] The window at the bottom of its screen.
 Rect dockFrame(const Rect& window, const Rect& workArea);
 
-// [any] The window moved as little as lets the user get hold of its title: with some of it between the sides of the
-// screen, and its top not above it unless the window is docked to the bottom.
+// [any] The window moved as little as possible so that the user can grab its title: some of it between the sides of the
+// screen, and its top not above the screen unless the window is docked to the bottom.
 Rect bringIntoReach(const Rect& window, const Rect& workArea, bool isDocked);
 
-// [any] The window in the middle of a screen, its top left corner on it in any case.
+// [any] The window centred on a screen, its top left corner always on it.
 Rect centreFrame(const Rect& window, const Rect& workArea);
 
 }

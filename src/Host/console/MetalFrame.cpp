@@ -14,12 +14,12 @@ struct Colour {
     double blue;
 };
 
-// The bars at the sides are tubes, light where they face the lamp above the desk. From the outer edge inwards.
+// The bars at the sides are tubes, bright where they face the lamp above the desk. From the outer edge inwards.
 constexpr std::array<double, FrameLayout::SIDE> SIDE_PROFILE = {34, 150, 186, 160, 118, 46};
 constexpr std::array<double, FrameLayout::BOTTOM> BOTTOM_PROFILE = {26, 92, 122, 150, 168, 122, 46};
-constexpr double GRAIN = 11;  // How much the brush left.
+constexpr double GRAIN = 11;  // The strength of the brush marks.
 
-// An even spread of -1 to 1, the same for the same place.
+// Evenly distributed between -1 and 1, and the same for the same place.
 double noise(std::uint32_t x, std::uint32_t y) {
     std::uint32_t bits = x * 0x9e3779b1u ^ y * 0x85ebca6bu;
     bits = (bits ^ bits >> 15) * 0x2c1b3c6du;
@@ -28,7 +28,7 @@ double noise(std::uint32_t x, std::uint32_t y) {
     return static_cast<double>(bits & 0xffff) / 32767.5 - 1;
 }
 
-// Strokes of the brush along a bar: noise that changes slowly one way and with every line the other way.
+// Brush strokes along a bar: noise that changes slowly in one direction and with every line in the other.
 double grain(int along, int across) {
     constexpr int STROKE = 24;
     const auto line = static_cast<std::uint32_t>(across) + 7u;
@@ -55,13 +55,13 @@ Colour mix(const Colour& a, const Colour& b, double share) {
     return {a.red + (b.red - a.red) * share, a.green + (b.green - a.green) * share, a.blue + (b.blue - a.blue) * share};
 }
 
-// Steel has a touch of blue; a window without the keyboard is darker and flatter.
+// Steel has a touch of blue; a window without the keyboard focus is darker and flatter.
 Colour steel(double light, bool isActive) {
     const double value = isActive ? light : 52 + (light - 52) * 0.6;
     return {value * 0.97, value * 0.99, value * 1.04};
 }
 
-// The bar with the title: a soft gloss above its middle, a groove at its lower edge.
+// The title bar: a soft gloss above its middle, a groove at its lower edge.
 double captionProfile(int y) {
     constexpr int LAST = FrameLayout::TOP - 1;
     if (y == 0)
@@ -80,7 +80,7 @@ double captionProfile(int y) {
 double lightAt(const FrameLayout& layout, int x, int y) {
     const int fromSide = std::min(x, layout.width() - 1 - x);
     const int fromBottom = layout.height() - 1 - y;
-    // Bars meet on the diagonals of their corners.
+    // Bars meet on the diagonals of the corners.
     if (y < FrameLayout::TOP && fromSide * FrameLayout::TOP >= y && fromSide > 0)
         return captionProfile(y) + GRAIN * grain(x, y);
     if (fromSide < FrameLayout::SIDE && fromSide <= fromBottom)
@@ -89,7 +89,7 @@ double lightAt(const FrameLayout& layout, int x, int y) {
            GRAIN * grain(x, y);
 }
 
-// How much of a pixel lies within a distance from a place, softened over one pixel.
+// How much of a pixel lies within a distance of a place, softened over one pixel.
 double coverage(double distance, double limit) {
     return std::clamp(limit - distance + 0.5, 0.0, 1.0);
 }
@@ -100,7 +100,7 @@ double distanceToLine(double x, double y, double x1, double y1, double x2, doubl
     return std::hypot(x - x1 - share * (x2 - x1), y - y1 - share * (y2 - y1));
 }
 
-// How much of a button's sign covers a place, from its centre.
+// How much of a place, relative to a button's centre, the button's sign covers.
 double signCoverage(FramePart part, double x, double y) {
     constexpr double REACH = 2.6;
     constexpr double STRENGTH = 0.8;
@@ -125,7 +125,7 @@ void drawButton(Picture& picture, const Rect& rect, FramePart part, const FrameL
             const double distance = std::hypot(dx, dy);
             std::uint32_t& pixel = picture.at(x, y);
             Colour colour = unpack(pixel);
-            // A recess, a dark ring in it, and the button's dome.
+            // A recess, a dark ring inside it, and the button's dome.
             colour = mix(colour, steel(dy < 0 ? 84 : 216, look.isActive), 0.8 * coverage(distance, radius));
             colour = mix(colour, {30, 32, 36}, coverage(distance, radius - 0.8));
             const double light = isPressed ? 104 + dy * 6 : 168 - dy * 10;

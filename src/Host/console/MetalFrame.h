@@ -9,7 +9,7 @@
 
 namespace Host::Console {
 
-// A picture of 0x00RRGGBB, row after row from the top.
+// A picture of 0x00RRGGBB pixels, row by row from the top.
 struct Picture {
     int width = 0;
     int height = 0;
@@ -32,8 +32,8 @@ struct FrameLook {
     bool operator==(const FrameLook&) const = default;
 };
 
-// [any] The border of a desk's window, of brushed metal with two round buttons. Where the desk and the icon will be it
-// is black and metal. An empty layout gives an empty picture.
+// [any] The border of a desk's window, of brushed metal with two round buttons. The place of the desk is left black,
+// that of the icon plain metal. An empty layout gives an empty picture.
 Picture renderMetalFrame(const FrameLayout& layout, const FrameLook& look);
 
 }

@@ -6,16 +6,16 @@
 
 namespace Host::Console {
 
-// What a running desk is asked to open, by its own start or by another one.
+// What a running desk is asked to open, at its own start or by a later one.
 struct OpenRequest {
     std::string bank;     // A path; empty: none.
-    std::string program;  // As on the command line; empty: none.
+    std::string program;  // In the form used on the command line; empty: none.
     std::vector<std::string> files;
 
     bool empty() const { return bank.empty() && program.empty() && files.empty(); }
     bool operator==(const OpenRequest&) const = default;
 
-    // [any] One line for each part. Reading passes over lines that make no sense.
+    // [any] One line per part. Reading skips lines that make no sense.
     std::string toText() const;
     static OpenRequest fromText(std::string_view text);
 };

@@ -1,4 +1,4 @@
-// What the message managers of controls, layers and zones post, and what comes of it.
+// What the message managers of controls, layers and zones post, and its effects.
 #include "Backend/core/messages/MessageRanges.h"
 #include "Backend/core/xml/XmlDocument.h"
 #include "Backend/core/xml/XmlElement.h"
@@ -97,7 +97,7 @@ protected:
                                       guiFlag);
     }
 
-    // By the names of the table.
+    // By their names in the table.
     std::map<std::string, Operation> operations() {
         using Ids = std::vector<Layers::LayerId>;
         const auto layers = [](char channel) {
@@ -204,7 +204,7 @@ protected:
         return join(texts, " ");
     }
 
-    // Without the events that are shown.
+    // Without the notifications of events shown.
     std::vector<std::string> takeNotifications() {
         std::vector<std::string> told = m_desk.takeTold();
         std::erase_if(told, [](const std::string& text) { return text.starts_with("33254 "); });
@@ -290,7 +290,7 @@ TEST_F(DeskComponentsTest, TheWindowGetsTheFlagsOfAnUpdateOfControls) {
     }
 }
 
-TEST_F(DeskComponentsTest, AnyValueOfAHalfWordTellsTheWindow) {
+TEST_F(DeskComponentsTest, AnyValueOfAHalfWordNotifiesTheWindow) {
     m_master.start();
     m_master.postMessage(33969, releaseCopy<WPARAM>(std::vector<Control>{}), 0x40002);
     m_master.waitUntilIdle();
@@ -320,7 +320,7 @@ TEST_F(DeskComponentsTest, OnlyTheLowByteOfAZoneCounts) {
     EXPECT_EQ(describeZones(), "0:0* 1:5");
 }
 
-// The address sanitizer sees what is not destroyed.
+// The address sanitizer finds what is not destroyed.
 TEST_F(DeskComponentsTest, WhatComesAfterTheEndIsDisposedOfAndChangesNothing) {
     const std::string before = describeControls() + describeLayers() + describeZones();
     m_master.start();

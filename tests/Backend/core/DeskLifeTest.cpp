@@ -191,7 +191,7 @@ TEST(DeskLifeTest, WhatIsPostedWhileTheDeskEndsIsDisposedOf) {
     EXPECT_EQ(desk.mirel().getCurrentProgram().getName(), "last");
 }
 
-// The screens of an editor that comes and goes live with the desk.
+// The screens of an editor that comes and goes live as long as the desk.
 TEST(DeskLifeTest, TheScreensOutliveTheWindow) {
     RunningDesk desk;
     desk.start();

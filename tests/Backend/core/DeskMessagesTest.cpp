@@ -1,4 +1,4 @@
-// What each operation of the MirelMessageManager posts, and what the backend thread makes of it.
+// What each operation of the MirelMessageManager posts, and what the backend thread does with it.
 #include "Backend/core/Mirel.h"
 #include "Backend/core/messages/MessageRanges.h"
 #include "Backend/core/version2/Version2ImportRequest.h"
@@ -69,7 +69,7 @@ std::string describe(const std::vector<Port>& ports) {
     return text;
 }
 
-// A desk that puts down what it is asked to do in place of doing it.
+// A desk that records what it is asked to do instead of doing it.
 class RecordingMirel : public Mirel {
 public:
     explicit RecordingMirel(MidiEngine::MidiPlayer& player) : Mirel("Test", player) {}
@@ -77,7 +77,7 @@ public:
     // [thread of the test, while the backend rests]
     std::vector<std::string> takeCalls() { return std::exchange(m_calls, {}); }
 
-    // What createMirelGui makes; it is never looked into.
+    // What createMirelGui returns; nobody dereferences it.
     static Gui::MirelGuiIF* gui() { return reinterpret_cast<Gui::MirelGuiIF*>(&s_gui); }
 
     void initialize() override { note("initialize"); }
@@ -204,7 +204,7 @@ ScreenState someScreens() {
 
 using Operation = std::function<void(MirelMessageManager&)>;
 
-// The operations by the names of the table, with arguments.
+// The operations by their names in the table, with arguments.
 std::map<std::string, Operation> operations() {
     using Manager = MirelMessageManager;
     const auto inputs = makePorts<MidiInputPort>({"Left", "Right"});
@@ -376,7 +376,7 @@ TEST_F(DeskMessagesTest, APackedEventLosesTheChannelInItsStatusUnlessItIsASystem
     m_master.stop();
 }
 
-// What a message carries that comes too late is destroyed; the address sanitizer sees what is not.
+// The payload of a message that comes too late is destroyed; the address sanitizer finds what is not.
 TEST_F(DeskMessagesTest, WhatComesAfterTheEndIsDisposedOfAndNotCarriedOut) {
     start();
     m_master.postMessage(TestSupport::WorkerGate::NUMBER, 0, 0);
@@ -402,7 +402,7 @@ TEST_F(DeskMessagesTest, WhatComesAfterTheEndIsDisposedOfAndNotCarriedOut) {
 }
 
 TEST_F(DeskMessagesTest, KeysAreForwardedOnTheCallersThread) {
-    // No worker runs: a post of this manager's own would wait.
+    // There is no worker: a post of this manager's own would wait.
     m_manager.postKeyDown(Key("Q"), true);
     m_manager.postKeyUp(Key("Shift F1"));
     EXPECT_EQ(m_mirel->takeCalls(), (std::vector<std::string>{"postKeyDown Q on", "postKeyUp Shift F1"}));

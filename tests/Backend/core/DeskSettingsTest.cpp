@@ -25,7 +25,7 @@ using Strings = std::vector<std::string>;
 constexpr const char* SYNTH = "Microsoft GS Wavetable Synth";
 constexpr const char* OLD_SYNTH = "Microsoft GS Wavetable SW Synth";
 
-// A port that is enabled and there, but for what the marks behind its name say: "-" disabled, "!" not available.
+// A port that is enabled and available unless marks after its name say otherwise: "-" disabled, "!" not available.
 MidiOutputPort makePort(std::string text) {
     MidiOutputPort port;
     while (text.ends_with('-') || text.ends_with('!')) {
@@ -91,7 +91,7 @@ struct Step {
     int to;
 };
 
-TEST(DeskSettingsTest, TheDefaultOutputMovesToWhatIsEnabledAndThere) {
+TEST(DeskSettingsTest, TheDefaultOutputMovesToOneThatIsEnabledAndAvailable) {
     RunningDesk desk;
     desk.start({}, makeOutputs({"A", "B-", "C!", "D", "E-!", "F"}));
     const SelectType up(SelectType::UP);
@@ -189,7 +189,7 @@ TEST(DeskSettingsTest, TheTempoSourceIsAnInputOrNone) {
     }
 }
 
-// Which note comes through.
+// Whether a note comes through.
 bool passesThru(RunningDesk& desk) {
     desk.mirel().playMidi(MirelMidiMessage(MidiMessage::NoteOn, 60, 100, {.output = 0, .channel = 0}, {.input = 0}));
     desk.settle();
@@ -240,7 +240,7 @@ TEST(DeskSettingsTest, EnablingAnInputChangesTheListAndTheHost) {
     EXPECT_EQ(desk.mirel().getRegistrySettings().getEnabledMidiInputs(), std::vector<bool>{true});
 }
 
-TEST(DeskSettingsTest, EnablingAnOutputOnlyTellsTheHost) {
+TEST(DeskSettingsTest, EnablingAnOutputOnlyNotifiesTheHost) {
     RunningDesk desk;
     desk.start();
     desk.takeCalls();
@@ -332,7 +332,7 @@ TEST(DeskSettingsTest, WhatIsPostedIsKept) {
     }
 }
 
-TEST(DeskSettingsTest, TheLogShowsWhatIsPlayedAsItIsTold) {
+TEST(DeskSettingsTest, TheLogShowsWhatIsPlayedAccordingToItsSettings) {
     RunningDesk desk;
     desk.start();
 

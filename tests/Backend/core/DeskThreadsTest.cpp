@@ -1,4 +1,4 @@
-// Many threads at the desk at once. What matters here is what the thread sanitizer says.
+// Many threads at the desk at once, mainly for the thread sanitizer.
 #include "Backend/functions/values/OnOffToggle.h"
 #include "Backend/functions/values/RelativeFixedValue.h"
 #include "Backend/functions/values/SelectType.h"
@@ -117,7 +117,7 @@ TEST(DeskThreadsTest, PostsFromManyThreadsAllArrive) {
 }
 
 // More controllers in one slice than the backend's queue holds, while the backend does something else.
-TEST(DeskThreadsTest, AFloodOfControllersHoldsNobodyUp) {
+TEST(DeskThreadsTest, AFloodOfControllersBlocksNobody) {
     constexpr char CHANNEL = 3;
     constexpr int COUNT = 100000;
     constexpr int LAST = (COUNT - 1) % 128;

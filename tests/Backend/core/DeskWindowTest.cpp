@@ -1,4 +1,4 @@
-// What the desk tells its window, and that it tells nobody else.
+// What the desk reports to its window, and that it reports nothing else.
 #include "Backend/functions/values/OnOffToggle.h"
 #include "Backend/functions/values/RelativeFixedValue.h"
 #include "Backend/functions/values/SelectType.h"
@@ -22,7 +22,7 @@ using TestSupport::RunningDesk;
 
 using Operation = std::function<void(Mirel&)>;
 
-// By the names of the table.
+// By their names in the table.
 std::map<std::string, Operation> operations() {
     const RelativeFixedValue tempo(false, 90);
     return {
@@ -114,7 +114,7 @@ std::map<std::string, std::vector<std::string>> readExpected() {
     return expected;
 }
 
-TEST(DeskWindowTest, EachOperationTellsTheWindowWhatTheTableSays) {
+TEST(DeskWindowTest, EachOperationNotifiesTheWindowAsTheTableSays) {
     const auto all = operations();
     const auto expected = readExpected();
     EXPECT_EQ(all.size(), expected.size());
@@ -131,8 +131,8 @@ TEST(DeskWindowTest, EachOperationTellsTheWindowWhatTheTableSays) {
     }
 }
 
-// The address sanitizer sees a copy that was made for nobody.
-TEST(DeskWindowTest, WithoutAWindowNothingIsTold) {
+// The address sanitizer finds a copy that was made for nobody.
+TEST(DeskWindowTest, WithoutAWindowNobodyIsNotified) {
     RunningDesk desk;
     desk.openWindow();
     desk.start();
@@ -145,7 +145,7 @@ TEST(DeskWindowTest, WithoutAWindowNothingIsTold) {
     EXPECT_EQ(desk.takeTold(), std::vector<std::string>());
 }
 
-TEST(DeskWindowTest, TheStartTellsOfAllThatIsThereInOrder) {
+TEST(DeskWindowTest, TheStartReportsEverythingInOrder) {
     RunningDesk desk;
     desk.openWindow();
     desk.start();

@@ -7,7 +7,7 @@
 namespace Backend {
 namespace {
 
-// Counts the copies that are made of it.
+// Counts how often it is copied.
 class Copied {
 public:
     explicit Copied(int value) : m_value(value) {}

@@ -122,7 +122,8 @@ TEST(MessageFamiliesTest, EachMessageBringsItsValuesAndLeavesNothingBehind) {
     EXPECT_EQ(messages, 50 + 43 + 8 + 4 + 9 + 5 + 7 + 10 + 3 + 3 + 14 + 11);
 }
 
-// The numbers of all messages that a table declares, but for those of finished file operations, which nobody handles.
+// The numbers of all messages that a table declares, except for those of finished file operations, which nobody
+// handles.
 std::vector<UINT> declaredIn(const std::string& header) {
     std::ifstream file(TestSupport::projectFile("src/Backend/" + header));
     const std::regex declaration(R"(^inline constexpr (?:Sent)?Message<(\d+).*> +[A-Z]\w+;.*)");
@@ -142,7 +143,7 @@ std::vector<UINT> numbersOf(const Families&... families) {
     return numbers;
 }
 
-// What a family does not list would be posted and never handled.
+// A message missing from its family would be posted but never handled.
 TEST(MessageFamiliesTest, EachDeclaredMessageIsListed) {
     EXPECT_EQ(declaredIn("core/MirelMessages.h"), numbersOf(MirelMessages::FAMILY));
     EXPECT_EQ(declaredIn("core/WindowMessages.h"), numbersOf(WindowMessages::FAMILY));
@@ -158,7 +159,7 @@ TEST(MessageFamiliesTest, EachDeclaredMessageIsListed) {
               numbersOf(Zones::Messages::FAMILY, Zones::WindowMessages::FAMILY));
 }
 
-// A sender that waits for the display goes on, whatever becomes of its message.
+// A sender that waits for the display continues, whatever happens to its message.
 TEST(MessageFamiliesTest, AMessageThatIsDisposedOfWakesItsSender) {
     using Display::Messages::SET_LISTENER;
     Platform::AutoResetEvent done;

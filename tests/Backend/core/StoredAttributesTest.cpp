@@ -1,4 +1,4 @@
-// Every attribute of every stored class is read, written and taken for what it should be if it is missing.
+// Every attribute of every stored class is read, written and, if missing, given the right default.
 #include "Backend/core/files/Program.h"
 #include "Backend/core/xml/ElementWriter.h"
 #include "Backend/core/xml/XmlDocument.h"
@@ -172,7 +172,7 @@ std::string startTagIn(const std::string& written, const StoredElement& element)
     return tag.ends_with('/') ? tag.substr(0, tag.size() - 1) : tag;
 }
 
-// What holds nothing but a sequence is written with it.
+// A setting that holds only a sequence is written with it.
 std::string elementOf(const StoredElement& element, const std::string& startTag) {
     return startTag + ">" + "</" + element.tag + ">";
 }

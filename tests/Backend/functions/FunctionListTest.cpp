@@ -1,4 +1,4 @@
-// All functions against the table of what they have to be.
+// All functions against the table of what they must be like.
 #include "Backend/functions/FunctionEnumerator.h"
 #include "Backend/functions/FunctionFactory.h"
 #include "Backend/functions/Functions.h"
@@ -95,7 +95,7 @@ const std::vector<std::string> KINDS = {
     "MoveWindowSettingsType",       "OnOffToggleSettingsType",   "MidiSettingsType",
     "NoFunctionSettingsType"};
 
-// Of each kind, in the order of KINDS.
+// By kind, in the order of KINDS.
 const std::vector<std::vector<std::string>> MEMBERS = {
     {"ChangeLayerNoteToggle"},
     {"ChangeOscPlaying", "ChangeLayerSolo", "ChangeLayerMute", "ChangeLayerMono"},
@@ -123,7 +123,7 @@ protected:
     const std::vector<TestSupport::FunctionRow> m_rows = readFunctionRows();
 };
 
-// Every function by its settings.
+// The settings of any function.
 FunctionSettingsType& settingsOf(Function& function) {
     return dynamic_cast<FunctionSettingsType&>(function);
 }
@@ -189,7 +189,7 @@ TEST_F(FunctionListTest, EachIsOfItsKind) {
     }
 }
 
-// Compares the operation of the visitor of a kind that a function calls, if it is of that kind.
+// Checks which operation of a kind's visitor a function calls, if it is of that kind.
 template <class Kind>
 int checkMember(Function& function, const std::string& className, const std::vector<std::string>& members) {
     auto* const settings = dynamic_cast<Kind*>(&function);
@@ -291,7 +291,7 @@ TEST_F(FunctionListTest, AreEqualWithTheSameClassAndParametersOnly) {
             EXPECT_EQ(*left == *right, left == right) << leftXml << " " << rightXml;
 }
 
-// The attributes of an element's text, each with the blank before it.
+// The attributes in an element's text, each with the blank before it.
 std::vector<std::string> attributesOf(const std::string& element) {
     std::vector<std::string> attributes;
     for (auto from = element.find(' '); from != std::string::npos && element[from] == ' ';) {

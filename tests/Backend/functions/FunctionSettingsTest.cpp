@@ -1,4 +1,4 @@
-// What windows that edit a function see of it.
+// How windows that edit a function see it.
 #include "Backend/functions/FunctionSettingsTypes.h"
 #include "Backend/functions/Functions.h"
 #include "tests/support/FakeHost.h"
@@ -21,7 +21,7 @@ using TestSupport::write;
 
 class FunctionSettingsTest : public testing::Test {
 protected:
-    // The settings of a new function of each class of a kind, by the name of the class.
+    // The settings of a new function of each class of a kind, by class name.
     template <class Kind, class Check>
     int forEach(Check check) {
         int count = 0;
@@ -55,7 +55,7 @@ constexpr const char* PICK_AND_CHANGE = "yynyyy";
 constexpr const char* PICK = "ynynyn";
 constexpr const char* CHANGE = "nynnnn";
 
-TEST_F(FunctionSettingsTest, SelectKindsTellWhatThereIsToChoose) {
+TEST_F(FunctionSettingsTest, SelectKindsListTheirChoices) {
     EXPECT_EQ(forEach<SelectSettingsType>([](const std::string& name, auto& settings, auto&) {
                   EXPECT_EQ(flagsOf(settings), name == "ChangeTempo"        ? CHANGE
                                                : PICKED_ONLY.contains(name) ? PICK
@@ -70,7 +70,7 @@ TEST_F(FunctionSettingsTest, SelectKindsTellWhatThereIsToChoose) {
               1);
 }
 
-TEST_F(FunctionSettingsTest, SelectControlKindTellsWhatThereIsToChoose) {
+TEST_F(FunctionSettingsTest, SelectControlKindListsItsChoices) {
     // Directions, selected, value, all.
     const std::map<std::string, std::string> flags = {
         {"SelectControl", "ynnn"}, {"SetWidgetFocus", "yynn"}, {"ChangeControl", "nyyn"}, {"SendControlData", "nyny"}};

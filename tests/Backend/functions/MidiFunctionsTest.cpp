@@ -1,4 +1,4 @@
-// What the functions of MIDI events send, seen behind the engine.
+// What the functions for MIDI events send, as it leaves the engine.
 #include "tests/support/ScriptedDesk.h"
 
 #include <gtest/gtest.h>
@@ -16,11 +16,11 @@ constexpr const char* LAYERS = R"(layers
 .
 )";
 
-// Where the layers send an event of no zone and one of zone 1.
+// Where the layers send an event without a zone and one of zone 1.
 const std::vector<std::string> ALL_LAYERS = {"ch=6 out=0", "ch=5 out=1", "ch=4 out=0"};
 const std::vector<std::string> LAYERS_OF_ZONE_1 = {"ch=6 out=0", "ch=5 out=1"};
 
-// Updates show an event as it came to the engine, once for each time that it is played. Notes have none.
+// Updates show an event as it reached the engine, once for each time that it is played. Notes have none.
 std::string sentTo(const std::vector<std::string>& targets, const std::string& bytes, const std::string& routing) {
     std::string lines;
     for (const std::string& target : targets)
@@ -148,7 +148,7 @@ TEST_F(MidiFunctionsTest, SystemEventsHaveNoZoneAndNoChannel) {
     };
 
     for (const Row& row : rows) {
-        // A channel is none of their attributes.
+        // They have no channel attribute.
         EXPECT_EQ(m_desk.execute(element(row.tag, R"(zone="1" output="1" channel="7")", row.data)),
                   sentTo({"ch=0 out=1"}, row.sent, "ch=-1 out=1 zone=-1"));
         EXPECT_EQ(m_desk.execute(element(row.tag, R"(zone="1")", row.data)),
@@ -156,7 +156,7 @@ TEST_F(MidiFunctionsTest, SystemEventsHaveNoZoneAndNoChannel) {
     }
 }
 
-TEST_F(MidiFunctionsTest, OutputsThatAreNotThereGetNothing) {
+TEST_F(MidiFunctionsTest, MissingOutputsGetNothing) {
     EXPECT_EQ(m_desk.execute(R"(<MidiNoteOn note="C4" channel="1" output="5"/>)"), "");
     EXPECT_EQ(m_desk.execute(R"(<MidiStartSong output="5"/>)"), "");
 }

@@ -13,7 +13,7 @@ using namespace Backend::FunctionManagement;
 
 class Version2FunctionsTest : public testing::Test {
 protected:
-    // The element of what a record makes; empty for nothing.
+    // The element that a record becomes; empty for none.
     std::string make(int type, int d1, int d2, int zone = -1, int output = -1, int channel = -1) {
         const auto function = createFromVersion2(m_host.mirel(), type, d1, d2, zone, output, channel);
         return function ? TestSupport::write(*function) : std::string();
@@ -24,7 +24,7 @@ protected:
 
 constexpr int TYPES = 61;  // More than there are.
 
-// What each type makes of d1 5, d2 6, zone 1, output 2, channel 3. Types behind the last make nothing.
+// What each type makes of d1 5, d2 6, zone 1, output 2, channel 3. Types beyond the last make nothing.
 const std::string MADE[TYPES] = {
     /*  0 */ "",
     /*  1 */ R"(<MidiNoteOn zone="1" output="2" channel="3" note="F-1" velocity="6"/>)",

@@ -70,7 +70,7 @@ TEST_F(ButtonConfigurationTest, AKeyWithoutFunctionsIsWrittenAsSuch) {
     EXPECT_EQ(write(key), "<Key id=\"1\" global=\"true\">\n</Key>\n");
 }
 
-TEST_F(ButtonConfigurationTest, AKeyWithoutAnIdIsNoKey) {
+TEST_F(ButtonConfigurationTest, AKeyWithoutAnIdIsNotAKey) {
     EXPECT_EQ(read(R"(<Key id="" global="true"><Function><Down><MoveWindow/></Down></Function></Key>)").getKey(),
               Key());
     EXPECT_EQ(read("<Key/>").getKey().getCode(), -1);
@@ -78,7 +78,7 @@ TEST_F(ButtonConfigurationTest, AKeyWithoutAnIdIsNoKey) {
     EXPECT_EQ(read(R"(<Key id=" A"/>)").getKey().getCode(), -1);
 }
 
-TEST_F(ButtonConfigurationTest, KeysAreGlobalUnlessTheySayNo) {
+TEST_F(ButtonConfigurationTest, KeysAreGlobalByDefault) {
     for (const char* text : {"", R"(global="true")", R"(global="yes")", R"(global="False")", R"(global="0")"})
         EXPECT_TRUE(read("<Key id=\"A\" " + std::string(text) + "/>").isGlobal()) << text;
     for (const char* text : {R"(global="false")", R"(global="FALSE")", R"(global="no")", R"(global="NO")"})
@@ -134,7 +134,7 @@ TEST_F(ButtonConfigurationTest, ASlotWithoutAFunctionIsNotWritten) {
               "<Key id=\"A\" global=\"true\">\n\t<Function keepSending=\"false\">\n\t</Function>\n</Key>\n");
 }
 
-TEST_F(ButtonConfigurationTest, TellsTagsOfEntriesAndNoneBeyond) {
+TEST_F(ButtonConfigurationTest, GivesTagsOfEntriesAndNoneBeyond) {
     const auto key = readInside("<Function><Down><ProgramChange/></Down></Function>");
     EXPECT_EQ(key.getDownFunctionTag(0), "ProgramChange");
     EXPECT_EQ(key.getUpFunctionTag(0), "NoFunction");

@@ -24,7 +24,7 @@ std::string keyOf(const std::string& id, const std::string& entries) {
     return "<Key id=\"" + id + "\">" + entries + "</Key>";
 }
 
-// A note on of channel 0, to be seen by its number.
+// A note on of channel 0, recognisable by its number.
 std::string noteOn(int note) {
     return "<MidiNoteOn channel=\"0\" note=\"" + std::to_string(note) + "\"/>";
 }
@@ -43,7 +43,7 @@ std::string off(int note) {
 
 class ComputerInputManagerTest : public testing::Test {
 protected:
-    // Only these keys, by way of a preset.
+    // Uses only these keys, loaded as a preset.
     void useKeys(const std::string& keys, const std::string& attributes = "") {
         m_desk.writeKeyPreset("Test", presetOf(attributes, keys));
         m_desk.run("preset load keys Test");
@@ -52,7 +52,7 @@ protected:
     // What key commands play.
     std::string play(const std::string& commands) { return m_desk.runAndPlay(commands); }
 
-    // The ComputerInput element of the present program, up to the end of its start tag.
+    // The ComputerInput element of the current program, up to the end of its start tag.
     std::string programTag() {
         const std::string program = m_desk.run("print program");
         const auto from = program.find("<ComputerInput");
@@ -106,7 +106,7 @@ TEST_F(ComputerInputManagerTest, APressLooksItsModifiersUpAndAReleaseDoesNot) {
     EXPECT_EQ(play("key down \"Shift Control Alt Win F1\"\nkey up \"Shift Control Alt Win F1\""), on(62) + off(60));
 }
 
-TEST_F(ComputerInputManagerTest, AReleaseLooksItsModifiersUpIfToldSo) {
+TEST_F(ComputerInputManagerTest, AReleaseLooksItsModifiersUpIfSoSet) {
     useKeys(keyOf("F1", entryOf(noteOn(60), noteOff(60))) + keyOf("Shift F1", entryOf(noteOn(61), noteOff(61))),
             "useKeyUpMod=\"true\"");
     EXPECT_EQ(play("key down \"Shift F1\"\nkey up F1"), on(61) + off(60));
@@ -146,7 +146,7 @@ TEST_F(ComputerInputManagerTest, OnlyTheLowByteOfACodeArrives) {
     EXPECT_EQ(play(""), on(60));
 }
 
-TEST_F(ComputerInputManagerTest, AKeyEventIsPostedWithoutTheHeap) {
+TEST_F(ComputerInputManagerTest, PostingAKeyEventAllocatesNothing) {
     std::size_t count = 1;
     m_desk.onBackend([&count](Backend::Mirel& mirel) {
         const Key key(std::string_view("Shift A"));
@@ -158,7 +158,7 @@ TEST_F(ComputerInputManagerTest, AKeyEventIsPostedWithoutTheHeap) {
     EXPECT_EQ(count, 0u);
 }
 
-TEST_F(ComputerInputManagerTest, PresetsThatAreNotThereChangeNothing) {
+TEST_F(ComputerInputManagerTest, MissingPresetsChangeNothing) {
     useKeys(keyOf("A", entryOf(noteOn(60), "")));
     EXPECT_TRUE(Platform::Files::createFolders(m_desk.folder().file("Computer Input Presets/Folder.pst")));
     for (const char* name : {"None", "Folder", "", "..", "../Test"}) {
@@ -174,7 +174,7 @@ TEST_F(ComputerInputManagerTest, UnreadablePresetsLeaveTheKeys) {
         m_desk.writeKeyPreset("Bad", text);
         m_desk.run("preset load keys Bad");
         EXPECT_EQ(play("key down A"), on(60)) << text;
-        // The preset counts as loaded, and does not hold these keys.
+        // The preset counts as loaded, but does not hold these keys.
         EXPECT_EQ(programTag(), R"(<ComputerInput merge="false" useKeyUpMod="true">)") << text;
     }
 }
@@ -269,7 +269,7 @@ TEST_F(ComputerInputManagerTest, SavingOverTheLoadedPresetDoesNotLoadIt) {
 TEST_F(ComputerInputManagerTest, APresetCanBeRenamedAndDeletedAfterItWasSaved) {
     useKeys(keyOf("A", entryOf(noteOn(60), "")));
     m_desk.run("preset rename keys Test Never\npreset delete keys Test");
-    EXPECT_NE(m_desk.readKeyPreset("Test"), "no such file");  // It is not one of this run.
+    EXPECT_NE(m_desk.readKeyPreset("Test"), "no such file");  // It does not come from this run.
     m_desk.run("preset save keys Mine\npreset rename keys Mine Yours");
     EXPECT_EQ(m_desk.readKeyPreset("Mine"), "no such file");
     EXPECT_NE(m_desk.readKeyPreset("Yours"), "no such file");
@@ -277,7 +277,7 @@ TEST_F(ComputerInputManagerTest, APresetCanBeRenamedAndDeletedAfterItWasSaved) {
     EXPECT_EQ(m_desk.readKeyPreset("Yours"), "no such file");
 }
 
-// What the main window is told, without what other parts of the desk tell it.
+// Notifications to the main window, without those from other parts of the desk.
 class ComputerInputWindowTest : public testing::Test {
 protected:
     std::string update(const std::string& xml, bool notifyGui) {
@@ -299,7 +299,7 @@ TEST_F(ComputerInputWindowTest, ChangedKeysReachZonesAndThenTheWindow) {
     EXPECT_EQ(m_desk.run("key down F12"), "");
 }
 
-TEST_F(ComputerInputWindowTest, SeveralChangedKeysAreToldAtOnce) {
+TEST_F(ComputerInputWindowTest, SeveralChangedKeysAreReportedTogether) {
     m_desk.onBackend([](Backend::Mirel& mirel) {
         using Backend::ComputerInput::KeyConfiguration;
         mirel.getComputerInputMessageManager().postUpdateKeyConfigurations(
@@ -308,24 +308,24 @@ TEST_F(ComputerInputWindowTest, SeveralChangedKeysAreToldAtOnce) {
     EXPECT_EQ(m_desk.run(""), "window 34970 2 zones\nwindow 33469 \"A\" \"Shift B\"\nwindow 33471\n");
 }
 
-TEST_F(ComputerInputWindowTest, TheFlagIsSetInSilence) {
+TEST_F(ComputerInputWindowTest, SettingTheFlagNotifiesNobody) {
     m_desk.onBackend([](Backend::Mirel& mirel) { mirel.getComputerInputMessageManager().postSetUseKeyUpMod(true); });
     EXPECT_EQ(m_desk.run(""), "");
     EXPECT_NE(m_desk.run("print keys").find(R"(<ComputerInput merge="false" useKeyUpMod="true">)"), std::string::npos);
 }
 
-TEST_F(ComputerInputWindowTest, ALoadedPresetIsToldWithItsFolder) {
+TEST_F(ComputerInputWindowTest, ALoadedPresetIsReportedWithItsFolder) {
     m_desk.writeKeyPreset("P", R"(<ComputerInput useKeyUpMod="yes"><Key id="A"/><Key id="B"/></ComputerInput>)");
     EXPECT_EQ(m_desk.run("preset load keys P"),
               "window 34970 0 zones\nwindow 33470 2 keys useKeyUpMod=on\nwindow 33471\nwindow 33472\n");
     EXPECT_EQ(m_desk.run("preset load keys None"), "");
 }
 
-TEST_F(ComputerInputWindowTest, SavingRenamingAndDeletingTellNothing) {
+TEST_F(ComputerInputWindowTest, SavingRenamingAndDeletingNotifyNobody) {
     EXPECT_EQ(m_desk.run("preset save keys A\npreset rename keys A B\npreset delete keys B"), "");
 }
 
-TEST_F(ComputerInputWindowTest, ClearingTellsOfAnEmptyMap) {
+TEST_F(ComputerInputWindowTest, ClearingReportsAnEmptyMap) {
     m_desk.onBackend([](Backend::Mirel& mirel) {
         mirel.getComputerInput().setUseKeyUpMod(true);
         mirel.getComputerInput().clear();
@@ -333,7 +333,7 @@ TEST_F(ComputerInputWindowTest, ClearingTellsOfAnEmptyMap) {
     EXPECT_EQ(m_desk.run(""), "window 34970 0 zones\nwindow 33470 0 keys useKeyUpMod=off\nwindow 33471\n");
 }
 
-// An element as it stands in a program.
+// An element as it appears in a program.
 TEST_F(ComputerInputWindowTest, AProgramsElementIsAPresetsNameOrKeys) {
     const auto read = [this](const std::string& xml) {
         m_desk.onBackend([&xml](Backend::Mirel& mirel) {

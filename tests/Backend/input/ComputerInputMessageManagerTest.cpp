@@ -42,7 +42,7 @@ TEST_F(ComputerInputMessageManagerTest, TakesItsRangeOfNumbers) {
     EXPECT_EQ(Messages::KEY_UP.NUMBER, 33476u);
 }
 
-// A leak shows in a build with the address sanitizer.
+// A build with the address sanitizer finds leaks.
 TEST_F(ComputerInputMessageManagerTest, DisposesOfWhatIsNeverHandled) {
     const std::string name = "a name that is too long for a string to hold it inside";
     m_manager.disposeMessage(
@@ -58,7 +58,7 @@ TEST_F(ComputerInputMessageManagerTest, DisposesOfWhatIsNeverHandled) {
     m_manager.disposeMessage(message(Messages::KEY_UP.NUMBER, 65, 0));
 }
 
-// Messages made by hand, as the tables of numbers and words have it.
+// Messages built by hand from the tables of numbers and words.
 TEST_F(ComputerInputMessageManagerTest, SetsTheFlagByItsFirstWord) {
     m_manager.handleMessage(message(33470, 1, 0));
     EXPECT_TRUE(m_host.mirel().getComputerInput().getUseKeyUpMod());

@@ -168,7 +168,7 @@ TEST(KeyTest, LabelsAreShort) {
         EXPECT_EQ(Key(row.code, true, false, false, false).getLabel(), row.name) << row.code;
 }
 
-// The combinations that do not reach the desk, put as one condition a key.
+// The combinations that do not reach the desk, as one condition per key.
 bool isTaken(int code, bool s, bool c, bool a, bool w) {
     const auto between = [code](int first, int last) { return code >= first && code <= last; };
     const std::set<int> withWin = {32, 66, 76, 77, 80, 82, 84, 85, 112, 187};

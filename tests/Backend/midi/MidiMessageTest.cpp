@@ -139,7 +139,7 @@ TEST(MidiMessageTest, NoteOnAndOffChangeOnlyTheStatus) {
     EXPECT_EQ(event, message(0x90, 60, 100, 3));
 }
 
-TEST(MidiMessageTest, TestsTellTheKind) {
+TEST(MidiMessageTest, TestsRecogniseTheKind) {
     EXPECT_TRUE(message(0x80).isNote());
     EXPECT_TRUE(message(0x90).isNote());
     EXPECT_FALSE(message(0xA0).isNote());
@@ -182,7 +182,7 @@ TEST(MidiMessageTest, EachTestIsTrueForItsStatusOnly) {
                 << i << ' ' << event.name;
 }
 
-TEST(MidiMessageTest, ControllersWithTestsAreToldByStatusAndNumber) {
+TEST(MidiMessageTest, ControllerTestsCheckStatusAndNumber) {
     struct Row {
         bool (MidiMessage::*test)() const;
         int number;
@@ -264,7 +264,7 @@ TEST(MidiMessageTest, TextThatMakesNoSenseGivesDefaults) {
     EXPECT_EQ(MidiMessage(std::string("Note On,")).getD1(), 0);
 }
 
-TEST(MidiMessageTest, DisplayTextTellsNoteAndController) {
+TEST(MidiMessageTest, DisplayTextShowsNoteAndController) {
     EXPECT_EQ(message(0x90, 60).getEventNameWithCcAndNoteDetail(), "Note 60 (C4)");
     EXPECT_EQ(message(0x80, 0).getEventNameWithCcAndNoteDetail(), "Note 0 (C-1)");
     EXPECT_EQ(message(0xB0, 1).getEventNameWithCcAndNoteDetail(), "Control Change 1: Modulation wheel");

@@ -39,7 +39,7 @@ protected:
 
     Backend::Display::DisplayMessageManager& feed() { return gui.desk.mirel().getDisplayMessageManager(); }
 
-    // As the main window does it.
+    // As the main window does.
     void create(int height = 150) {
         gui.getRegistrySettings().setDisplayHeight(height);
         root.createWnd(static_cast<HINSTANCE>(Platform::getModuleInstance()), top.handle());
@@ -64,12 +64,12 @@ protected:
         return rect.bottom - rect.top;
     }
 
-    // Lets the log's thread do all that it was asked for.
+    // Lets the log's thread finish all its requests.
     void settle() {
         EXPECT_TRUE(pumpUntil([&] { return feed().isIdle(); }));
     }
 
-    // On the log's thread, as far as the panel can tell.
+    // Looks to the panel as if it came from the log's thread.
     void onOtherThread(const std::function<void()>& action) {
         std::atomic<bool> done = false;
         std::thread other([&] {
@@ -372,7 +372,7 @@ TEST_F(DisplayPanelTest, KeysThatLeaveGiveTheFocusBack) {
     EXPECT_EQ(gui.focusRequests, 0);
 }
 
-TEST_F(DisplayPanelTest, ThePointerTellsWhereTheEdgeIs) {
+TEST_F(DisplayPanelTest, ThePointerShowsWhereTheEdgeIs) {
     createShown(150);
     RECT client{};
     GetClientRect(edit, &client);
@@ -397,7 +397,7 @@ TEST_F(DisplayPanelTest, ItsHeightIsKeptForTheNextStart) {
     EXPECT_EQ(gui.takePosted(), Lines{"33231 177 0"});
 }
 
-// The log's thread waits for this one while it tells the panel something, and this one waits for it to end that.
+// The log's thread waits for this one while it sends the panel text, and this one waits for that to end.
 TEST_F(DisplayPanelTest, CanGoInAFlood) {
     for (int round = 0; round < 10; ++round) {
         DisplayPanel other(gui, feed());
@@ -418,7 +418,7 @@ TEST_F(DisplayPanelTest, CanGoInAFlood) {
     }
 }
 
-TEST_F(DisplayPanelTest, NobodyIsToldAfterTheWindowIsGone) {
+TEST_F(DisplayPanelTest, NobodyIsNotifiedAfterTheWindowIsGone) {
     createShown();
     const HWND old = edit;
     DestroyWindow(panel->getWindowHandle());

@@ -115,7 +115,7 @@ TEST_F(HelpPanelTest, ShowsTextOfItsOwn) {
     EXPECT_EQ(shown(), "Button: Q");
 }
 
-TEST_F(HelpPanelTest, AboutTellsOfTheProduct) {
+TEST_F(HelpPanelTest, AboutDescribesTheProduct) {
     pressAbout();
     EXPECT_EQ(shown(), describeProduct(getModuleTime()));
     EXPECT_TRUE(shown().starts_with("Mirel Console 3 LE\r\nVersion 3.2 ("));
@@ -149,7 +149,7 @@ TEST_F(HelpPanelTest, WithCtrlTextCanBeSelected) {
     SendMessageA(edit, WM_LBUTTONUP, MK_CONTROL, MAKELPARAM(9, 9));
 }
 
-// The longest texts, in the room that there is.
+// The longest texts, in the available room.
 TEST_F(HelpPanelTest, AllTextsFit) {
     RECT room{};
     SendMessageA(edit, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&room));

@@ -29,7 +29,7 @@ Port makePort(const std::string& name, bool enabled, bool available = true) {
     return port;
 }
 
-// The sheet as its user sees it, from another thread than its own.
+// The sheet as its user sees it, from another thread.
 class Sheet {
 public:
     static Sheet waitForIt() {
@@ -49,7 +49,7 @@ public:
         return text;
     }
 
-    // The page of this number, which shows then.
+    // The page of this number, after turning to it.
     HWND turnTo(int index) const {
         SendMessageA(m_window, PSM_SETCURSEL, static_cast<WPARAM>(index), 0);
         return current();
@@ -124,14 +124,14 @@ protected:
         gui.midiInputPorts = {makePort<MidiInputPort>("Keys", true), makePort<MidiInputPort>("MIDI Yoke 1", true)};
     }
 
-    // Shows the sheet and has its user do something.
+    // Shows the sheet and lets its user do something.
     void show(const std::function<void(const Sheet&)>& user, bool isPlugin = false) {
         SetupDialog dialog(gui, gui.getRegistrySettings(), !isPlugin, !isPlugin, !isPlugin);
         const TestSupport::OtherThread other([&] { user(Sheet::waitForIt()); });
         dialog.show();
     }
 
-    // The message box that refuses a page, answered.
+    // The message box that refuses a page; answers it.
     static std::string answerRefusal() {
         const HWND box = waitForDialog([](HWND window) { return getWindowText(window) == "Invalid entry"; });
         const std::string text = getWindowText(GetDlgItem(box, 0xffff));
@@ -245,7 +245,7 @@ TEST_F(SetupDialogTest, OkPostsWhatGeneralHolds) {
     EXPECT_FALSE(settings().getDockToBottomEdge());
 }
 
-TEST_F(SetupDialogTest, AChannelThatIsNoneBecomesTheFirst) {
+TEST_F(SetupDialogTest, AnInvalidChannelBecomesTheFirst) {
     for (const int channel : {-1, 16, 300}) {
         settings().setLiteChannel(channel);
         show([](const Sheet& sheet) {
@@ -414,7 +414,7 @@ TEST_F(SetupDialogTest, ValuesTurnWithTheWheel) {
     });
 }
 
-// One picture a page; nothing of a page is cut off.
+// One picture per page; nothing on a page is cut off.
 TEST_F(SetupDialogTest, ControlsLieInsideTheirPages) {
     show([](const Sheet& sheet) {
         for (int index = 0; index < 3; ++index) {

@@ -68,7 +68,7 @@ protected:
         pump();
     }
 
-    // Does so until the desk hears of it: a list doesn't open again right after it has closed.
+    // Repeats that until it reaches the desk, because a list doesn't open again right after it has closed.
     Lines chosen(int id, std::initializer_list<WPARAM> keys) {
         Lines posted;
         EXPECT_TRUE(pumpUntil([&] {
@@ -140,8 +140,8 @@ TEST_F(SystemPanelTest, NoControlsOverlap) {
 
 struct PressRow {
     int id;
-    const char* first;   // What the first press asks for.
-    const char* second;  // The second one.
+    const char* first;   // What the first press requests.
+    const char* second;  // And the second one.
     bool ofDesk;
 };
 
@@ -328,7 +328,7 @@ TEST_F(SystemPanelTest, SaveAsksForABankOrAProgram) {
     }
 }
 
-TEST_F(SystemPanelTest, EveryControlTellsAboutItself) {
+TEST_F(SystemPanelTest, EveryControlHasHelp) {
     create();
     for (const ControlRow& row : CONTROLS) {
         gui.helpWindows.clear();

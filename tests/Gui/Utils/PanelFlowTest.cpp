@@ -1,5 +1,5 @@
-// Trees of panels that show, hide and change their height at random, compared with where everything must lie by the
-// rule alone: below one another, five pixels apart, in windows as high as what shows in them.
+// Trees of panels that show, hide and change their height at random, compared with where everything must be by the rule
+// alone: below one another, five pixels apart, in windows as high as what shows in them.
 #include "Gui/Utils/Panel.h"
 #include "tests/Gui/Utils/TemplateIds.h"
 #include "tests/support/win32/TestWindows.h"
@@ -19,7 +19,7 @@ namespace {
 constexpr int SPACING = 5;
 constexpr int START_HEIGHT = 30;
 
-// What a panel must be like, kept apart from the panel.
+// What a panel must be like, recorded separately from the panel.
 struct Node {
     std::unique_ptr<Panel> panel;
     Node* parent = nullptr;
@@ -83,7 +83,7 @@ public:
         settleWidths();
     }
 
-    // One change; false if the one that chance chose is not one that a program makes.
+    // Makes one random change; false if no program would make it.
     bool change() {
         Node& node = *m_nodes[pick(m_nodes.size())];
         m_log << (node.showing ? " hide " : " show ") << indexOf(node);
@@ -113,7 +113,7 @@ public:
         const Node& root = *m_nodes[0];
         RECT top{};
         GetWindowRect(m_top.handle(), &top);
-        // The top window first follows when the root shows.
+        // The top window follows only once the root shows.
         const int height = START_HEIGHT + (root.showing ? root.contentHeight() : 0);
         ASSERT_EQ(top.bottom - top.top, height) << m_log.str();
         if (root.showing) {
@@ -160,7 +160,7 @@ private:
         }
     }
 
-    // A container learns its width from each change in it; a few rounds take it to the top.
+    // A container updates its width with each change in it; a few rounds carry that to the top.
     void settleWidths() {
         for (int round = 0; round < 4; ++round)
             for (const auto& node : m_nodes)

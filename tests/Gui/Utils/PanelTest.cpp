@@ -301,7 +301,7 @@ TEST_F(PanelTest, PanelWithoutSpacingStaysWhereItIs) {
     EXPECT_EQ(places({&first, &close}), (Places{{0, 20, 20}, {0, 20, 20}}));
     last.showWnd(true);
     EXPECT_EQ(places({&close, &last}), (Places{{0, 20, 20}, {25, 20, 25}}));
-    // Its coming and going is nothing to the others.
+    // Whether it shows or hides doesn't affect the others.
     close.showWnd(false);
     EXPECT_EQ(places({&last}), (Places{{5, 20, 25}}));
 }
@@ -417,7 +417,7 @@ TEST_F(PanelTest, PanelForgetsAWindowThatIsGone) {
     EXPECT_EQ(GetPropA(root.getWindowHandle(), "PanelPtr"), &root);
 }
 
-// The class has one module, that of the first panel in the process.
+// The class has one module, the one of the first panel in the process.
 TEST_F(PanelTest, PlainPanelsMayNameSeveralModules) {
     for (void* const module : {static_cast<void*>(GetModuleHandleA(nullptr)), Platform::getModuleInstance()}) {
         FreePanel box;
@@ -451,13 +451,13 @@ TEST_F(PanelTest, NoExceptionLeavesAWindow) {
     }
 }
 
-// The words of the trace.
+// Counts lines of the trace.
 class PanelTraceTest : public PanelTest {
 protected:
     PanelTraceTest() { Backend::Trace::channel().setEnabled(true); }
     ~PanelTraceTest() override { Backend::Trace::channel().setEnabled(false); }
 
-    // How often a line has all these words.
+    // How many lines contain all these words.
     std::size_t lines(const std::string& function, const std::string& text) {
         std::size_t found = 0;
         for (const std::string& line : captured.texts()) {
@@ -471,7 +471,7 @@ protected:
     TestSupport::CapturedDebugText captured;
 };
 
-TEST_F(PanelTraceTest, TellsWhatAddDid) {
+TEST_F(PanelTraceTest, ReportsWhatAddDid) {
     FreePanel inner{IDD_TEST_SMALL};
     EXPECT_TRUE(root.add(&inner));
     EXPECT_EQ(lines("Panel::add", "IN"), 1u);
@@ -510,7 +510,7 @@ TEST_F(PanelTraceTest, MoveAndSizeOfALostWindowAreTraced) {
     a.showWnd(true);
     DestroyWindow(b.getWindowHandle());
     DestroyWindow(root.getWindowHandle());
-    // All windows are gone; the tree stays as it is and says so.
+    // All windows are gone; the tree stays as it is and traces that.
     a.modifyHeight(10);
     EXPECT_EQ(lines("Panel::modifyHeight", "TRACE ASSERT FAILED: rval != FALSE"), 1u);
 }

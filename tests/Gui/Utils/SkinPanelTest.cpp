@@ -15,7 +15,7 @@ using TestSupport::TestWindow;
 
 constexpr UINT PASSED_UP[] = {WM_KEYDOWN, WM_KEYUP, WM_SYSKEYDOWN, WM_SYSKEYUP, WM_LBUTTONDOWN};
 
-// Both kinds of panel, each right below the window that hears what they pass up.
+// Both kinds of panel, each right below the window that gets what they pass up.
 class SkinPanelTest : public testing::Test {
 protected:
     SkinPanelTest() {

@@ -1,4 +1,4 @@
-// The dialog templates of tests. Also read by the resource compiler.
+// The dialog templates of tests. The resource compiler reads this too.
 #pragma once
 
 #define IDD_TEST_SMALL 901

@@ -21,7 +21,7 @@ inline std::string runDesk(const std::string& folder, const std::string& script)
     return testing::internal::GetCapturedStdout();
 }
 
-// A program in which each element and each attribute of the format is set, without the defaults of what isn't there.
+// A program in which every element and attribute of the format is set, so that no defaults apply.
 inline std::string fullProgram(const char* rootTag) {
     std::string text = std::string("<") + rootTag + "><Program name=\"Full\" tempo=\"99\" tempoSource=\"1\">" +
                        "<ComputerInput merge=\"false\" useKeyUpMod=\"true\">";

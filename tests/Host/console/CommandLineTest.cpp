@@ -27,7 +27,7 @@ TEST(ConsoleCommandLine, WithoutArgumentsTheDeskRunsAsItWasLeft) {
     EXPECT_TRUE(line.files.empty());
 }
 
-TEST(ConsoleCommandLine, TakesEachValueBehindItsOptionOrAfterAnEqualsSign) {
+TEST(ConsoleCommandLine, TakesEachValueAfterItsOptionOrAnEqualsSign) {
     for (const Strings& arguments :
          {Strings{"--bank", "a b.bnk", "--program", "3", "--data", "C:\\d", "--record", "r.mid"},
           Strings{"--bank=a b.bnk", "--program=3", "--data=C:\\d", "--record=r.mid"}}) {
@@ -53,9 +53,9 @@ TEST(ConsoleCommandLine, HelpAndVersionWinOverWhatFollows) {
 }
 
 TEST(ConsoleCommandLine, SaysWhatItCantUnderstand) {
-    EXPECT_EQ(errorOf({"--bogus"}), "there is no option --bogus");
-    EXPECT_EQ(errorOf({"--bogus=1"}), "there is no option --bogus");
-    EXPECT_EQ(errorOf({"-b"}), "there is no option -b");
+    EXPECT_EQ(errorOf({"--bogus"}), "unknown option --bogus");
+    EXPECT_EQ(errorOf({"--bogus=1"}), "unknown option --bogus");
+    EXPECT_EQ(errorOf({"-b"}), "unknown option -b");
     EXPECT_EQ(errorOf({"--bank"}), "--bank needs a value");
     EXPECT_EQ(errorOf({"--data="}), "--data needs a value");
     EXPECT_EQ(errorOf({"notes.txt"}), "\"notes.txt\" is neither a bank (.bnk) nor a program (.prg)");

@@ -6,7 +6,7 @@ namespace {
 
 using namespace Host::Console;
 
-TEST(DeskFileName, KnowsBanksAndProgramsByTheirExtensions) {
+TEST(DeskFileName, RecognisesBanksAndProgramsByTheirExtensions) {
     EXPECT_EQ(kindOfDeskFile("C:\\My Music\\live.bnk"), DeskFileKind::BANK);
     EXPECT_EQ(kindOfDeskFile("live.BNK"), DeskFileKind::BANK);
     EXPECT_EQ(kindOfDeskFile("lead.Prg"), DeskFileKind::PROGRAM);

@@ -17,7 +17,7 @@ TEST(FrameTitle, NamesProgramBankAndProduct) {
     EXPECT_EQ(makeFrameTitle("", "", 0, false), "Mirel Console 3 LE");
 }
 
-TEST(FrameTitle, TellsThatAllKeysGoToTheDesk) {
+TEST(FrameTitle, SaysThatAllKeysGoToTheDesk) {
     EXPECT_EQ(makeFrameTitle("", "", 0, true), "Mirel Console 3 LE (global keyboard)");
 }
 
@@ -28,7 +28,7 @@ TEST(FrameLayout, LiesAroundTheDesk) {
     EXPECT_EQ(layout.height(), 232);
 }
 
-TEST(FrameLayout, KnowsWhatIsUnderTheMouse) {
+TEST(FrameLayout, FindsWhatIsUnderTheMouse) {
     const FrameLayout layout = FrameLayout::around(560, 200);
     const auto partIn = [&layout](const Rect& rect) {
         EXPECT_EQ(layout.partAt(rect.left, rect.top), layout.partAt(rect.right - 1, rect.bottom - 1));
@@ -83,7 +83,7 @@ TEST(FramePlacement, ATitleStaysWithinReach) {
     EXPECT_EQ(bringIntoReach({-590, 5, 10, 105}, area, false), (Rect{-500, 30, 100, 130}));
     // A docked window may be higher than the screen.
     EXPECT_EQ(bringIntoReach({100, -300, 700, 760}, area, true), (Rect{100, -300, 700, 760}));
-    // One that is narrow is all on the screen.
+    // A narrow one is completely on the screen.
     EXPECT_EQ(bringIntoReach({980, 40, 1040, 90}, area, false), (Rect{940, 40, 1000, 90}));
 }
 

@@ -14,13 +14,13 @@ TEST(OpenRequest, ReadsBackWhatItWrote) {
     EXPECT_FALSE(request.empty());
 }
 
-TEST(OpenRequest, PassesOverNonsense) {
+TEST(OpenRequest, SkipsNonsense) {
     EXPECT_TRUE(OpenRequest::fromText("").empty());
     EXPECT_TRUE(OpenRequest::fromText("\n\nnonsense\nfile \nbank").empty());
     EXPECT_EQ(OpenRequest::fromText("x\nfile a.bnk").files, std::vector<std::string>{"a.bnk"});
 }
 
-TEST(OpenRequest, ANameWithALineEndIsNoName) {
+TEST(OpenRequest, ANameWithALineEndIsNotAName) {
     EXPECT_TRUE(OpenRequest::fromText(OpenRequest{"a\nfile b.prg", "", {}}.toText()).empty());
 }
 

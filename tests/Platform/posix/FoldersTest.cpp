@@ -12,7 +12,7 @@
 namespace Platform {
 namespace {
 
-// A variable of the environment as a test wants it, and as it was afterwards.
+// Sets an environment variable for a test, and restores it afterwards.
 class Variable {
 public:
     Variable(const char* name, const char* value) : m_name(name) {

@@ -5,7 +5,7 @@
 namespace Platform {
 namespace {
 
-TEST(WindowsDebugSinkTest, DebugFileStandsAtTheTopOfTheDrive) {
+TEST(WindowsDebugSinkTest, DebugFileIsAtTheTopOfTheDrive) {
     EXPECT_EQ(debugFilePath(), "c:\\dbg.txt");
 }
 

@@ -45,7 +45,7 @@ TEST(WindowsFilesTest, FileThatAnotherProgramHoldsStaysAndNothingElseDoes) {
     EXPECT_EQ(entries, 1u);
 }
 
-TEST(WindowsFilesTest, PathThatIsNoUtf8IsRefused) {
+TEST(WindowsFilesTest, PathThatIsNotUtf8IsRefused) {
     EXPECT_EQ(Files::read("\xFF"), std::nullopt);
     EXPECT_FALSE(Files::replace("\xFF", "x"));
     EXPECT_FALSE(Files::createFolders("\xFF"));

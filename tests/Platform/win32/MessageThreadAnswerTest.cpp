@@ -30,7 +30,7 @@ TEST(MessageThreadAnswerTest, WindowsAnswerWhileAPostWaitsForRoom) {
         }
     });
     thread.post(ASK, 0, 0);
-    // Full once the thread has taken its question, so that only the last post waits.
+    // The queue is full once the thread has taken its question, so that only the last post waits.
     int posted = 0;
     while (posted < static_cast<int>(MessageThread::CAPACITY))
         posted += thread.post(FILL, 0, 0);

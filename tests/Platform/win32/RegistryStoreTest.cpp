@@ -30,7 +30,7 @@ TEST(RegistryStoreTest, ValuesLieInTheRegistryWithTheirKinds) {
     DWORD size = 0;
     EXPECT_EQ(RegQueryValueExA(raw, "text", nullptr, &type, nullptr, &size), ERROR_SUCCESS);
     EXPECT_EQ(type, DWORD{REG_SZ});
-    EXPECT_EQ(size, 5u);  // With the zero that ends it.
+    EXPECT_EQ(size, 5u);  // Including the terminating zero.
     RegCloseKey(raw);
     EXPECT_EQ(RegDeleteKeyA(HKEY_CURRENT_USER, key.c_str()), ERROR_SUCCESS);
 }

@@ -43,7 +43,7 @@ std::string elementLinesOf(std::string_view document) {
 
 using Markups = std::vector<std::string>;
 
-TEST(XmlMarkup, TellsTheKindsApart) {
+TEST(XmlMarkup, DistinguishesItsKinds) {
     EXPECT_EQ(markupsOf("<a><b/>\n<!-- <c> --><![CDATA[<d>]]><?e f?>\n</a >"),
               (Markups{"1:S <a>", "1:E <b/>", "2:O <!-- <c> -->", "2:O <![CDATA[<d>]]>", "2:O <?e f?>", "3:X </a >"}));
 }
@@ -56,7 +56,7 @@ TEST(XmlMarkup, NamesTags) {
     EXPECT_FALSE(reader.next());
 }
 
-TEST(XmlMarkup, EndsNoTagInsideOfAValue) {
+TEST(XmlMarkup, DoesNotEndATagInsideAValue) {
     EXPECT_EQ(markupsOf("<a b='>' c=\"/>'\"/>"), (Markups{"1:E <a b='>' c=\"/>'\"/>"}));
 }
 
@@ -80,16 +80,16 @@ TEST(XmlLines, EndWithAnyLineEnd) {
     EXPECT_EQ(elementLinesOf("<a>\r\n<b/>\r<c/>\n<d/></a>"), "a1 b2 c3 d4 ");
 }
 
-TEST(XmlLines, PassOverWhatLooksLikeElements) {
+TEST(XmlLines, SkipWhatOnlyLooksLikeElements) {
     EXPECT_EQ(elementLinesOf("<a><!-- <x>\n -->\n<b/><![CDATA[<y>\n]]><?z <q>?>\n<c/>t\n<d><e/></d></a>"),
               "a1 b3 c5 d6 e6 ");
 }
 
-TEST(XmlLines, StandInUtf16Too) {
+TEST(XmlLines, AreCountedInUtf16Too) {
     EXPECT_EQ(elementLinesOf("\xFF\xFE<\0a\0>\0\n\0<\0b\0/\0>\0<\0/\0a\0>\0"s), "a1 b2 ");
 }
 
-TEST(XmlLines, AreNotThereUnlessAskedFor) {
+TEST(XmlLines, AreGivenOnRequestOnly) {
     EXPECT_EQ(readXml("<a/>")->line, 0);
 }
 

@@ -12,7 +12,7 @@ namespace {
 
 using namespace std::string_literals;
 
-// One line for a tree: name[attribute=value;...](children), "text", # for comments and the like.
+// A tree in one line: name[attribute=value;...](children), "text", # for comments and the like.
 std::string describe(const XmlNode& node) {
     if (node.name.empty())
         return node.text.empty() ? "#" : "\"" + node.text + "\"";

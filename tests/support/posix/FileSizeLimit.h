@@ -7,7 +7,7 @@
 
 namespace TestSupport {
 
-// Files of this process can't grow beyond a size while this object lives: the disk is full.
+// Simulates a full disk: files of this process can't grow beyond a size while this object exists.
 class FileSizeLimit {
 public:
     explicit FileSizeLimit(rlim_t bytes) : m_oldHandler(std::signal(SIGXFSZ, SIG_IGN)) {

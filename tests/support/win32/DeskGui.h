@@ -11,8 +11,8 @@
 
 namespace TestSupport {
 
-// A main window's interface with a desk behind it that changes nothing: it puts down what is posted to it, in words.
-// The log is that of a real desk.
+// A main window's interface with a desk behind it that changes nothing and records in words what is posted to it. Its
+// log is that of a real desk.
 class DeskGui : public FakeMirelGui {
 public:
     DeskGui();
@@ -21,7 +21,7 @@ public:
     // What was posted to the desk since the last call: "NUMBER W L" each, with selectors and texts in words.
     std::vector<std::string> takePosted();
 
-    // What the window was asked for since the last call.
+    // What was requested of the window since the last call.
     std::vector<std::string> takeCalls();
 
     int defaultOutput = -1;
@@ -45,7 +45,7 @@ private:
     public:
         using MessageManager::MessageManager;
 
-        // [backend] The messages' own manager, which knows what they bring.
+        // [backend] The messages' own manager, which knows their payloads.
         void setManager(Backend::MessageManager& manager) { m_manager = &manager; }
         std::vector<std::string> take() { return std::exchange(m_lines, {}); }
 

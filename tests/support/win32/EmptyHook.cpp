@@ -1,4 +1,4 @@
-// A library of the keyboard hook's name that can do nothing.
+// A library with the keyboard hook's name and none of its functions.
 namespace {
 
 [[maybe_unused]] int nothing = 0;

@@ -12,8 +12,8 @@
 
 namespace TestSupport {
 
-// A main window's interface without a main window: it lends the desk's graphics, skin and settings, and remembers what
-// it was asked for. What needs a screen or the desk itself throws std::logic_error; all else does nothing.
+// A main window's interface without a main window: it provides the desk's graphics, skin and settings, and records what
+// it was asked for. What needs a screen or the desk itself throws std::logic_error; everything else does nothing.
 class FakeMirelGui : public Gui::MirelGuiIF {
 public:
     // To be filled by tests.

@@ -1,6 +1,6 @@
-// A MIDI driver in user mode, so that there are real devices where there is no hardware: what goes into its output n
-// comes out of its input n, called back by a thread of the driver's own. Two of each; the second of the inputs has the
-// name of the first. Controller 119 on output 2 has it hang for good.
+// A user-mode MIDI driver that provides real devices without hardware: what goes into its output n comes out of its
+// input n, on one of the driver's own threads. There are two of each; the second input has the name of the first.
+// Controller 119 on output 2 makes it hang for good.
 #include <windows.h>
 
 #include <mmsystem.h>
@@ -35,7 +35,7 @@ struct Delivery {
     DWORD word;
 };
 
-// All that the driver knows. It is never destroyed: threads may still be in it at the end of the program.
+// All of the driver's state. It is never destroyed, because threads may still be in it when the program ends.
 struct Driver {
     std::mutex mutex;
     std::condition_variable work;

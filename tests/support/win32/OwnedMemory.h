@@ -7,8 +7,8 @@
 
 namespace TestSupport {
 
-// The bytes that this process has taken from all its heaps and not given back. Unlike its pages, they are the same
-// after the same work.
+// The bytes that this process has allocated from all its heaps and not freed. Unlike its pages, they are the same after
+// the same work.
 inline std::size_t countOwnedMemory() {
     std::vector<HANDLE> heaps(GetProcessHeaps(0, nullptr));
     heaps.resize(GetProcessHeaps(static_cast<DWORD>(heaps.size()), heaps.data()));

@@ -6,7 +6,7 @@
 
 namespace TestSupport {
 
-// The tests' own keyboard hooks: one that writes its calls down, and one without functions.
+// The tests' own keyboard hooks: one that records its calls, and one without functions.
 class RecordedHook {
 public:
     static std::string recordingFolder() { return folder() + "\\hooks\\recording"; }
@@ -18,7 +18,7 @@ public:
     RecordedHook(const RecordedHook&) = delete;
     RecordedHook& operator=(const RecordedHook&) = delete;
 
-    // The calls since the last time, a line each.
+    // The calls since the last time, one per line.
     std::string takeCalls() const {
         const auto take =
             reinterpret_cast<const char* (*)()>(reinterpret_cast<void (*)()>(GetProcAddress(m_library, "takeCalls")));
@@ -26,7 +26,7 @@ public:
     }
 
 private:
-    // Of this program.
+    // The folder of this program's.
     static std::string folder() {
         std::string path(0x8000, '\0');
         path.resize(GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size())));

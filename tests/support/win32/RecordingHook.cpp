@@ -1,4 +1,4 @@
-// A keyboard hook that hooks nothing: it writes down how it was called.
+// A keyboard hook that hooks nothing and records how it was called.
 #include <windows.h>
 
 #include <string>
@@ -47,7 +47,7 @@ __declspec(dllexport) void addControlKey(int code, bool shift, bool control, boo
         std::to_string(action));
 }
 
-// For the test: all calls since the last one, a line each. Valid until the next.
+// For the test: all calls since the last one, one per line. Valid until the next call.
 __declspec(dllexport) const char* takeCalls() {
     static std::string taken;
     taken = std::exchange(calls, {});

@@ -1,4 +1,4 @@
-// Windows of tests: messages, the pointer and the keyboard, and what the screen shows.
+// Windows for tests: messages, the pointer and the keyboard, and what the screen shows.
 #pragma once
 
 #include "tests/support/Eventually.h"
@@ -12,7 +12,7 @@
 
 namespace TestSupport {
 
-// Hands out every message that waits for this thread.
+// Dispatches every message that waits for this thread.
 void pump();
 
 // Pumps until the condition holds. False after a limit that only a hang reaches.
@@ -24,7 +24,7 @@ bool pumpUntil(Condition condition) {
     });
 }
 
-// A visible window of this thread that remembers what it gets.
+// A visible window of this thread that records what it gets.
 class TestWindow {
 public:
     struct Message {
@@ -47,7 +47,7 @@ public:
     std::size_t count(UINT id) const { return received(id).size(); }
     void forgetMessages() { m_messages.clear(); }
 
-    // What the window answers instead of the system; 0 goes there.
+    // What the window answers instead of the system; 0 leaves it to the system.
     std::function<LRESULT(const Message&)> answer;
 
 private:
@@ -57,7 +57,7 @@ private:
     std::vector<Message> m_messages;
 };
 
-// The pixels of a window's client area, painted up to date.
+// The pixels of a window's client area, after it has been painted.
 class Picture {
 public:
     explicit Picture(HWND window);
@@ -68,14 +68,14 @@ public:
     // Black beyond the edges.
     COLORREF at(int x, int y) const;
 
-    // How many pixels of a part have this colour.
+    // How many pixels in a part have this colour.
     int count(COLORREF colour, const RECT& part) const;
     int count(COLORREF colour) const { return count(colour, {0, 0, m_width, m_height}); }
 
     // The first row, from the top, with a pixel of this colour; -1 if there is none.
     int firstRowWith(COLORREF colour) const;
 
-    // For the eye: writes NAME.bmp into the folder that the variable MIREL_SHOTS names, if there is one.
+    // For looking at: writes NAME.bmp into the folder that the variable MIREL_SHOTS names, if it is set.
     void save(const std::string& name) const;
 
 private:
@@ -90,20 +90,20 @@ RECT rectInParent(HWND window);
 // Where a point of a window's client area lies on the screen.
 POINT onScreen(HWND window, int x, int y);
 
-// The pointer, by the system's own input. Each pumps until it has arrived.
+// Move the pointer and press buttons through the system's own input. Each pumps until that has arrived.
 void movePointer(HWND window, int x, int y);
-void mouseButton(DWORD flags);  // MOUSEEVENTF_LEFTDOWN and its kin.
+void mouseButton(DWORD flags);  // MOUSEEVENTF_LEFTDOWN and the like.
 void clickLeft(HWND window, int x, int y);
 void releaseButtons();  // Whichever are down.
 
-// Queues a press of a key for a menu that is going to open on this window.
+// Queues a key press for a menu that is about to open on this window.
 void keyForMenu(HWND owner, WPARAM key);
 
-// [any other] Waits for a menu that a thread shows, and ends it; whether there was one. What it posts may come late:
-// the thread pumps before it shows another.
+// [any other] Waits for a menu that a thread shows, and ends it; returns whether there was one. What it posts may
+// arrive late: the thread must pump before it shows another.
 bool endMenuOf(DWORD thread);
 
-// Does something on another thread, which may see a dialog of this one, and ends it with this object.
+// Does something on another thread, which may see a dialog of this one; the destructor waits for it.
 class OtherThread {
 public:
     explicit OtherThread(std::function<void()> work);
@@ -119,7 +119,7 @@ private:
 // [any] Waits for a visible dialog of this process that the condition accepts. Null after the limit.
 HWND waitForDialog(const std::function<bool(HWND)>& condition);
 
-// [any] The words of a window, also of another thread.
+// [any] The text of a window, even of another thread's.
 std::string textOf(HWND window);
 
 }

@@ -17,7 +17,7 @@ constexpr const char* NAME = "Mirel Console 3 LE";
 
 }
 
-// Sees the keys as they come from the window.
+// Records the keys as they come from the window.
 class WindowDesk::WitnessMirel : public Mirel {
 public:
     WitnessMirel(WindowDesk& desk, std::vector<std::string>& keys) : Mirel(NAME, desk), m_keys(keys) {}
@@ -89,7 +89,7 @@ void WindowDesk::startPlayer() {
         m_threadId = Platform::currentThreadId();
         for (std::int32_t now = 0; m_isPlaying; ++now) {
             m_mirel->playTimeSlice(now, now + 1);
-            Platform::sleepMilliseconds(1);  // The pace of a player; whatever comes meanwhile is one slice's.
+            Platform::sleepMilliseconds(1);  // The pace of a player; whatever comes meanwhile belongs to one slice.
         }
     });
 }

@@ -16,7 +16,7 @@
 
 namespace TestSupport {
 
-// A whole desk with its real window, in a host's window that remembers what it gets. The thread of the test is the
+// A whole desk with its real window, in a host's window that records what it gets. The test's thread acts as the
 // window's. One at a time.
 class WindowDesk : private Backend::MidiEngine::MidiPlayer {
 public:
@@ -25,17 +25,17 @@ public:
     WindowDesk(const WindowDesk&) = delete;
     WindowDesk& operator=(const WindowDesk&) = delete;
 
-    // Before start: settings as an earlier run left them, and the folder of the program.
+    // Before start: sets the settings that an earlier run left, and the folder of the program.
     void prepareSettings(const std::function<void(Backend::RegistrySettings&)>& set);
     void prepareProgramFolder(const std::string& folder);
 
-    // The host's start, with two inputs and three outputs, without a window.
+    // Starts like the host, with two inputs and three outputs, without a window.
     void start();
 
-    // From here to the end a player plays slices on a thread of its own.
+    // From here to the end a player plays slices on its own thread.
     void startPlayer();
 
-    // Makes the window, fills it, and waits until all is done.
+    // Creates the window, fills it, and waits until everything is done.
     Gui::MirelGui& open(bool isVstPlugin = false);
 
     // Destroys the window and its object.
@@ -45,13 +45,13 @@ public:
     Gui::MirelGui& gui() { return *m_gui; }
     HWND window() { return m_gui->getWindowHandle(); }
 
-    // Hands out messages until nothing goes on on any thread.
+    // Dispatches messages until all threads are idle.
     void settle();
 
     // The size of the desk's window.
     SIZE size();
 
-    // Posts what the desk would, with an object that the window is to free, and waits until it is done.
+    // Posts what the desk would post, with an object that the window must free, and waits until it is done.
     void tell(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
     // The keys that the desk got since the last call: "down CODE MODIFIERS", with "repeat", or "up CODE MODIFIERS".
@@ -59,7 +59,7 @@ public:
 
     std::string file(const std::string& name) const { return m_folder.file(name); }
 
-    // Before startPlayer: what is to see the events that come out. [player]
+    // Before startPlayer: gets the events that come out. [player]
     std::function<void(const Backend::MidiEngine::MirelMidiMessage&)> onPlayed;
 
     TestWindow host{800, 600};

@@ -1,4 +1,4 @@
-// What is known of the attributes of an element, from the rows by which the backend reads and writes them.
+// What is known about the attributes of an element, from the rows by which the backend reads and writes them.
 #pragma once
 
 #include "Backend/functions/values/NoteToggle.h"
@@ -29,7 +29,7 @@ struct AttributeFormat {
 
 using AttributeFormats = const std::vector<AttributeFormat>&();
 
-// How a value is judged, by its type. Every type that is stored has to be here.
+// How a value is judged, by its type. Every stored type must be listed here.
 template <class Value>
 inline constexpr Judge* JUDGE_OF = nullptr;
 template <>
@@ -65,7 +65,7 @@ inline constexpr Judge* JUDGE_OF<SelectControlType> = judgeSelectControlType;
 template <>
 inline constexpr Judge* JUDGE_OF<SelectType> = judgeSelectType;
 
-// What a missing attribute reads as, in its text form. A key or an event that is none has no text.
+// The text form of what a missing attribute reads as. An invalid key or event has no text.
 template <class Owner, class Value>
 std::string missingText(const Backend::Attribute<Owner, Value>& row) {
     if constexpr (std::is_same_v<Value, bool>)
@@ -83,7 +83,7 @@ std::string missingText(const Backend::Attribute<Owner, Value>& row) {
 template <class Owner, class Value>
 AttributeFormat formatOf(const Backend::Attribute<Owner, Value>& row) {
     static_assert(JUDGE_OF<Value> != nullptr);
-    // A flag that can only be false is one that the desk writes and never looks at.
+    // A flag that can only be false is one that the desk writes but never reads.
     const bool isFalseAlone = std::is_same_v<Value, bool> && row.range.highest == 0;
     return {row.name, row.written, missingText(row), {isFalseAlone ? judgeFalseAlone : JUDGE_OF<Value>, row.range}};
 }
@@ -99,7 +99,7 @@ const std::vector<AttributeFormat>& attributesOf() {
     return formats;
 }
 
-// [any] None.
+// [any] No attributes.
 inline const std::vector<AttributeFormat>& noAttributes() {
     static const std::vector<AttributeFormat> none;
     return none;

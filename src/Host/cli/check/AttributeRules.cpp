@@ -33,7 +33,7 @@ std::string isRead(const std::string& value) {
 }
 
 std::string isTaken(const std::string& what, const std::string& missing) {
-    return "is no " + what + ", so \"" + missing + "\" is taken";
+    return "is not a " + what + ", so \"" + missing + "\" is used";
 }
 
 std::string isOutside(const NumberRange& range) {
@@ -47,7 +47,7 @@ std::string withoutBlanks(std::string text) {
     return text;
 }
 
-// What an item writes has to be what it was read from.
+// An item must write exactly what it was read from.
 template <class Item>
 std::string judgeItem(const std::string& text) {
     const std::string read = Item(std::string_view(text)).toXmlString();
@@ -72,10 +72,10 @@ bool isNoteText(std::string_view text) {
 std::string judgeCellInGrid(const Cell& cell) {
     const bool isInGrid =
         cell.getRow() >= 0 && cell.getRow() < GRID_SIZE && cell.getColumn() >= 0 && cell.getColumn() < GRID_SIZE;
-    return isInGrid ? std::string() : "is no cell from 0,0 to 15,15";
+    return isInGrid ? std::string() : "is not a cell from 0,0 to 15,15";
 }
 
-// One offset of an item; its letter decides.
+// One offset of an item; its letter decides how it is read.
 bool isSequencePart(std::string_view part) {
     if (part.empty() || part == "-")
         return true;
@@ -87,7 +87,7 @@ std::string judgeSequenceItem(std::string_view item) {
     constexpr int MAX_PARTS = 3;
     for (int parts = 0; !item.empty(); ++parts) {
         if (parts == MAX_PARTS)
-            return "holds more than three offsets in one item; those behind are ignored";
+            return "holds more than three offsets in one item; the rest are ignored";
         const std::size_t end = std::min(item.find(' '), item.size());
         const std::string_view part = Text::trim(item.substr(0, end));
         if (!isSequencePart(part))
@@ -104,11 +104,11 @@ std::string judgeNothing(const std::string&, const std::string&, const Attribute
 }
 
 std::string judgeBoolean(const std::string& text, const std::string& missing, const AttributeRule&) {
-    return Text::readBool(text) ? std::string() : "is neither true nor false, so \"" + missing + "\" is taken";
+    return Text::readBool(text) ? std::string() : "is neither true nor false, so \"" + missing + "\" is used";
 }
 
 std::string judgeFalseAlone(const std::string& text, const std::string&, const AttributeRule&) {
-    return Text::readBool(text) == false ? std::string() : "has no effect; the desk takes it for false";
+    return Text::readBool(text) == false ? std::string() : "has no effect; the desk reads it as false";
 }
 
 // A key without a name is written as "Unknown", and one of the built-in keys has none.
@@ -116,7 +116,7 @@ std::string judgeKey(const std::string& text, const std::string&, const Attribut
     const Key key{std::string_view(text)};
     if (key.getCode() != Key::NO_KEY || text.empty() || text == key.toXmlString())
         return {};
-    return "is no key's name, so that no key reaches it";
+    return "is not the name of a key, so no key triggers it";
 }
 
 std::string judgeNote(const std::string& text, const std::string& missing, const AttributeRule& rule) {
@@ -125,11 +125,11 @@ std::string judgeNote(const std::string& text, const std::string& missing, const
         return rule.range.contains(NO_NOTE) ? std::string() : isTaken("note", missing);
     if (isNoteText(text) && note.isNote())
         return {};
-    return "is no note from C-1 to G9; it " + isRead(note.toXmlString());
+    return "is not a note from C-1 to G9; it " + isRead(note.toXmlString());
 }
 
 std::string judgeAmount(const std::string& text, const std::string&, const AttributeRule&) {
-    return Text::trim(text).empty() || isWholeNumber(text) ? std::string() : "is no amount such as +5, -5 or 5";
+    return Text::trim(text).empty() || isWholeNumber(text) ? std::string() : "is not an amount such as +5, -5 or 5";
 }
 
 std::string judgeFraction(const std::string& text, const std::string&, const AttributeRule&) {
@@ -158,14 +158,14 @@ std::string judgeSelectType(const std::string& text, const std::string& missing,
 std::string judgeSelectControlType(const std::string& text, const std::string& missing, const AttributeRule& rule) {
     const SelectControlType type{std::string_view(text)};
     if (type.getMode() != SelectControlType::SPECIFIC || text == Cell().toXmlString())
-        return {};  // The desk writes a cell that nobody has chosen yet as well.
+        return {};  // The desk also writes a cell that nobody has chosen yet.
     return judgeCell(text, missing, rule);
 }
 
 std::string judgeMidiEvent(const std::string& text, const std::string&, const AttributeRule&) {
     const MidiMessage event(text);
     if (!event.isValid())
-        return "is no MIDI event";
+        return "is not a MIDI event";
     if (event.getD1() < 0)
         return "has a number outside 0 to 127";
     return event.toXmlString() == text ? std::string() : isRead(event.toXmlString());

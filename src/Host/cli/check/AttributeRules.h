@@ -1,4 +1,4 @@
-// How the texts of attributes are judged: by the backend's own reading of them.
+// Judges the texts of attributes by the backend's own readers.
 #pragma once
 
 #include "Backend/core/xml/Attribute.h"
@@ -9,8 +9,8 @@ namespace Host::Cli {
 
 struct AttributeRule;
 
-// [any] What is wrong with a text, as "is outside 0 to 127"; empty if nothing is. missing: what the desk takes where
-// the attribute is missing.
+// [any] What is wrong with a text, such as "is outside 0 to 127"; empty if nothing is. missing: the value the desk uses
+// if the attribute is missing.
 using Judge = std::string(const std::string& text, const std::string& missing, const AttributeRule& rule);
 
 struct AttributeRule {
@@ -22,7 +22,7 @@ Judge judgeNumber, judgeNothing, judgeBoolean, judgeFalseAlone, judgeKey, judgeN
     judgeNoteToggle, judgeOnOffToggle, judgeSelectType, judgeSelectControlType, judgeControlType, judgeCell,
     judgeMidiEvent;
 
-// [any] Whether a text is a whole number of 32 bits and nothing else, but for white space around it.
+// [any] Whether a text is just a whole number of 32 bits, apart from white space around it.
 bool isWholeNumber(const std::string& text);
 
 // [any] What is wrong with the text form of a sequence.

@@ -13,7 +13,7 @@ using Platform::XmlMarkup;
 
 namespace {
 
-// What the desk looks for in lines.
+// The line starts that the desk looks for.
 constexpr std::string_view PROGRAM_START = "<Program ";
 constexpr std::string_view PROGRAM_END = "</Program>";
 constexpr std::string_view BANK_END = "</Bank>";
@@ -71,7 +71,7 @@ private:
             checkProgramTag(markup);
         else if (markup.name() == PROGRAM_TAG)
             complain(markup,
-                     "an element Program that is no child of the bank is taken for one when the bank is changed");
+                     "an element Program that is not a child of the bank is taken for one when the bank is changed");
         else if (level == BANK_LEVEL && markup.kind == XmlMarkup::Kind::END_TAG && markup.text != BANK_END)
             complain(markup, "the bank's end tag must be just " + std::string(BANK_END));
         if (isProgram || isEndOfBank(markup, level) || (level == COMPONENT_LEVEL && m_isInProgram))
@@ -97,7 +97,7 @@ private:
         const std::size_t behind = markup.position + markup.text.size();
         const std::size_t end = std::min(m_text.find('\n', behind), m_text.size());
         if (!isBlank(m_text.substr(start, markup.position - start)) || !isBlank(m_text.substr(behind, end - behind)))
-            complain(markup, "a tag of a program's frame shares its line, but a bank is changed by lines");
+            complain(markup, "a tag of a program's frame shares its line, but banks are changed line by line");
     }
 
     std::string_view m_text;
@@ -106,7 +106,7 @@ private:
     Complaints m_complaints;
 };
 
-// The line of the first carriage return that no newline follows; 0 if there is none.
+// The line of the first carriage return without a newline after it; 0 if there is none.
 int findLoneReturn(std::string_view content) {
     int line = 1;
     for (std::size_t i = 0; i < content.size(); ++i) {
@@ -124,7 +124,7 @@ Complaints checkBankLines(std::string_view content) {
     if (contains(content, std::string_view("\0", 1)))
         return {{1, "the bank is in UTF-16, in which the desk finds no programs to change"}};
     if (const int line = findLoneReturn(content); line > 0)
-        return {{line, "a carriage return without a newline ends no line when the bank is changed"}};
+        return {{line, "a carriage return without a newline doesn't end a line when the bank is changed"}};
     const auto document = Platform::decodeXml(content);
     return document ? BankLines(*document).check() : Complaints();
 }

@@ -6,8 +6,8 @@
 
 namespace Host::Cli {
 
-// [any] What would go wrong where the desk puts programs into a bank and cuts them off by lines: tags of a program's
-// frame that share a line, and what looks like a program and is none. content: a bank file that is well-formed.
+// [any] What would go wrong when the desk, line by line, inserts programs into a bank or cuts them out: tags of a
+// program's frame that share a line, and text that only looks like a program. content: a well-formed bank file.
 Complaints checkBankLines(std::string_view content);
 
 }

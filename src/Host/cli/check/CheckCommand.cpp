@@ -14,12 +14,12 @@ namespace {
 
 constexpr CommandUsage USAGE{R"(usage: mirel check [--data DIR] FILE...
 
-says of programs, banks, presets and sequences what the desk would ignore in them or replace by a default, one
-line each: FILE:LINE: what. Nothing is said of a file that is all right. Presets that a file refers to are looked
-for in DIR, or else beside the file, in the folder above it and in the user's own data; in each of them also in
-its folder Default.
+Reports what the desk would ignore in programs, banks, presets and sequences, or replace by a default, as lines
+of the form FILE:LINE: what. It prints nothing for a good file. Presets that a file refers to are looked up in
+DIR or, without --data, beside the file, in the folder above it and in the user's own data; in each of these also
+in its folder Default.
 
-exit status: 0 all is right, 1 something was said, 2 a file can't be read or is none of these
+exit status: 0 no complaints, 1 complaints, 2 a file can't be read or isn't one of the desk's
 )"};
 
 struct CheckOptions {
@@ -27,7 +27,7 @@ struct CheckOptions {
     std::vector<std::string> files;
 };
 
-// Nothing, with one line in error, for words that make no sense.
+// Nothing, with one line in error, for arguments that make no sense.
 std::optional<CheckOptions> parseOptions(const Arguments& arguments, std::string& error) {
     CheckOptions options;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
@@ -37,7 +37,7 @@ std::optional<CheckOptions> parseOptions(const Arguments& arguments, std::string
         else if (argument == "--data")
             error = "--data takes a folder";
         else if (argument.starts_with("--"))
-            error = "there is no option " + argument;
+            error = "unknown option " + argument;
         else
             options.files.push_back(argument);
     }

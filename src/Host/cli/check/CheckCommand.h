@@ -5,7 +5,7 @@
 
 namespace Host::Cli {
 
-// [main] "mirel check": says what the desk would ignore in files, or replace by a default. Returns the exit status.
+// [main] "mirel check": reports what the desk would ignore in files or replace by a default. Returns the exit status.
 int runCheck(const std::vector<std::string>& arguments);
 
 }

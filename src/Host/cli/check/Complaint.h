@@ -5,7 +5,7 @@
 
 namespace Host::Cli {
 
-// One thing to say of a file.
+// One thing that is wrong with a file.
 struct Complaint {
     int line;  // From 1.
     std::string text;

@@ -17,7 +17,7 @@ class FileCheck;
 
 using Backend::Written;
 
-// Which children count where only one does.
+// Which children count if only one does.
 enum class Counts { ALL, FIRST, LAST };
 
 struct ChildFormat {
@@ -30,12 +30,12 @@ struct ElementFormat {
     const char* tag;
     AttributeFormats* attributes = &noAttributes;
     std::span<const ChildFormat> children = {};
-    bool holdsFunction = false;     // Its child is the element of a function.
-    bool firstChildCounts = false;  // And no other, whatever its tag.
+    bool holdsFunction = false;     // Its child is a function's element.
+    bool firstChildCounts = false;  // All others are ignored, whatever their tags.
     bool holdsText = false;
-    // What no two of its kind share, from the text of the first attribute; the later one wins.
+    // Must differ among elements of its kind, by the text of the first attribute; the later one wins.
     std::int64_t (*identity)(const std::string& id) = nullptr;
-    void (FileCheck::*more)(const Platform::XmlNode& element) = nullptr;  // What is not said above.
+    void (FileCheck::*more)(const Platform::XmlNode& element) = nullptr;  // Rules beyond those above.
 };
 
 }

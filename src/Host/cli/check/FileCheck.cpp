@@ -46,14 +46,14 @@ const std::string* findAttribute(const XmlNode& element, std::string_view name) 
     return nullptr;
 }
 
-// In quotes; what is too long for a line is cut.
+// In quotes, shortened if it is too long for a line.
 std::string quote(std::string_view text) {
     constexpr std::size_t MAX_LENGTH = 60;
     if (text.size() <= MAX_LENGTH)
         return "\"" + std::string(text) + "\"";
     std::size_t length = MAX_LENGTH;
     while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80)
-        --length;  // Not inside of a character.
+        --length;  // Not in the middle of a character.
     return "\"" + std::string(text.substr(0, length)) + "...\"";
 }
 
@@ -95,14 +95,14 @@ std::string FileCheck::run() {
         return "is not well-formed XML";
     const ElementFormat* format = findFileFormat(root->name);
     if (!format)
-        return "is no program, bank, preset or sequence, but an element " + quote(root->name);
+        return "is not a program, bank, preset or sequence but an element " + quote(root->name);
     checkElement(*root, *format);
     std::stable_sort(m_complaints.begin(), m_complaints.end(),
                      [](const Complaint& left, const Complaint& right) { return left.line < right.line; });
     return {};
 }
 
-// A text from the file may hold line ends; a complaint is one line.
+// A text from the file may hold line ends, but a complaint is one line.
 void FileCheck::complain(const XmlNode& element, const std::string& text) {
     std::string line = text;
     std::replace_if(
@@ -139,18 +139,18 @@ void FileCheck::checkAttributes(const XmlNode& element, const ElementFormat& for
 void FileCheck::checkMissing(const XmlNode& element, const ElementFormat& format) {
     for (const AttributeFormat& row : format.attributes())
         if (isExpected(row.written, element) && !findAttribute(element, row.name))
-            complain(element, element.name + " lacks " + row.name + ", so " + quote(row.missing) + " is taken");
+            complain(element, element.name + " lacks " + row.name + ", so " + quote(row.missing) + " is used");
     for (const ChildFormat& row : format.children) {
         const auto isThis = [&row](const XmlNode& child) { return child.name == row.element->tag; };
         if (isExpected(row.written, element) && std::none_of(element.children.begin(), element.children.end(), isThis))
-            complain(element, element.name + " lacks " + row.element->tag + ", which is taken for empty");
+            complain(element, element.name + " lacks " + row.element->tag + ", which counts as empty");
     }
 }
 
 void FileCheck::checkChildren(const XmlNode& element, const ElementFormat& format) {
     std::unordered_map<const ElementFormat*, int> firstLines;
     std::unordered_map<std::int64_t, int> ids;
-    bool isOver = false;  // What counts is there, and the rest does not.
+    bool isOver = false;  // The child that counts was found; the rest are ignored.
     for (const XmlNode& child : element.children) {
         if (!isElement(child)) {
             if (!child.text.empty() && !format.holdsText)
@@ -162,7 +162,7 @@ void FileCheck::checkChildren(const XmlNode& element, const ElementFormat& forma
             complain(child, "unknown element " + quote(child.name) + " in " + element.name +
                                 (format.holdsText ? "" : " is ignored"));
         else if (isOver)
-            complain(child, child.name + " is ignored, as " + element.name + " holds another element before it");
+            complain(child, child.name + " is ignored because " + element.name + " holds another element before it");
         isOver = isOver || (format.firstChildCounts && (childFormat || format.holdsFunction));
         if (!childFormat)
             continue;
@@ -177,7 +177,7 @@ void FileCheck::checkChildren(const XmlNode& element, const ElementFormat& forma
             const std::string* id = findAttribute(child, childFormat->attributes().front().name);
             const auto [first, isNew] = ids.try_emplace(childFormat->identity(id ? *id : std::string()), child.line);
             if (!isNew)
-                complain(child, child.name + " " + quote(id ? *id : std::string()) + " replaces that of line " +
+                complain(child, child.name + " " + quote(id ? *id : std::string()) + " replaces the one on line " +
                                     std::to_string(first->second));
             first->second = child.line;
         }
@@ -208,7 +208,7 @@ void FileCheck::checkKeysOfProgram(const XmlNode& element) {
     const std::string preset(Text::trim(asRead(element).getAttribute(PRESET)));
     const auto child = std::find_if(element.children.begin(), element.children.end(), isElement);
     if (!preset.empty() && child != element.children.end())
-        complain(*child, "the keys are ignored, as those of the preset " + quote(preset) + " are taken");
+        complain(*child, "the keys are ignored because those of the preset " + quote(preset) + " are used");
 }
 
 void FileCheck::checkRangeOfControl(const XmlNode& element) {
@@ -233,7 +233,7 @@ void FileCheck::checkSequenceSetting(const XmlNode& element) {
     const auto own = std::find_if(element.children.begin(), element.children.end(),
                                   [](const XmlNode& child) { return child.name == Sequence::TAG; });
     if (!preset.empty() && own != element.children.end())
-        complain(*own, "the sequence is ignored, as that of the preset " + quote(preset) + " is taken");
+        complain(*own, "the sequence is ignored because that of the preset " + quote(preset) + " is used");
 }
 
 void FileCheck::checkSequence(const XmlNode& element) {
@@ -246,7 +246,7 @@ void FileCheck::checkFirstChildIsProgram(const XmlNode& element) {
     const auto program = std::find_if(element.children.begin(), element.children.end(),
                                       [](const XmlNode& child) { return child.name == BankFile::PROGRAM_TAG; });
     if (program != element.children.begin() && program != element.children.end())
-        complain(*program, "the program is ignored, as something stands before it");
+        complain(*program, "the program is ignored because something precedes it");
 }
 
 void FileCheck::checkLinesOfBank(const XmlNode&) {

@@ -13,20 +13,21 @@ struct XmlNode;
 
 namespace Host::Cli {
 
-// Looks a program, bank, preset or sequence file through for what the desk would ignore in it or replace by a default.
-// The root element tells which file it is.
+// Searches a program, bank, preset or sequence file for what the desk would ignore or replace by a default. The root
+// element shows which kind of file it is.
 class FileCheck {
 public:
     // The content and the presets must outlive this.
     FileCheck(std::string_view content, PresetFiles& presets) : m_content(content), m_presets(presets) {}
 
-    // [any] Why the content is no file of the desk; empty if it is one. Then there may be complaints.
+    // [any] Why the content is not one of the desk's files; empty if it is, and then there may be complaints.
     std::string run();
 
-    // In the order of lines.
+    // In line order.
     const Complaints& getComplaints() const { return m_complaints; }
 
-    // What the tables of formats name: rules of one kind of element. An element is one of the file that is checked.
+    // Rules for one kind of element each, named in the tables of formats. The element must come from the file being
+    // checked.
     void checkComputerInputPreset(const Platform::XmlNode& element);
     void checkControlPreset(const Platform::XmlNode& element);
     void checkLayerPreset(const Platform::XmlNode& element);

@@ -1,4 +1,4 @@
-// The files of the desk, as their readers know them.
+// The desk's files, as their readers expect them.
 #pragma once
 
 #include "Host/cli/check/ElementFormat.h"
@@ -7,7 +7,7 @@
 
 namespace Host::Cli {
 
-// [any] The format of a program, bank, preset or sequence file by the tag of its root; null for any other tag.
+// [any] The format of a program, bank, preset or sequence file by its root's tag; null for any other tag.
 const ElementFormat* findFileFormat(std::string_view rootTag);
 
 }

@@ -6,7 +6,7 @@
 
 namespace Host::Cli {
 
-// [any] The element of a function by its tag, made from the backend's list of functions; null for any other tag.
+// [any] A function's element by its tag, made from the backend's list of functions; null for any other tag.
 const ElementFormat* findFunctionFormat(std::string_view tag);
 
 }

@@ -14,9 +14,9 @@ namespace {
 
 constexpr CommandUsage USAGE{R"(usage: mirel import bank|program|preset FROM TO [--data DIR]
 
-converts a version 2 file into the file TO. The name of a version 2 preset begins with the word key, control or
-layer, which tells its kind. The keys of a version 2 file stand on top of the preset "000 - Default" of DIR, or of
-the keys that are built in where DIR is not given or has no such preset. Nothing but TO is written.
+Converts a version 2 file into the file TO and writes nothing else. The name of a version 2 preset must begin with
+the word key, control or layer, which gives its kind. The keys of a version 2 file are added to those of the preset
+"000 - Default" in DIR or, without DIR or such a preset, to the built-in keys.
 )"};
 
 struct ImportOptions {
@@ -26,7 +26,7 @@ struct ImportOptions {
     std::string dataFolder;
 };
 
-// Nothing, with one line in error, for words that make no sense.
+// Nothing, with one line in error, for arguments that make no sense.
 std::optional<ImportOptions> parseOptions(const Arguments& arguments, std::string& error) {
     ImportOptions options;
     std::vector<std::string> words;
@@ -37,7 +37,7 @@ std::optional<ImportOptions> parseOptions(const Arguments& arguments, std::strin
         else if (argument == "--data")
             error = "--data takes a folder";
         else if (argument.starts_with("--"))
-            error = "there is no option " + argument;
+            error = "unknown option " + argument;
         else
             words.push_back(argument);
     }

@@ -24,7 +24,7 @@ namespace Files = Platform::Files;
 
 namespace {
 
-constexpr const char* NOTHING = "holds nothing of version 2";
+constexpr const char* NOTHING = "holds no version 2 data";
 constexpr const char* PRESET_NAME = "preset";
 constexpr char PROGRAM = 'P';
 
@@ -34,7 +34,7 @@ constexpr std::array PRESET_FOLDERS = {
     Layers::LayerManager::PRESET_FOLDER,
 };
 
-// The text as UTF-8; nothing if it is no text.
+// The content as UTF-8; nothing if it is not text.
 std::optional<std::string> decode(const std::string& content) {
     auto text = Platform::decodeXml(content);
     if (!text)
@@ -42,7 +42,7 @@ std::optional<std::string> decode(const std::string& content) {
     return text ? std::optional(std::move(text->text)) : std::nullopt;
 }
 
-// Any text whose first letter is right would do for the import, and it never fails.
+// The import accepts any text whose first letter is right, and never fails.
 bool beginsWithProgram(const std::string& text) {
     Version2Reader reader(text);
     reader.skipBlankLines();
@@ -68,7 +68,7 @@ std::string nameOf(const std::string& path) {
     return path.substr(path.find_last_of("/\\") + 1);
 }
 
-// A desk at rest, with a data folder that goes with it. In that stands what an import looks at.
+// A desk at rest with a temporary data folder that holds what an import looks at.
 class ImportDesk {
 public:
     explicit ImportDesk(const std::string& dataFolder) {
@@ -116,7 +116,7 @@ private:
                                          preset.value_or(DEFAULT_COMPUTER_INPUT_XML)));
     }
 
-    // A layer is written with its sequence preset only if that has notes; which, is of no account.
+    // A layer keeps its sequence preset only if that has notes; it doesn't matter which.
     void writeSequencePresets() const {
         const std::string folder = Files::join(m_folder.getPath(), SequencePresetManager::FOLDER);
         Files::createFolders(folder);
@@ -124,7 +124,7 @@ private:
             Files::append(Files::join(folder, name + SequencePresetManager::EXTENSION), "<Sequence>0</Sequence>");
     }
 
-    // The file's name decided in which folder it is.
+    // The file's name decided which folder it is in.
     std::optional<std::string> readPreset() const {
         for (const std::string folder : PRESET_FOLDERS)
             if (auto preset = Files::read(presetPath(folder, PRESET_NAME)))
@@ -157,7 +157,7 @@ std::string convertVersion2(Version2Kind kind, const std::string& fileName, cons
     const auto imported = ImportDesk(dataFolder).import(kind, nameOf(fileName), *text);
     if (!imported)
         return kind == Version2Kind::PRESET
-                   ? "is no preset by its name, which begins with the word key, control or layer"
+                   ? "has no version 2 preset's name, which begins with the word key, control or layer"
                    : "can't be converted";
     const XmlDocument document(*imported, false);
     if (!document.hasRoot() || !hasElements(document.getRootElement()))

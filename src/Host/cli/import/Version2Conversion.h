@@ -11,10 +11,10 @@ enum class Version2Kind { BANK, PROGRAM, PRESET };
 // [any] "bank", "program" or "preset".
 [[nodiscard]] std::optional<Version2Kind> findVersion2Kind(std::string_view word);
 
-// [main, no desk] Converts a version 2 file to the text of a file of this version. fileName: that of the file, whose
-// first word tells the kind of a preset. Text that is not UTF-8 is taken for windows-1252. dataFolder: where the preset
-// "000 - Default" is looked for, on top of which keys stand; without it they stand on the built-in ones. Layers keep
-// the names of their sequence presets. Returns why the content is no such file, and empty when result holds the text.
+// [main, no desk] Converts a version 2 file to the text of a current one. fileName: the file's name, whose first word
+// gives the kind of a preset. Text that is not UTF-8 is taken as windows-1252. dataFolder: where to find the preset
+// "000 - Default", to which keys are added; without it they are added to the built-in ones. Layers keep the names of
+// their sequence presets. Returns why the content can't be converted, or empty text when result holds the new file.
 std::string convertVersion2(Version2Kind kind, const std::string& fileName, const std::string& content,
                             const std::string& dataFolder, std::string& result);
 

@@ -22,7 +22,7 @@ constexpr CommandUsage USAGE{R"(usage: mirel render IN.mid OUT.mid [--layers FIL
                     [--through CHANNELS] [--tempo BPM] [--slice MS] [--data DIR]
 )"};
 
-// One line that says which file is to blame, and for what.
+// One line that names the file at fault and what is wrong with it.
 class RenderError : public CommandError {
 public:
     RenderError(const std::string& file, const std::string& text) : CommandError(file + ": " + text) {}
@@ -47,7 +47,7 @@ MidiFile readInput(const std::string& path) {
     return std::move(result.file);
 }
 
-// The document of a file whose root has this name.
+// The document of a file whose root must have this name.
 XmlDocument readDocument(const std::string& path, const char* tag) {
     XmlDocument document(readFile(path), false);
     if (!document.hasRoot())
@@ -94,17 +94,17 @@ void printCounts(const RenderOptions& options, const MidiFile& file, const Rende
     const std::size_t systemEvents =
         inFile.sysexes + inFile.continuations + inFile.escapes + inFile.skippedSystemMessages;
     std::printf("  dropped %s\n", plural(counts.notTaken + systemEvents, "event", "events").c_str());
-    printCount("  as no layer takes it:", counts.notTaken, "event", "events");
-    printCount("  as the desk carries none:", systemEvents, "system message", "system messages");
-    printCount("passed over", inFile.unknownChunks, "unknown chunk", "unknown chunks");
-    printCount("passed over", inFile.malformedMetas, "malformed tempo or time signature",
+    printCount("  because no layer takes it:", counts.notTaken, "event", "events");
+    printCount("  because the desk doesn't carry it:", systemEvents, "system message", "system messages");
+    printCount("skipped", inFile.unknownChunks, "unknown chunk", "unknown chunks");
+    printCount("skipped", inFile.malformedMetas, "malformed tempo or time signature",
                "malformed tempi or time signatures");
-    printCount("passed over", inFile.bytesAfterTrackEnds + inFile.bytesAfterLastTrack, "byte after an end",
+    printCount("skipped", inFile.bytesAfterTrackEnds + inFile.bytesAfterLastTrack, "byte after an end",
                "bytes after an end");
     printCount("ended", counts.endedForFile, "note that the file leaves sounding",
                "notes that the file leaves sounding");
     if (counts.arpeggioCutOff)
-        std::printf("  ended an arpeggio that would have gone on for ever\n");
+        std::printf("  ended an arpeggio that would never have stopped\n");
     std::printf("  wrote %s\n", options.output.c_str());
 }
 

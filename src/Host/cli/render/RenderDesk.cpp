@@ -10,7 +10,7 @@ using MidiEngine::MirelMidiMessage;
 
 namespace {
 
-// Times of the engine are kept far above 0.
+// The engine's times are kept far above 0.
 constexpr std::int32_t ENGINE_ORIGIN = 50000000;
 
 }
@@ -50,7 +50,7 @@ bool RenderDesk::isArpeggioPlaying() {
 }
 
 void RenderDesk::endNotes(std::int32_t ppq) {
-    // On a thread of its own, as the slice that it waits for is played here.
+    // On another thread, because the slice that it waits for is played here.
     const auto done = std::async(std::launch::async, [this] { m_engine.getMessageManager().sendReset(); });
     while (done.wait_for(std::chrono::seconds(0)) != std::future_status::ready)
         playSlice(ppq, ppq);

@@ -11,7 +11,7 @@
 
 namespace Host::Cli {
 
-// A desk that plays as fast as it can and remembers what it played. Its time counts in ppq from 0.
+// A desk that plays as fast as it can and records what it played. Its time is in ppq from 0.
 class RenderDesk : private Backend::MidiEngine::MidiPlayer {
 public:
     struct PlayedEvent {
@@ -20,7 +20,7 @@ public:
         Backend::MidiEngine::MidiMessage message;
     };
 
-    // As many as a routing can name.
+    // As many as routing can name.
     static constexpr int OUTPUTS = 128;
 
     // The last time that can be played.
@@ -29,16 +29,16 @@ public:
     RenderDesk(const Backend::Layers::LayerList& layers, const Backend::Zones::ZoneMap& zones);
     ~RenderDesk() override;
 
-    // Queues an event for its time. What was queued has reached the engine before the next slice.
+    // Queues an event for its time. Queued events reach the engine before the next slice.
     void post(const Backend::MidiEngine::MirelMidiMessage& event, std::int32_t ppq);
 
     // Plays the slice from one time up to another.
     void playSlice(std::int32_t from, std::int32_t to);
 
-    // Whether an arpeggio plays.
+    // Whether an arpeggio is playing.
     bool isArpeggioPlaying();
 
-    // Ends all that sounds at this time.
+    // Ends all sounding notes at this time.
     void endNotes(std::int32_t ppq);
 
     const std::vector<PlayedEvent>& getPlayed() const { return m_played; }

@@ -55,7 +55,7 @@ bool parseSlice(const std::string& text, RenderOptions& options) {
     return !text.empty() && *end == '\0' && options.sliceMilliseconds > 0 && options.sliceMilliseconds <= LONGEST_SLICE;
 }
 
-// Takes over one option with its value.
+// Applies one option with its value.
 bool applyOption(const std::string& name, const std::string& value, RenderOptions& options, std::string& error) {
     if (name == "--layers") {
         options.layersFile = value;
@@ -65,7 +65,7 @@ bool applyOption(const std::string& name, const std::string& value, RenderOption
         options.dataFolder = value;
     } else if (name == "--through") {
         if (!parseChannels(value, options.through))
-            error = "--through takes channels from 1 to 16, as 1,3,5-8, not \"" + value + "\"";
+            error = "--through takes channels from 1 to 16, such as 1,3,5-8, not \"" + value + "\"";
     } else if (name == "--zone") {
         if (!parseZone(value, options))
             error = "--zone takes a zone from 1 to 128 or \"channel\", not \"" + value + "\"";
@@ -77,7 +77,7 @@ bool applyOption(const std::string& name, const std::string& value, RenderOption
         if (!parseSlice(value, options))
             error = "--slice takes milliseconds above 0 and up to 1000, not \"" + value + "\"";
     } else {
-        error = "there is no option " + name;
+        error = "unknown option " + name;
     }
     return error.empty();
 }
@@ -94,7 +94,7 @@ std::optional<RenderOptions> parseRenderOptions(const std::vector<std::string>& 
             continue;
         }
         if (i + 1 == arguments.size()) {
-            error = argument + " lacks its value, or is no option";
+            error = argument + " has no value, or is not an option";
             return std::nullopt;
         }
         if (!applyOption(argument, arguments[++i], options, error))
@@ -106,7 +106,7 @@ std::optional<RenderOptions> parseRenderOptions(const std::vector<std::string>& 
     }
     options.input = files[0];
     options.output = files[1];
-    // Zones need events of zones.
+    // Zones need events that belong to zones.
     if (!options.zonesFile.empty() && options.zone < 0)
         options.zoneIsChannel = true;
     return options;

@@ -24,7 +24,7 @@ constexpr int DEFAULT_TEMPO = 120;
 // How far ahead of the clock events are queued.
 constexpr std::int32_t LOOK_AHEAD = 480;
 
-// How long arpeggios may play on after the end of the file: sixteen bars.
+// How long arpeggios may continue after the end of the file: sixteen bars.
 constexpr std::int32_t LONGEST_TAIL = 16 * 4 * 480;
 
 constexpr std::uint32_t MICROSECONDS_PER_MINUTE = 60000000;
@@ -52,7 +52,7 @@ bool Renderer::readEvents(std::string& error) {
 
 void Renderer::addEvent(const MidiFileEvent& event, std::int32_t ppq) {
     auto status = static_cast<MidiMessage::MessageType>(event.status);
-    // The way in which many files end a note.
+    // Many files end notes this way.
     if (status == MidiMessage::NoteOn && event.d2 == 0)
         status = MidiMessage::NoteOff;
     const bool entersLayers = m_options.through.test(event.channel);
@@ -65,7 +65,7 @@ void Renderer::addEvent(const MidiFileEvent& event, std::int32_t ppq) {
     m_events.push_back({ppq, message});
 }
 
-// Ends what the file leaves sounding, so that nothing hangs.
+// Ends the notes that the file leaves sounding.
 void Renderer::endOpenNotes() {
     using Key = std::tuple<bool, char, char, char>;  // Default channel, channel, zone, note.
     std::map<Key, std::pair<int, MirelMidiMessage>> open;
@@ -122,7 +122,7 @@ bool Renderer::play(std::string& error) {
             error = "makes the layers play more than " + std::to_string(MIDI_FILE_MAX_EVENTS) + " events";
             return false;
         }
-        // Silence is passed over.
+        // Skip silence.
         if (!isPlaying)
             ppq = std::max(ppq, next == m_events.end() ? m_endPpq : next->ppq);
         const std::int32_t ahead = ppq + LOOK_AHEAD;

@@ -12,13 +12,13 @@
 
 namespace Host::Cli {
 
-// How many events went which way.
+// How many events took which path.
 struct RenderCounts {
     std::size_t read = 0;          // Channel events of the file.
     std::size_t played = 0;        // Events that went out.
-    std::size_t notTaken = 0;      // Notes that started and other events that no layer takes.
+    std::size_t notTaken = 0;      // Note-ons and other events that no layer takes.
     std::size_t endedForFile = 0;  // Notes that the file starts and never ends.
-    bool arpeggioCutOff = false;   // An arpeggio would have gone on for ever.
+    bool arpeggioCutOff = false;   // An arpeggio would have gone on endlessly.
 };
 
 // Plays a MIDI file through the engine in the file's own musical time.
@@ -28,11 +28,11 @@ public:
     Renderer(const MidiFile& file, const Backend::Layers::LayerList& layers, const Backend::Zones::ZoneMap& zones,
              const RenderOptions& options);
 
-    // Plays the whole file, and on until the last arpeggio has ended. False, with one line in error, for a file that is
-    // too long or that makes the layers play more than a file can hold.
+    // Plays the whole file, and on until the last arpeggio has ended. False, with one line in error, if the file is too
+    // long or makes the layers play more than a file can hold.
     bool play(std::string& error);
 
-    // What was played, as a MIDI file with a track for each output; empty if it can't be written as one.
+    // What was played, as a MIDI file with one track per output; empty if it can't be written as one.
     std::string content() const;
 
     const RenderCounts& getCounts() const { return m_counts; }
@@ -55,7 +55,7 @@ private:
     const RenderOptions& m_options;
     RenderDesk m_desk;
     std::vector<InputEvent> m_events;  // By time.
-    std::int32_t m_endPpq = 0;         // Of the file, then of what was played.
+    std::int32_t m_endPpq = 0;         // The end of the file, then of what was played.
     RenderCounts m_counts;
 };
 

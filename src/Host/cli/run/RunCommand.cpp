@@ -38,20 +38,20 @@ constexpr CommandUsage USAGE{
     R"(usage: mirel run [--in NAME]... [--out NAME]... [--bank FILE] [--program NAME] [--clock internal|NAME] [--keys]
                  [--play FILE.mid] [--record FILE.mid] [--virtual] [--seconds N] [--data DIR]
 
-plays in real time until it is ended (Ctrl+C).
-  --in, --out   listen to these inputs and send to these outputs only, in this run, by name or by number as
-                "mirel ports" lists them; the first output is the default one
-  --bank        the bank to load; without it that of the settings, or the built-in set-up
+Plays in real time until Ctrl+C.
+  --in, --out   use only these inputs and outputs in this run, by name or by number as "mirel ports" lists them;
+                the first output is the default one (default: all enabled ports)
+  --bank        the bank to load (default: the one in the settings, or the built-in set-up)
   --program     a program of the bank by name or by number, or a program file (.prg)
-  --clock       the desk's own clock, or the timing ticks of an input
-  --keys        the keys of this terminal play the keys of the desk
-  --play        a MIDI file comes in as if somebody played it; the desk ends after it
-  --record      writes what was played to a MIDI file at the end
-  --virtual     opens an input and an output that other programs can connect to
-  --seconds     ends after this time
-  --data        keeps the settings and all folders of the desk in this folder
+  --clock       follow the desk's own clock, or the timing ticks of an input
+  --keys        play on this terminal's keys
+  --play        play a MIDI file into the desk, as if live, and end after it
+  --record      write what was played to a MIDI file at the end
+  --virtual     open an input and an output that other programs can connect to
+  --seconds     end after this time
+  --data        keep the desk's settings and folders in this folder
 )",
-    "; mirel run --help tells more\n"};
+    "; see mirel run --help\n"};
 
 class RunError : public CommandError {
 public:
@@ -62,7 +62,7 @@ std::string describePort(const PortRow& row) {
     return row.id.copy > 1 ? row.id.name + " (" + std::to_string(row.id.copy) + ")" : row.id.name;
 }
 
-// The index of the port that the user means. Names that begin so count too, as systems add to names.
+// The index of the port that the user means. A prefix also matches, because systems append to names.
 int findPort(const std::vector<PortRow>& rows, const std::string& wanted, const char* what) {
     if (const auto number = parseNumber(wanted)) {
         if (*number < 1 || static_cast<std::size_t>(*number) > rows.size())
@@ -77,7 +77,7 @@ int findPort(const std::vector<PortRow>& rows, const std::string& wanted, const 
     if (index < 0)
         index = find([&](const PortRow& row) { return row.available && describePort(row).starts_with(wanted); });
     if (index < 0)
-        throw RunError("there is no " + std::string(what) + " \"" + wanted + "\"; mirel ports lists all");
+        throw RunError("there is no " + std::string(what) + " \"" + wanted + "\"; see mirel ports");
     return index;
 }
 
@@ -119,8 +119,8 @@ public:
     // Plays until it is over or somebody ends it.
     void play() {
         constexpr milliseconds STEP{10};
-        constexpr milliseconds LOOK{100};   // With nothing to do but to see whether the player still plays.
-        constexpr milliseconds TAIL{1500};  // For the end of a song to fade.
+        constexpr milliseconds LOOK{100};   // When idle, how often to check that the player still plays.
+        constexpr milliseconds TAIL{1500};  // Lets the end of a song fade.
         const auto song = readSong();
         const auto keys = openKeys();
         auto start = std::chrono::steady_clock::now();
@@ -157,7 +157,7 @@ public:
 
     void stop() {
         if (!m_desk.stop())
-            std::fprintf(stderr, "mirel run: a port hung and was left behind\n");
+            std::fprintf(stderr, "mirel run: a port hung and was abandoned\n");
         if (m_options.recordFile.empty())
             return;
         const Recorder& recorder = m_desk.ports().recorder();
@@ -168,7 +168,7 @@ public:
             throw RunError("the recording is lost");
         std::printf("recorded %zu events to %s\n", recorder.size(), file->c_str());
         if (file != m_options.recordFile)
-            throw RunError("the recording lies in another place than it should");
+            throw RunError("the recording had to be written elsewhere");
     }
 
 private:
@@ -273,7 +273,7 @@ private:
                                               MirelMidiMessage::DEFAULT_CHANNEL, MirelMidiMessage::DEFAULT_INPUT));
     }
 
-    // Silent and with the terminal as it was, until the user has the program go on.
+    // Stays silent, with the terminal restored, until the user resumes the program.
     void pause(TerminalKeys* keys) {
         if (keys)
             for (const KeyEvent& event : keys->giveBack())
@@ -299,7 +299,7 @@ private:
     PortDesk m_desk;
 };
 
-// However it ends, what sounds is ended and what was recorded is written.
+// However it ends, sounding notes are ended and the recording is written.
 void playToTheEnd(RunningDesk& desk) {
     try {
         desk.play();

@@ -5,7 +5,7 @@
 
 namespace Host::Cli {
 
-// [main] "mirel run ARGUMENTS": plays in real time on the computer's MIDI ports until it is ended. The exit status.
+// [main] "mirel run": plays in real time on the computer's MIDI ports until it is ended. Returns the exit status.
 int runRun(const std::vector<std::string>& arguments);
 
 }

@@ -7,7 +7,7 @@ namespace Host::Cli {
 
 namespace {
 
-// Options with one text as their value.
+// Options that take one text.
 struct TextOption {
     const char* name;
     std::string RunOptions::*target;
@@ -32,7 +32,7 @@ std::optional<std::chrono::milliseconds> parseSeconds(const std::string& text) {
     return std::chrono::milliseconds(static_cast<std::int64_t>(seconds * MILLISECONDS));
 }
 
-// Takes over one option with its value. False, with why in error, if that is impossible.
+// Applies one option with its value. False, with the reason in error, if that is impossible.
 bool applyOption(const std::string& name, const std::string& value, RunOptions& options, std::string& error) {
     if (value.empty()) {
         error = name + " needs a value";
@@ -54,7 +54,7 @@ bool applyOption(const std::string& name, const std::string& value, RunOptions& 
             error = "--seconds takes a number of seconds, not \"" + value + "\"";
         return options.length.has_value();
     } else {
-        error = "run knows no " + name;
+        error = "unknown option " + name;
         return false;
     }
     return true;

@@ -9,17 +9,17 @@
 
 namespace Host::Cli {
 
-// A MIDI file that is played into the desk in its own time, as if somebody played it there.
+// A MIDI file that is played into the desk in its own time, as if live.
 class SongInput {
 public:
     using Receiver = std::function<void(const MidiFileEvent& event)>;
 
     explicit SongInput(const MidiFile& file);
 
-    // [main] Gives all events up to this time from the song's start that were not given before.
+    // [main] Passes on all events up to this time from the song's start that it has not passed on yet.
     void playUntil(std::chrono::microseconds time, const Receiver& receive);
 
-    // The time of the next event; nothing behind the last.
+    // The time of the next event; nothing after the last.
     bool isAtEnd() const { return m_next == m_events.size(); }
     std::chrono::microseconds getNextTime() const { return m_events[m_next].time; }
 

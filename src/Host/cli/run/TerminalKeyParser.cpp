@@ -10,7 +10,7 @@ namespace {
 constexpr char ESCAPE = '\x1b';
 constexpr char DELETE = '\x7f';
 
-// Among the abilities in a terminal's answer: that it tells presses, repeats and releases apart.
+// A capability in a terminal's answer: it distinguishes presses, repeats and releases.
 constexpr int TELLS_ACTIONS = 2;
 
 struct NamedCode {
@@ -18,7 +18,7 @@ struct NamedCode {
     const char* key;
 };
 
-// Characters that are not their key's name.
+// Characters that differ from their key's name.
 constexpr std::array CHARACTERS = {
     NamedCode{' ', "Space"},
     NamedCode{'\t', "Tab"},
@@ -68,7 +68,7 @@ constexpr std::array LETTERS = {
     NamedCode{'R', "F3"},   NamedCode{'S', "F4"},   NamedCode{'M', "Numpad Enter"},
 };
 
-// Sequences that end with "~", by their number.
+// Sequences that end with "~", by number.
 constexpr std::array NUMBERS = {
     NamedCode{1, "Home"},    NamedCode{2, "Insert"},    NamedCode{3, "Delete"}, NamedCode{4, "End"},
     NamedCode{5, "Page Up"}, NamedCode{6, "Page Down"}, NamedCode{7, "Home"},   NamedCode{8, "End"},
@@ -77,7 +77,7 @@ constexpr std::array NUMBERS = {
     NamedCode{20, "F9"},     NamedCode{21, "F10"},      NamedCode{23, "F11"},   NamedCode{24, "F12"},
 };
 
-// Keys without a character, by the private code points that terminals give them.
+// Keys without a character, by the private code points that terminals use for them.
 constexpr std::array PRIVATE_CODES = {
     NamedCode{57399, "Numpad 0"},     NamedCode{57400, "Numpad 1"}, NamedCode{57401, "Numpad 2"},
     NamedCode{57402, "Numpad 3"},     NamedCode{57403, "Numpad 4"}, NamedCode{57404, "Numpad 5"},
@@ -106,14 +106,14 @@ std::optional<Key> keyOfCharacter(int character) {
     return name ? std::optional(Key(std::string_view(name))) : std::nullopt;
 }
 
-// With these modifiers as well. They are told as a number of bits (shift, alt, control, windows) above 1.
+// Adds modifiers, given as bits (shift, alt, control, windows) plus 1.
 Key withModifiers(const Key& key, int modifiers) {
     const int bits = modifiers > 0 ? modifiers - 1 : 0;
     return Key(key.getCode(), key.isShift() || (bits & 1), key.isControl() || (bits & 4), key.isAlt() || (bits & 2),
                key.isWin() || (bits & 8));
 }
 
-// The parameters of a sequence: numbers between ";", of which the second may hold another behind ":".
+// The parameters of a sequence: numbers separated by ";". The second may contain another one after ":".
 struct Parameters {
     int first = 0;
     int second = 1;

@@ -8,8 +8,8 @@
 
 namespace Host::Cli {
 
-// Takes the bytes of a terminal apart into keys: characters, which stand for keys of an American keyboard, control
-// characters, the escape sequences of function keys, and those of terminals that also tell of repeats and releases.
+// Parses the bytes of a terminal into keys: characters, which stand for the keys of an American keyboard, control
+// characters, the escape sequences of function keys, and those of terminals that report repeats and releases.
 class TerminalKeyParser {
 public:
     enum class Action { PRESS, REPEAT, RELEASE };
@@ -19,14 +19,14 @@ public:
         Action action = Action::PRESS;
     };
 
-    // The keys in the next bytes. A sequence that is not complete is kept for the next call; keys without a name in the
-    // desk are left out.
+    // The keys in the next bytes. An incomplete sequence is kept for the next call; keys unknown to the desk are left
+    // out.
     std::vector<Press> parse(std::string_view bytes);
 
-    // Whether the terminal has said that it tells of releases.
+    // Whether the terminal has said that it reports releases.
     bool tellsReleases() const { return m_tellsReleases; }
 
-    // Takes what is left of a sequence that never ended for the keys that it began with.
+    // Treats the rest of a sequence that never ended as the keys it would have begun with.
     std::vector<Press> flush();
 
 private:

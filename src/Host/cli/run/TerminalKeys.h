@@ -16,26 +16,26 @@ struct KeyEvent {
     bool operator==(const KeyEvent&) const = default;
 };
 
-// The key presses of the terminal that the program runs in. At the end of the object the terminal is as it was.
+// The key presses of the terminal that the program runs in. The destructor restores the terminal.
 class TerminalKeys {
 public:
-    // [main] Null if standard input is no terminal.
+    // [main] Null if standard input is not a terminal.
     static std::unique_ptr<TerminalKeys> open();
 
     virtual ~TerminalKeys() = default;
 
-    // [main] What happened to keys, after waiting at most this long for something. A key that goes down also goes up,
-    // if the terminal does not tell when then after a short while.
+    // [main] The key events, after waiting at most this long for one. Every key that goes down also goes up: after a
+    // short while if the terminal doesn't report when.
     virtual std::vector<KeyEvent> read(std::chrono::milliseconds limit) = 0;
 
-    // [main] Whether the user has pressed what ends programs, where the terminal gives it as a key.
+    // [main] Whether the user has pressed the interrupt key, on a terminal that reports it as a key.
     virtual bool isInterrupted() const = 0;
 
-    // [main] Makes the terminal as it was, for a pause of the program, and releases all keys that are down. Nothing
-    // where programs are never paused.
+    // [main] Restores the terminal, for a pause of the program, and releases all keys that are down. Does nothing on
+    // systems where programs are never paused.
     virtual std::vector<KeyEvent> giveBack() { return {}; }
 
-    // [main] Takes the terminal again after that.
+    // [main] Takes the terminal over again after giveBack.
     virtual void takeAgain() {}
 };
 

@@ -6,7 +6,7 @@
 
 namespace Host::Cli {
 
-// Carries out a command that needs the whole desk. False if there is none of this name. Throws ScriptError.
+// Executes a command that needs the whole desk. False if there is no such command. Throws ScriptError.
 bool runDeskCommand(const std::string& name, const ScriptContext& context);
 
 }

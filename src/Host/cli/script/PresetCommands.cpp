@@ -36,7 +36,7 @@ std::vector<Id> takeIds(ScriptArguments& arguments) {
     return ids;
 }
 
-// Posts what the command says to the message manager that getManager gives.
+// Posts the command to the message manager that getManager returns.
 template <class Id, class GetManager>
 void runOn(const ScriptContext& context, const std::string& action, GetManager getManager) {
     const std::string name = context.arguments.takeWord("the preset's name");
@@ -74,7 +74,7 @@ void runPreset(const ScriptContext& context) {
         runOn<Layers::LayerId>(
             context, action, [](MirelIF & mirel) -> auto& { return mirel.getLayerMessageManager(); });
     else
-        context.arguments.fail("presets are of keys, controls or layers, not of \"" + kind + "\"");
+        context.arguments.fail("a preset holds keys, controls or layers, not \"" + kind + "\"");
 }
 
 }

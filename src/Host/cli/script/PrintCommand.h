@@ -4,7 +4,7 @@
 
 namespace Host::Cli {
 
-// "print WHAT": prints a part of the desk's present state. Throws ScriptError.
+// "print WHAT": prints a part of the desk's current state. Throws ScriptError.
 void runPrint(const ScriptContext& context);
 
 }

@@ -15,7 +15,7 @@ std::optional<std::int32_t> parseNumber(std::string_view text) {
         base = 16;
         text.remove_prefix(2);
     }
-    // A second sign is no digit.
+    // A second sign is not a digit.
     if (text.empty() || text.front() == '-')
         return std::nullopt;
     std::int64_t number = 0;

@@ -23,7 +23,7 @@ struct ScriptOptions {
     std::string file = STANDARD_INPUT;
 };
 
-// Nothing, and no error either, for words that make no sense: the usage says it all.
+// Nothing, and no error either, for arguments that make no sense: the usage says enough.
 std::optional<ScriptOptions> parseOptions(const Arguments& arguments, std::string& /*error*/) {
     ScriptOptions options;
     bool hasFile = false;

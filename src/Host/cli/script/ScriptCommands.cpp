@@ -21,7 +21,7 @@ constexpr int MAX_PORTS = 65536;
 constexpr std::int32_t BYTE_LOW = -128;
 constexpr std::int32_t BYTE_HIGH = 127;
 
-// The value of a word "name=value"; null if the word is not of this name.
+// The value of a word "name=value"; null if the word has another name.
 const char* findValue(const std::string& word, std::string_view name) {
     if (word.size() <= name.size() || !word.starts_with(name) || word[name.size()] != '=')
         return nullptr;
@@ -96,7 +96,7 @@ void runZone(const ScriptContext& context) {
     context.desk.setZone(id, transpose);
 }
 
-// What an event line may give after its three numbers.
+// What an event line may specify after its three numbers.
 struct EventOptions {
     std::int32_t channel = MirelMidiMessage::DEFAULT_CHANNEL;
     std::int32_t output = MirelMidiMessage::DEFAULT_OUTPUT;

@@ -5,7 +5,7 @@
 
 namespace Host::Cli {
 
-// Carries one command of a script out. Throws ScriptError for a line that can't be understood; then nothing was done.
+// Executes one command of a script. Throws ScriptError, having done nothing, for a line that makes no sense.
 void runScriptCommand(const ScriptLine& line, ScriptReader& reader, ScriptDesk& desk);
 
 }

@@ -17,7 +17,7 @@ struct ScriptContext {
     // The block that follows the line, which must be well-formed. Throws ScriptError.
     Backend::XmlDocument readDocument() const;
 
-    // The same; the root must have this name.
+    // Like readDocument(), for a document whose root must have this name.
     Backend::XmlDocument readDocument(const char* tag) const;
 };
 

@@ -177,7 +177,7 @@ void ScriptDesk::playSlice(std::int32_t from, std::int32_t to) {
 void ScriptDesk::playTimeSlice(std::int32_t from, std::int32_t to) {
     m_player.setSliceFrom(from);
     m_mirel->playTimeSlice(from, to);
-    // During the slice they would be heard of between its events, or after them, as it happens.
+    // During the slice, their order relative to its events would be a matter of chance.
     postUpdates();
 }
 
@@ -196,7 +196,7 @@ void ScriptDesk::hardReset() {
 }
 
 void ScriptDesk::runReset(const std::function<void()>& request) {
-    // On a thread of its own, as the slices that it waits for are played here.
+    // On another thread, because the slices that it waits for are played here.
     const auto done = std::async(std::launch::async, request);
     playUntil(1, [&done] { return done.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
 }
@@ -228,8 +228,8 @@ std::string ScriptDesk::getLog() {
     return log.getText();
 }
 
-// Work comes to the backend from here and from slices, to the engine also from the backend, and to the display from
-// the backend. In this order, what rests stays so.
+// The backend gets work from here and from slices, the engine from the backend as well, and the display from the
+// backend. Checked in this order, whatever rests stays at rest.
 bool ScriptDesk::isResting() {
     return m_updates.empty() && (!m_isStarted || m_mirel->getMessageManagerMaster().isIdle()) && engine().isIdle() &&
            (!m_isStarted || m_mirel->getDisplayMessageManager().isIdle());
@@ -239,7 +239,7 @@ void ScriptDesk::waitUntilResting() {
     playUntil(0, [this] { return isResting(); });
 }
 
-// Whether a slice is all that anybody waits for. Only then the order of things is the same in every run.
+// Whether everybody waits for nothing but a slice. Only then is the order of things the same in every run.
 bool ScriptDesk::isSliceNeeded(int ownCallers) {
     const MidiEngine::MidiEngine& midiEngine = m_mirel->getMidiEngine();
     if (!midiEngine.isSliceAwaited())

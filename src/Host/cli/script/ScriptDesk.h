@@ -16,8 +16,8 @@
 
 namespace Host::Cli {
 
-// The desk that a script drives, without ports and without a clock. At first it is an engine alone; start() makes the
-// whole desk of it. Each operation returns when all that it set off has been done.
+// The desk that a script drives, without ports or a clock. At first it is only an engine; start() turns it into a whole
+// desk. Each operation returns when everything it set off is done.
 class ScriptDesk {
 public:
     explicit ScriptDesk(ScriptPlayer::Options options);
@@ -25,7 +25,7 @@ public:
     ScriptDesk(const ScriptDesk&) = delete;
     ScriptDesk& operator=(const ScriptDesk&) = delete;
 
-    // Starts the whole desk with its built-in defaults, if it has not been started. The ports and the clock stay.
+    // Starts the whole desk with its built-in defaults, unless it is already started. The ports and the clock stay.
     void start();
 
     void setInputs(int count);
@@ -40,7 +40,7 @@ public:
     void setZone(char id, char transpose);
     void postEvent(const Backend::MidiEngine::MirelMidiMessage& event);
 
-    // Exactly these layers have solo; a number that is none of a layer's is ignored.
+    // Sets solo on exactly these layers; a number without a layer is ignored.
     void setSolo(const std::vector<std::int32_t>& layers);
 
     // One time slice, in ppq.
@@ -55,10 +55,10 @@ public:
     // Starts the desk and runs something on the backend thread.
     void run(std::function<void(Backend::Mirel&)> action);
 
-    // Starts the desk and adds lines to the output that are made on the backend thread.
+    // Starts the desk and appends lines to the output, which describe makes on the backend thread.
     void print(const std::function<std::string(Backend::Mirel&)>& describe);
 
-    // Adds lines to the output.
+    // Appends lines to the output.
     void tell(const std::string& lines) { m_player.tell(lines); }
 
     // The text of the log.
@@ -73,23 +73,23 @@ public:
 private:
     [[nodiscard]] std::unique_ptr<ObservedMirel> createMirel();
 
-    // During a slice, an event that the controls hear of after it.
+    // An event during a slice that the controls get after it.
     void keepUpdate(const Backend::MidiEngine::MirelMidiMessage& message);
 
     Backend::MidiEngine::MidiEngineMessageManager& engine() { return m_mirel->getMidiEngineMessageManager(); }
     bool isResting();
     void waitUntilResting();
 
-    // A slice alone. What the controls hear of they hear after it, so that a script always finds the same order.
+    // Plays just a slice. Controls get their events after it, so that scripts always see the same order.
     void playTimeSlice(std::int32_t from, std::int32_t to);
 
-    // As many as the controls take.
+    // Passes on as many as the controls take.
     void postUpdates();
 
     bool isSliceNeeded(int ownCallers);
 
-    // Plays empty slices where the clock stands until isDone; what waits for the player's thread needs them.
-    // ownCallers: how many threads of this object wait for a reset.
+    // Plays empty slices without moving the clock until isDone, for those who wait for the player's thread. ownCallers:
+    // how many threads of this object wait for a reset.
     template <typename Condition>
     void playUntil(int ownCallers, Condition isDone);
 
@@ -99,8 +99,8 @@ private:
     std::vector<Backend::MidiEngine::MidiInputPort> m_inputs;
     std::vector<Backend::MidiEngine::MidiOutputPort> m_outputs;
     std::unique_ptr<ObservedMirel> m_mirel;
-    std::unique_ptr<BackendCalls> m_calls;                        // Of the desk that was started.
-    Backend::Layers::LayerList m_layers;                          // Of the engine alone.
+    std::unique_ptr<BackendCalls> m_calls;                        // While a whole desk runs.
+    Backend::Layers::LayerList m_layers;                          // While there is only the engine.
     std::deque<Backend::MidiEngine::MirelMidiMessage> m_updates;  // That the controls have not heard of yet.
     std::atomic<bool> m_isStarted = false;
     std::int32_t m_clock = 0;

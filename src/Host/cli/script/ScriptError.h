@@ -5,7 +5,7 @@
 
 namespace Host::Cli {
 
-// A line of a script that can't be understood, and why.
+// A line of a script that makes no sense, and why.
 class ScriptError : public std::runtime_error {
 public:
     ScriptError(int line, const std::string& text) : std::runtime_error(text), m_line(line) {}

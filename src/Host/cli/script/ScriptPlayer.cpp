@@ -28,7 +28,7 @@ void ScriptPlayer::playMidi(const MirelMidiMessage& message) {
     tellEvent("play", message, message.getChannel(), "");
 }
 
-// A script has no devices and no clock of its own.
+// A script has no devices or clock of its own.
 void ScriptPlayer::enableMidiInput(int, bool) {}
 void ScriptPlayer::enableMidiOutput(int, bool) {}
 void ScriptPlayer::setTempo(int) {}

@@ -10,31 +10,31 @@
 
 namespace Host::Cli {
 
-// What a script sees of its desk: it takes the place of the host and of the window, and keeps a line of text for each
-// thing that it is asked to tell.
+// What a script sees of its desk: it stands in for the host and the window, and keeps one line of text for each thing
+// it was asked to report.
 class ScriptPlayer : public Backend::MidiEngine::MidiPlayer, private Platform::WindowSink {
 public:
     struct Options {
         bool show = false;     // A line for each event that is shown.
-        bool updates = false;  // A line for each event that the controls hear of.
+        bool updates = false;  // A line for each event that reaches the controls.
         bool window = false;   // A line for each notification to the window.
     };
 
     explicit ScriptPlayer(Options options);
 
-    // Where the slice that plays begins, in ppq.
+    // Where the current slice begins, in ppq.
     void setSliceFrom(std::int32_t ppq) { m_sliceFrom = ppq; }
 
-    // The window, if the script wants to see what it gets.
+    // The window, if the script wants to see its notifications.
     HWND getWindowHandle() { return m_options.show || m_options.window ? handle() : nullptr; }
 
-    // Tells of an event that the controls hear of.
+    // Reports an event that reaches the controls.
     void tellUpdate(const Backend::MidiEngine::MirelMidiMessage& message);
 
-    // Adds lines of the script's own.
+    // Appends lines of the script's own.
     void tell(const std::string& lines);
 
-    // What was told since the last call.
+    // Returns what was reported since the last call.
     std::string takeOutput();
 
     void playMidi(const Backend::MidiEngine::MirelMidiMessage& message) override;

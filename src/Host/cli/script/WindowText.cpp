@@ -45,7 +45,7 @@ std::string quoted(const std::string& text) {
     return "\"" + text + "\"";
 }
 
-// The elements of a list, divided by blanks.
+// The elements of a list, separated by blanks.
 template <class Element, class Describe>
 std::string describeList(const std::vector<Element>& elements, Describe describe) {
     std::string text;
@@ -59,7 +59,7 @@ std::string describePorts(const std::vector<Port>& ports) {
     return describeList(ports, [](const Port& port) { return quoted(port.name) + "=" + onOff(port.enabled); });
 }
 
-// What a message carries, by the types of its row.
+// Describes what a message carries, by the types of its row.
 
 std::string describe() {
     return {};

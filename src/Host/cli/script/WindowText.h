@@ -6,10 +6,10 @@
 
 namespace Host::Cli {
 
-// [any] What a notification to the main window carries, in words; empty if that is nothing. The payload is destroyed.
+// [any] Describes the content of a notification to the main window; empty if it has none. Destroys the payload.
 std::string takeWindowText(UINT message, WPARAM wParam, LPARAM lParam);
 
-// [any] Whether a notification only brings names for the window's menus, of which a script has nothing to print.
+// [any] Whether a notification only carries names for the window's menus, of which a script has nothing to print.
 bool isListForMenus(UINT message);
 
 }

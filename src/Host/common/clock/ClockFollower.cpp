@@ -13,17 +13,17 @@ constexpr double MILLISECONDS_PER_MINUTE = 60000;
 constexpr double SHORTEST_PERIOD = MILLISECONDS_PER_MINUTE / TICKS_PER_QUARTER / 1000;
 constexpr double LONGEST_PERIOD = MILLISECONDS_PER_MINUTE / TICKS_PER_QUARTER / 10;
 
-// The loop that smooths: how much of a tick's error moves the phase, and how much the period. Within a quarter or so it
-// has a new tempo; of the jitter two fifths are left.
+// The smoothing loop: how much of a tick's error moves the phase, and how much the period. It settles on a new tempo
+// within about a quarter note and leaves two fifths of the jitter.
 constexpr double PHASE_GAIN = 0.3;
 constexpr double PERIOD_GAIN = 0.05;
 
-// A tick more than this part of a period off its time is no jitter; so many in a row on one side, and it is another
-// tempo or another phase.
+// A tick off by more than this part of a period is not jitter; this many in a row on one side mean another tempo or
+// another phase.
 constexpr double FAR_OFF = 0.5;
 constexpr int FAR_OFF_TICKS = 4;
 
-// How many ticks the position may run ahead of the last one, and how many it may stand before it.
+// How many ticks the position may run ahead of the last one, and how many it may wait before it.
 constexpr double AHEAD = 2;
 constexpr double BEHIND = 1;
 
@@ -41,7 +41,7 @@ double ClockFollower::tempo() const {
     return MILLISECONDS_PER_MINUTE / (TICKS_PER_QUARTER * m_period);
 }
 
-// The first tick of a run stands where the position stands.
+// The first tick of a run is placed at the current position.
 void ClockFollower::lock(double milliseconds) {
     m_isLocked = true;
     m_intervals = 0;
@@ -75,7 +75,7 @@ void ClockFollower::follow(double milliseconds) {
     const bool isNew = m_intervals < GUESSED_FROM;
     m_intervals += isNew ? 1 : 0;
     if (isNew || std::abs(m_farOff) >= FAR_OFF_TICKS) {
-        // Begin anew with what the last ticks tell.
+        // Start again from what the last ticks show.
         m_period = (milliseconds - m_lastTicks[m_intervals - 1]) / static_cast<double>(m_intervals);
         m_smoothTick = milliseconds;
         m_farOff = 0;

@@ -15,7 +15,7 @@ namespace Host {
 class ClockFollower {
 public:
     static constexpr int PPQ_PER_TICK = 20;
-    // So long without a tick, and longer than four of them, and the clock stands.
+    // After this long without a tick, and at least four tick lengths, the clock counts as stopped.
     static constexpr double SILENCE_MILLISECONDS = 500;
 
     void tick(double milliseconds);
@@ -23,7 +23,7 @@ public:
     void resume(double milliseconds) { start(milliseconds); }
     void stop(double milliseconds);
 
-    // The position at this time; 0 in the beginning. What was told once is never taken back.
+    // The position at this time; 0 at first. It never goes back.
     double position(double milliseconds);
 
     // Whether the clock runs at this time.
@@ -37,15 +37,15 @@ private:
     void follow(double milliseconds);
     double silence() const;
 
-    // Ticks that a tempo is guessed from, when nothing is known of it.
+    // The number of ticks used to guess a tempo when none is known.
     static constexpr std::size_t GUESSED_FROM = 3;
 
-    bool m_mayRun = true;         // Not stopped.
-    bool m_isLocked = false;      // At least one tick came since it runs.
-    std::size_t m_intervals = 0;  // Between ticks since the lock, up to GUESSED_FROM.
+    bool m_mayRun = true;         // True unless stopped.
+    bool m_isLocked = false;      // At least one tick has come in this run.
+    std::size_t m_intervals = 0;  // Intervals between ticks since the lock, up to GUESSED_FROM.
     int m_farOff = 0;             // Ticks in a row that came far too early (negative) or far too late.
     double m_period = 60000.0 / (24 * 120);
-    std::array<double, GUESSED_FROM> m_lastTicks{};  // When they really came, the newest first.
+    std::array<double, GUESSED_FROM> m_lastTicks{};  // When they actually came, newest first.
     double m_smoothTick = 0;                         // When the newest should have come.
     double m_tickPosition = 0;
     double m_told = 0;

@@ -10,15 +10,15 @@
 
 namespace Host {
 
-// Clock messages on their way from the input that is the clock master to the player, who never waits for an input.
+// Passes clock messages from the input that is the clock master to the player, which never waits for an input.
 class ClockInput {
 public:
     static constexpr std::size_t CAPACITY = 1024;
 
-    // [any, rt] From now on this input, by its index, is heard; a negative one is nobody.
+    // [any, rt] Accepts clock messages from this input (by index) from now on; a negative index accepts none.
     void listenTo(int input) { m_input.store(input); }
 
-    // [any] What an input says. Other inputs than the one listened to are ignored, and a full queue drops the message,
+    // [any] A message from an input. Ignored unless the input is the one listened to; dropped if the queue is full,
     // which happens only while nobody plays.
     void push(int input, const ClockMessage& message) {
         if (input != m_input.load())
@@ -43,7 +43,7 @@ public:
 
 private:
     std::atomic<int> m_input{-1};
-    std::mutex m_inputs;  // Among inputs alone.
+    std::mutex m_inputs;  // Excludes inputs from each other only.
     std::array<ClockMessage, CAPACITY> m_ring{};
     std::atomic<std::uint32_t> m_in{0};
     std::atomic<std::uint32_t> m_out{0};

@@ -4,7 +4,7 @@
 
 namespace Host {
 
-// What a clock master says.
+// What a clock master sends.
 enum class ClockMessageKind : std::uint8_t { TICK, START, RESUME, STOP };
 
 struct ClockMessage {

@@ -48,7 +48,7 @@ void DeskClock::take(const ClockMessage& message) {
     }
 }
 
-// The position of the internal clock, with its fraction.
+// The position of the internal clock, including its fraction.
 double DeskClock::internalPpq(std::int64_t microseconds) const {
     return m_originPpq +
            m_tempo / MILLISECONDS_PER_MINUTE * (milliseconds(microseconds) - m_originMilliseconds) * PPQ_PER_BEAT;
@@ -64,7 +64,7 @@ std::int32_t DeskClock::externalTo(std::int64_t microseconds) {
     return m_originPpq + static_cast<std::int32_t>(std::floor(passed));
 }
 
-// A change begins where the last slice ended, with the fraction of a ppq that had passed.
+// A change takes effect where the last slice ended, including the fraction of a ppq that had passed.
 void DeskClock::applyChanges(std::int64_t microseconds) {
     if (m_wantsExternal == m_isExternal && (m_isExternal || m_wantedTempo == m_tempo))
         return;

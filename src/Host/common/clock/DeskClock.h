@@ -8,8 +8,8 @@
 namespace Host {
 
 // Turns the time of a monotonic clock into the slices that the desk plays, in ppq. Each slice begins where the last one
-// ended: a change of the tempo or of the source moves nothing, and a clock read late makes a longer slice. For one
-// thread; it reads no clock itself. All of it is [rt].
+// ended: a change of tempo or source moves nothing, and a clock read late makes a longer slice. For one thread; it
+// reads no clock itself. All of it is [rt].
 class DeskClock {
 public:
     struct Slice {
@@ -22,11 +22,11 @@ public:
     static constexpr int DEFAULT_TEMPO = 120;
     static constexpr int LOWEST_TEMPO = 20;
     static constexpr int HIGHEST_TEMPO = 250;
-    // What a slice makes good at most. Longer gaps (a computer that slept) are passed over, as nobody wants to hear
-    // them at once.
+    // The most that one slice catches up. Longer gaps (the computer slept) are skipped, as nobody wants to hear them
+    // all at once.
     static constexpr std::int64_t MAX_CATCH_UP_MICROSECONDS = 2000000;
-    // Far in the future the time line begins again, before its numbers end. That is after weeks, and is heard as a
-    // reset of what plays then.
+    // Shortly before its numbers run out, the time line starts again from 0. That takes weeks, and sounds like a reset
+    // of what plays then.
     static constexpr std::int32_t LAST_PPQ = 2000000000;
 
     // The time line begins at this moment.
@@ -38,18 +38,17 @@ public:
     // Whether the time comes from clock messages, from the next slice on.
     void setExternal(bool isExternal) { m_wantsExternal = isExternal; }
 
-    // What came from the clock master. It is heard also while the internal clock runs, so that the time is known at
-    // once when the source changes.
+    // A message from the clock master. These are followed even while the internal clock runs, so that the time is known
+    // at once when the source changes.
     void take(const ClockMessage& message);
 
-    // The slice up to this moment. It is empty as long as an external clock stands.
+    // The slice up to this moment. Empty while an external clock is stopped.
     Slice advance(std::int64_t microseconds);
 
-    // As long as an external clock stands: lets the next slices pass two ppq in two steps, so that events that wait for
-    // their time play.
+    // While an external clock is stopped: lets the next slices pass two ppq in two steps, so that waiting events play.
     void nudge() { m_nudges = 2; }
 
-    // Of the external clock, as it was heard so far.
+    // The tempo of the external clock, as far as it is known.
     double externalTempo() const { return m_follower.tempo(); }
 
 private:
@@ -66,11 +65,11 @@ private:
     int m_wantedTempo = DEFAULT_TEMPO;
     int m_nudges = 0;
 
-    // The internal clock stood at m_originPpq at this time, in milliseconds.
+    // The internal clock was at m_originPpq at this time, in milliseconds.
     std::int32_t m_originPpq;
     double m_originMilliseconds;
 
-    // The external position that stands at m_originPpq.
+    // The external position that corresponds to m_originPpq.
     double m_originPosition = 0;
     ClockFollower m_follower;
 };

@@ -8,11 +8,11 @@
 
 namespace Host {
 
-// A desk that lets its host see which events the controls hear of.
+// A desk that lets its host see which events reach the controls.
 class ObservedMirel : public Backend::Mirel, private Backend::MidiEngine::PassingEvents {
 public:
-    // [player, rt, under the engine's lock] Whether the controls hear of the event as well. A desk that is not started
-    // must not let them.
+    // [player, rt, under the engine's lock] Returns whether the controls get the event as well. Must return false for a
+    // desk that is not started.
     using Observer = std::function<bool(const Backend::MidiEngine::MirelMidiMessage& message)>;
 
     ObservedMirel(const std::string& name, Backend::MidiEngine::MidiPlayer& player, Observer observer);

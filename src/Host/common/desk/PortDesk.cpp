@@ -31,7 +31,7 @@ PortDesk::~PortDesk() {
 
 void PortDesk::start() {
     auto& manager = m_mirel->getMessageManager();
-    // A look that hangs may come back when the desk is gone: it finds the watch and the ports alone.
+    // A scan that hangs may return after the desk is gone, so it holds only the watch and the ports.
     m_watcher = std::make_unique<PortWatcher>([this, watch = m_watch, ports = m_ports] {
         if (!watch->isRunning)
             return;
@@ -47,19 +47,19 @@ void PortDesk::start() {
     m_watch->told = m_watch->changes.load();
     manager.sendSetMidiInputPorts(m_ports->inputPorts());
     manager.sendSetMidiOutputPorts(m_ports->outputPorts());
-    m_ports->waitUntilIdle();  // What is played to a port that is not open yet is lost.
+    m_ports->waitUntilIdle();  // Events for a port that is not open yet are lost.
     logFailures();
     startPlayer();
     manager.sendEndInitialize();
     m_watch->isRunning = true;
-    m_watcher->wake();  // For what has changed meanwhile.
+    m_watcher->wake();  // Picks up whatever has changed meanwhile.
 }
 
 bool PortDesk::stop() {
     if (!m_watch->isRunning.exchange(false))
         return true;
     const bool watchEnded = m_watcher->stop();
-    // A desk that has ended takes no events, so who brought one would wait for ever.
+    // A desk that has ended takes no events, so a thread that delivers one would wait for good.
     m_ports->stopListening();
     // The player and the outputs go on until the desk has ended: it may need a slice, and it ends what sounds.
     m_mirel->getMessageManager().sendEnd();
@@ -76,7 +76,7 @@ void PortDesk::startPlayer() {
 bool PortDesk::pause() {
     if (!m_player.hasEnded())
         m_mirel->getMidiEngineMessageManager().sendReset();
-    m_player.stop();  // It also ends what sounds at the ports alone.
+    m_player.stop();  // It also ends notes that sound only at the ports.
     return m_ports->waitUntilIdle();
 }
 
@@ -85,7 +85,7 @@ void PortDesk::resume() {
 }
 
 void PortDesk::waitUntilIdle() {
-    constexpr std::chrono::milliseconds LIMIT{1000};  // A look at the ports may hang.
+    constexpr std::chrono::milliseconds LIMIT{1000};  // A scan of the ports may hang.
     const auto deadline = std::chrono::steady_clock::now() + LIMIT;
     for (;;) {
         m_mirel->getMessageManagerMaster().waitUntilIdle();
@@ -112,7 +112,7 @@ void PortDesk::logFailures() {
         m_mirel->displayString(port + " does not work. It will be tried again.\r\n");
 }
 
-// On the engine's thread, which must not wait for the backend: the backend may be waiting for the engine, or have
+// Runs on the engine's thread, which must not wait for the backend: the backend may be waiting for the engine, or have
 // ended.
 void PortDesk::noteSwitch() {
     ++m_watch->changes;
@@ -137,7 +137,7 @@ void PortDesk::Player::playMidi(const MirelMidiMessage& message) {
 }
 
 void PortDesk::Player::record(const MirelMidiMessage& message) {
-    const std::size_t output = static_cast<unsigned char>(message.getOutput());  // One below 0 is beyond all.
+    const std::size_t output = static_cast<unsigned char>(message.getOutput());  // A negative one is out of range.
     if (output >= m_takes.size() || m_takes[output].isSwitchedOff || !message.getMidiMessage().isValid())
         return;
     MirelMidiMessage copy(message);
@@ -146,7 +146,7 @@ void PortDesk::Player::record(const MirelMidiMessage& message) {
     m_takes[output].sounding.sent({message.getMidiMessage().getMidiOutShortMsg(), 0});
 }
 
-// The desk plays no more ends of notes to an output that is switched off, as the port gets them at its close.
+// The desk sends no more note-offs to an output that is switched off; the port gets them when it closes.
 void PortDesk::Player::endTake(Take& take) const {
     take.sounding.end(Platform::monotonicMicroseconds(), [this](const OutputEvent& ending) {
         m_desk.m_ports->play(m_desk.m_recorder, ending.bytes, ending.microseconds);

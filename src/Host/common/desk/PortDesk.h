@@ -12,20 +12,20 @@
 
 namespace Host {
 
-// A desk that plays in real time on the computer's MIDI ports. It keeps the order of the start and of the end.
+// A desk that plays in real time on the computer's MIDI ports. It keeps the order of start and end.
 class PortDesk {
 public:
     struct Options {
-        std::string product;        // The product's name, for the key of the settings.
+        std::string product;        // The product's name, for the settings key.
         std::string dataFolder;     // Where the lists of ports are kept.
-        std::string virtualPort;    // The name of ports of the desk's own; empty: none.
-        bool keepsSwitches = true;  // Ports that are switched stay so in the next run.
-        bool recordsAll = false;    // The Recorder gets what is played on the other outputs too.
+        std::string virtualPort;    // The name for ports of the desk's own; empty: none.
+        bool keepsSwitches = true;  // Whether ports stay switched on or off in the next run.
+        bool recordsAll = false;    // Whether the Recorder also gets what is played on the other outputs.
     };
 
     PortDesk(std::shared_ptr<MidiSystem> system, const Options& options);
 
-    // As stop.
+    // Does what stop does.
     ~PortDesk();
     PortDesk(const PortDesk&) = delete;
     PortDesk& operator=(const PortDesk&) = delete;
@@ -33,27 +33,27 @@ public:
     // [main] Starts the threads, opens the ports and hands them to the desk, which then plays its defaults.
     void start();
 
-    // [main] Ends all that sounds, saves the settings and closes the ports. False if a port hung and was left behind.
+    // [main] Ends all sounding notes, saves the settings and closes the ports. False if a port hung and was abandoned.
     bool stop();
 
-    // [main, between start and stop] Ends all that sounds and plays nothing from then on, so that the program can be
-    // paused. False if a port hung.
+    // [main, between start and stop] Ends all sounding notes and plays nothing more, so that the program can be paused.
+    // False if a port hung.
     bool pause();
 
-    // [main, after pause] Plays on.
+    // [main, after pause] Goes on playing.
     void resume();
 
     Backend::MirelIF& mirel() { return *m_mirel; }
     MidiPorts& ports() { return *m_ports; }
 
-    // [any] Whether the player's thread has ended by itself, as it does when something fails in a slice.
+    // [any] Whether the player's thread ended by itself, as it does when something fails in a slice.
     bool hasFailed() const { return m_watch->isRunning && m_player.hasEnded(); }
 
-    // [main] Waits until the desk has done what was posted to it.
+    // [main] Waits until the desk has handled everything that was posted to it.
     void waitUntilIdle();
 
 private:
-    // The desk's host: real ports, of which the desk hears anew when it switches one on or off.
+    // The desk's host, with real ports. When the desk switches one on or off, the result is reported back to it.
     class Player : public PortPlayer {
     public:
         explicit Player(PortDesk& desk);
@@ -63,7 +63,7 @@ private:
         void enableMidiOutput(int port, bool enable) override;
 
     private:
-        // An output as the take has it.
+        // The state of an output in the take.
         struct Take {
             SoundingNotes sounding;
             bool isSwitchedOff = false;
@@ -73,14 +73,14 @@ private:
         void endTake(Take& take) const;
 
         PortDesk& m_desk;
-        std::vector<Take> m_takes;  // By output; none unless all is recorded. Under the engine's lock.
+        std::vector<Take> m_takes;  // By output; empty unless all is recorded. Under the engine's lock.
     };
 
-    // What of the watch outlives the desk if a look at the ports hangs.
+    // The part of the port watcher that must outlive the desk if a scan hangs.
     struct Watch {
         std::atomic<bool> isRunning{false};
-        std::atomic<int> changes{0};  // Of the lists of ports: by the desk, which switches them, and by the system.
-        std::atomic<int> told{0};     // Of those, that the desk has been told of.
+        std::atomic<int> changes{0};  // Changes to the lists of ports, made by the desk or by the system.
+        std::atomic<int> told{0};     // How many of those the desk knows of.
     };
 
     // The index of the recorder among the outputs.
@@ -88,13 +88,13 @@ private:
 
     void startPlayer();
 
-    // [any] Says in the log which ports don't work.
+    // [any] Logs which ports don't work.
     void logFailures();
 
-    // [watcher] Tells the desk of what has changed.
+    // [watcher] Reports changes to the desk.
     void tellChanges();
 
-    // [engine] A port was switched on or off, of which the desk hears soon.
+    // [engine] Notes that a port was switched on or off, to be reported to the desk soon.
     void noteSwitch();
 
     const bool m_recordsAll;

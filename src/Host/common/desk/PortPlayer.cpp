@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::uint32_t BITS_BEYOND_DATA = 0x808000;
 
-// Half a sysex is worse than none: who gets it takes all that follows for its rest.
+// Half a sysex is worse than none: the receiver would take everything after it for the rest.
 bool isSysexPart(MidiMessage::MessageType status) {
     return status == MidiMessage::SystemExclusive || status == MidiMessage::EndOfSysex;
 }
@@ -70,7 +70,7 @@ void PortPlayer::playUntilStopped(const PlayTimeSlice& playTimeSlice) {
     std::int64_t now = start;
     while (!m_isStopping) {
         playSlice(now, playTimeSlice);
-        // The next whole slice that is still to come: what was missed is in the next one.
+        // Wait for the next whole slice still to come; it includes whatever was missed.
         now = Platform::monotonicMicroseconds();
         m_wait.waitUntil(now - (now - start) % SLICE_MICROSECONDS + SLICE_MICROSECONDS);
         now = Platform::monotonicMicroseconds();
@@ -93,7 +93,7 @@ void PortPlayer::playSlice(std::int64_t microseconds, const PlayTimeSlice& playT
 void PortPlayer::playMidi(const MirelMidiMessage& message) {
     const MidiMessage& event = message.getMidiMessage();
     const std::uint32_t bytes = event.getMidiOutShortMsg();
-    // Nothing but whole messages that every port understands.
+    // Only whole messages that every port understands.
     if (event.isValid() && !isSysexPart(event.getStatus()) && (bytes & BITS_BEYOND_DATA) == 0)
         m_ports.play(message.getOutput(), bytes, m_sliceMicroseconds);
 }
@@ -111,7 +111,7 @@ void PortPlayer::setTempo(int bpm) {
 }
 
 void PortPlayer::setTempoSource(char input) {
-    // The last input is heard on during a reset, when the source is internal for a moment.
+    // During a reset the source is internal for a moment; the last input stays connected meanwhile.
     m_ports.setClockInput(input);
     m_tempoSource = input;
 }

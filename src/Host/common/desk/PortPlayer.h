@@ -14,11 +14,11 @@
 
 namespace Host {
 
-// The host of a desk with real ports: its player thread plays a slice about every millisecond, and what the desk plays
-// in there goes to the outputs.
+// The host of a desk with real ports: its player thread plays a slice about every millisecond, and the outputs get what
+// the desk plays in it.
 //
-// A slice is played also while an external clock stands, so that resets are carried out. When the thread ends, whether
-// by stop() or by an exception out of a slice, all that sounds on the outputs is ended.
+// Slices are played even while an external clock is stopped, so that resets are carried out. When the thread ends,
+// whether by stop() or because an exception escaped a slice, all sounding notes on the outputs are ended.
 class PortPlayer : public Backend::MidiEngine::MidiPlayer {
 public:
     static constexpr std::int64_t SLICE_MICROSECONDS = 1000;
@@ -29,28 +29,28 @@ public:
     // The ports must outlive the player.
     explicit PortPlayer(MidiPorts& ports);
 
-    // As stop.
+    // Does what stop does.
     ~PortPlayer() override;
     PortPlayer(const PortPlayer&) = delete;
     PortPlayer& operator=(const PortPlayer&) = delete;
 
-    // [main] Starts the player thread. Nothing happens if there is one.
+    // [main] Starts the player thread, unless there is one.
     void start(PlayTimeSlice playTimeSlice);
 
-    // [main] Ends it, after the slice under way, and then all that sounds.
+    // [main] Ends the thread after its current slice, then ends all sounding notes.
     void stop();
 
-    // [any] Whether the thread has ended, by itself or by stop(). True also before the start.
+    // [any] Whether the thread has ended, by itself or by stop(). Also true before the start.
     bool hasEnded() const { return m_hasEnded; }
 
-    // [main, after stop] What flew out of a slice and ended the thread; null if nothing did.
+    // [main, after stop] The exception that escaped a slice and ended the thread; null if there was none.
     std::exception_ptr failure() const { return m_failure; }
 
     // [player, rt if the desk's slice is] Plays the slice up to this moment of the monotonic clock. The thread does
     // nothing else; tests call it with times of their own.
     void playSlice(std::int64_t microseconds, const PlayTimeSlice& playTimeSlice);
 
-    // As MidiPlayer has them.
+    // See MidiPlayer.
     void playMidi(const Backend::MidiEngine::MirelMidiMessage& message) override;
     void enableMidiInput(int port, bool enable) override { m_ports.enableInput(port, enable); }
     void enableMidiOutput(int port, bool enable) override { m_ports.enableOutput(port, enable); }

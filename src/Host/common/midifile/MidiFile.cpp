@@ -50,7 +50,7 @@ MidiFileEvent makeTempo(std::int64_t tick, std::uint32_t microsecondsPerQuarter)
 }
 
 MidiFileEvent makeTimeSignature(std::int64_t tick, std::uint8_t numerator, std::uint8_t denominatorPower) {
-    // A click every quarter (24 MIDI clocks) and 8 notated 32nds to the quarter, as nearly every file has it.
+    // A click every quarter note (24 MIDI clocks) and 8 notated 32nds to the quarter, as in nearly every file.
     return makeMeta(tick, META_TIME_SIGNATURE,
                     {static_cast<char>(numerator), static_cast<char>(denominatorPower), 24, 8});
 }

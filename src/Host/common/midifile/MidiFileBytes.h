@@ -1,5 +1,5 @@
 // Takes numbers from a stretch of a file's bytes, never past its end. The first failure sticks: from then on nothing
-// remains and everything reads as 0, so a parser may check once after several reads.
+// remains and everything reads as 0, so a parser can check once after several reads.
 #pragma once
 
 #include <cstddef>
@@ -12,7 +12,7 @@ namespace Host {
 
 class MidiFileBytes {
 public:
-    // [any] The stretch from begin to end (both at most file.size()); place ("track 1") goes into its errors, it may be
+    // [any] The stretch from begin to end (both at most file.size()). Errors mention place ("track 1"), which may be
     // empty.
     MidiFileBytes(std::string_view file, std::size_t begin, std::size_t end, std::string place);
 
@@ -26,7 +26,7 @@ public:
     // Takes over the failure of a stretch within this one.
     void adoptError(const MidiFileBytes& part);
 
-    // 0 at the end, without failure.
+    // 0 at the end, which is not a failure.
     std::uint8_t peek() const;
 
     // These fail if too few bytes remain.

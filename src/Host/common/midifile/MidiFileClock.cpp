@@ -7,15 +7,15 @@ namespace Host {
 
 namespace {
 
-// value * numerator / denominator, half rounded up. The whole and the broken part of the quotient are scaled apart, so
-// that 64 bits hold every product; the asserts below have the largest of each.
+// value * numerator / denominator, half rounded up. The integer and fractional parts of the quotient are scaled
+// separately, so that every product fits 64 bits; the asserts below use the largest of each.
 std::int64_t scale(std::int64_t value, std::int64_t numerator, std::int64_t denominator) {
     return value / denominator * numerator + (value % denominator * numerator + denominator / 2) / denominator;
 }
 
 constexpr std::int64_t INT64_LIMIT = INT64_MAX;
 constexpr std::int64_t MAX_TICK = MidiFileClock::MAX_TICK;
-// ppq a second at the highest tempo: tempo / 60 * 480.
+// ppq per second at the highest tempo: tempo / 60 * 480.
 constexpr std::int64_t MAX_RATE = MidiFileClock::MAX_FRAME_TEMPO * std::int64_t{8};
 static_assert(MAX_TICK <= INT64_LIMIT / MidiFileClock::PPQ / 2);
 static_assert(MAX_TICK / 24 <= INT64_LIMIT / MAX_RATE / 2);
@@ -29,7 +29,7 @@ bool isUsable(const MidiFileDivision& division) {
            division.ticksPerFrame <= 0xff;
 }
 
-// frameTicks() ticks take frameSeconds() seconds, both whole numbers also for the 30 drop.
+// frameTicks() ticks take frameSeconds() seconds, both whole numbers even for 30 drop.
 std::int64_t frameSeconds(const MidiFileDivision& division) {
     return division.framesPerSecond == 29 ? 1001 : 1;
 }
@@ -66,7 +66,7 @@ double MidiFileClock::seconds(std::int64_t tick) const {
     if (m_division.hasFrames())
         return static_cast<double>(tick) * static_cast<double>(frameSeconds(m_division)) /
                static_cast<double>(frameTicks(m_division));
-    // The last segment that has begun; the first always has.
+    // The last segment that has begun; the first one always has.
     const auto next = std::upper_bound(m_segments.begin() + 1, m_segments.end(), tick,
                                        [](std::int64_t t, const Segment& segment) { return t < segment.tempo.tick; });
     const Segment& segment = *std::prev(next);

@@ -13,7 +13,7 @@ std::string text(std::size_t number) {
     return std::to_string(number);
 }
 
-// Reads the chunk of one track into a file that it only adds to.
+// Reads the chunk of one track into a file, only ever adding to it.
 class TrackParser {
 public:
     TrackParser(MidiFileBytes& bytes, MidiFile& file, std::size_t maxEvents, std::size_t& eventCount)
@@ -35,7 +35,7 @@ private:
     std::size_t& m_eventCount;
     MidiFileTrack m_track;
     std::int64_t m_tick = 0;
-    std::uint8_t m_runningStatus = 0;  // With the channel; 0 for none.
+    std::uint8_t m_runningStatus = 0;  // Including the channel; 0 for none.
     bool m_sysexOpen = false;
     bool m_ended = false;
 };
@@ -52,7 +52,7 @@ void TrackParser::parse() {
 }
 
 void TrackParser::parseEvent() {
-    // Also what is passed over counts, since it moves the time on: so no tick can overflow.
+    // Skipped events count too, since they advance the time: so no tick can overflow.
     if (++m_eventCount > m_maxEvents) {
         m_bytes.fail(m_bytes.position(), "more than " + text(m_maxEvents) + " events");
         return;
@@ -161,7 +161,7 @@ void parseDivision(MidiFileBytes& bytes, MidiFileDivision& division) {
     if (word < 0x8000) {
         division = {word, 0, 0};
         if (word == 0)
-            bytes.fail(at, "a division of no ticks to the quarter");
+            bytes.fail(at, "a division of zero ticks per quarter note");
         return;
     }
     // The high byte is the negative of the frame rate, in two's complement.
@@ -170,13 +170,13 @@ void parseDivision(MidiFileBytes& bytes, MidiFileDivision& division) {
     if (rate != 24 && rate != 25 && rate != 29 && rate != 30)
         bytes.fail(at, "an unknown rate of " + std::to_string(rate) + " frames");
     else if (division.ticksPerFrame == 0)
-        bytes.fail(at, "a division of no ticks to the frame");
+        bytes.fail(at, "a division of zero ticks per frame");
 }
 
-// Returns the number of tracks the header tells of.
+// Returns the number of tracks that the header announces.
 std::size_t parseHeader(MidiFileBytes& bytes, MidiFile& file) {
     if (bytes.remaining() < 4 || bytes.take(4) != "MThd") {
-        bytes.fail(0, "no standard MIDI file, its header is missing");
+        bytes.fail(0, "not a standard MIDI file: its header is missing");
         return 0;
     }
     const std::size_t size = bytes.bigEndian(4);
@@ -195,20 +195,20 @@ std::size_t parseHeader(MidiFileBytes& bytes, MidiFile& file) {
     return trackCount;
 }
 
-// Sorts by tick and keeps the last of each tick. The list comes in track by track, so the order within a tick is that
-// of the merged events.
+// Sorts by tick and keeps the last one of each tick. The list is collected track by track, so the order within a tick
+// is that of the merged events.
 template <class Change>
 void settle(std::vector<Change>& changes) {
     std::stable_sort(changes.begin(), changes.end(), [](const Change& a, const Change& b) { return a.tick < b.tick; });
     const auto sameTick = [](const Change& a, const Change& b) { return a.tick == b.tick; };
-    // unique keeps the first of equals; from behind that is the last.
+    // unique keeps the first of equals; run backwards, that is the last.
     changes.erase(changes.begin(), std::unique(changes.rbegin(), changes.rend(), sameTick).base());
 }
 
 void parseTracks(std::string_view all, MidiFileBytes& bytes, std::size_t trackCount, std::size_t maxEvents,
                  MidiFile& file) {
     std::size_t eventCount = 0;
-    // Nothing is reserved by what the header claims: a track has to be there to cost memory.
+    // Reserve nothing on the header's word: only a track that exists may cost memory.
     while (!bytes.error() && file.tracks.size() < trackCount) {
         const std::size_t number = file.tracks.size() + 1;
         const std::size_t at = bytes.position();
@@ -244,7 +244,7 @@ MidiFileResult readMidiFile(std::string_view bytes, std::size_t maxEvents) {
     const std::size_t trackCount = parseHeader(all, result.file);
     parseTracks(bytes, all, trackCount, std::min(maxEvents, MIDI_FILE_MAX_EVENTS), result.file);
     if (all.error()) {
-        // The error outlives the half-read file, which nobody shall take for the whole.
+        // Return the error without the half-read file, so that nobody takes it for the whole.
         return {{}, all.error()};
     }
     settle(result.file.tempi);

@@ -70,7 +70,7 @@ void append(EventPointers& pointers, const std::vector<MidiFileEvent>& events) {
         pointers.push_back(&event);
 }
 
-// Appends the chunk of a track; false if it is too large for one.
+// Appends the chunk of a track; false if the track is too large for one.
 bool putTrack(std::string& out, EventPointers events, std::int64_t end) {
     std::stable_sort(events.begin(), events.end(),
                      [](const MidiFileEvent* a, const MidiFileEvent* b) { return a->tick < b->tick; });
@@ -130,7 +130,7 @@ std::optional<std::string> MidiFileWriter::content(Layout layout) const {
     for (std::size_t i = 0; i < m_tracks.size(); ++i) {
         append(events, m_tracks[i].events);
         end = std::max(end, m_tracks[i].end);
-        // In one track all come together before it is written.
+        // With a single track, all are merged before it is written.
         if (single && i + 1 < m_tracks.size())
             continue;
         if (!putTrack(out, std::move(events), end))

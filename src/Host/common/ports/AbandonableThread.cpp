@@ -26,7 +26,7 @@ AbandonableThread::~AbandonableThread() {
 }
 
 bool AbandonableThread::waitUntilEnded(std::chrono::steady_clock::time_point deadline) {
-    // Only at the end of things, and ended within moments unless something hangs: looking again and again is enough.
+    // Only used on the way out, and over within moments unless something hangs, so polling is enough.
     while (!m_hasEnded->load()) {
         if (std::chrono::steady_clock::now() >= deadline)
             return false;

@@ -15,27 +15,29 @@
 
 namespace Host {
 
-// Turns the bytes that come in from one port into events of the desk.
+// Turns the bytes that come in from one port into events for the desk.
 //
-// An event enters with the default output and the default channel, or with its own channel where the input is set so. A
-// note-on without velocity becomes a note-off. The end of a note enters the way its beginning did, whatever was set in
-// between. Sysex, active sensing and system reset do not enter; timing messages do, and are told to the clock as well.
+// An event enters with the default output and the default channel, or with its own channel if the input is set so. A
+// note-on without velocity becomes a note-off. The end of a note enters in the same way as its beginning, even if
+// settings changed in between. Sysex, active sensing and system reset do not enter; timing messages do, and also go to
+// the clock.
 class InputTranslator {
 public:
-    // Takes an event; on a thread of the system's. It may wait a little, as a full queue makes it.
+    // Takes an event, on one of the system's threads. It may wait briefly if a queue is full.
     using Sink = std::function<void(const Backend::MidiEngine::MirelMidiMessage&)>;
 
     InputTranslator(char input, Sink sink, std::shared_ptr<ClockInput> clock);
     InputTranslator(const InputTranslator&) = delete;
     InputTranslator& operator=(const InputTranslator&) = delete;
 
-    // [any] For what comes from now on. Enabled or not is the port's business.
+    // [any] Applies to what comes from now on. Whether the port is enabled is handled elsewhere.
     void setSettings(const PortSettings& settings);
 
     // [one thread at a time] The next bytes and when they came.
     void receive(const std::uint8_t* bytes, std::size_t count, std::int64_t microseconds);
 
-    // [any] Ends the notes that came in and have not ended, as when the port is gone; forgets a message half read.
+    // [any] Ends the notes that came in and have not ended, for instance when the port is gone; forgets a half-read
+    // message.
     void endHeldNotes();
 
     // [any] Nothing reaches the sink or the clock after this has returned.
@@ -59,7 +61,7 @@ private:
     std::atomic<bool> m_keepsChannels{false};
     std::atomic<std::uint16_t> m_channels{PortSettings::ALL_CHANNELS};
 
-    std::mutex m_mutex;  // Of all below.
+    std::mutex m_mutex;  // Guards everything below.
     Sink m_sink;         // Empty when closed.
     MidiByteParser m_parser;
     std::array<std::array<Entry, NOTES>, CHANNELS> m_held{};

@@ -28,7 +28,7 @@ std::size_t MidiByteParser::dataBytesOf(std::uint8_t status) {
 
 bool MidiByteParser::feed(std::uint8_t byte, MidiBytes& message) {
     if (byte >= FIRST_REAL_TIME) {
-        // It may stand anywhere and disturbs nothing.
+        // Real-time bytes may come anywhere and interrupt nothing.
         message = {byte, 0, 0};
         return true;
     }
@@ -43,7 +43,7 @@ bool MidiByteParser::feed(std::uint8_t byte, MidiBytes& message) {
     message = {m_status, m_data[0], needed == 2 ? m_data[1] : std::uint8_t{0}};
     m_count = 0;
     if (m_status >= FIRST_SYSTEM)
-        m_status = 0;  // These start no run.
+        m_status = 0;  // These don't start running status.
     return true;
 }
 

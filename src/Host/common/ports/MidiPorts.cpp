@@ -13,7 +13,7 @@ using Backend::MidiEngine::MidiOutputPort;
 
 namespace {
 
-// An input that ends the notes that came through it when it is closed: nobody else would.
+// An input that, when closed, ends the notes that came through it; nobody else would.
 class TranslatedInput : public OpenMidiPort {
 public:
     TranslatedInput(std::unique_ptr<OpenMidiPort> port, std::shared_ptr<InputTranslator> translator)
@@ -47,7 +47,7 @@ std::vector<Port> portsOf(const std::vector<PortRow>& rows) {
     return ports;
 }
 
-// Opens or closes the line as the row wants it. One that failed is tried again.
+// Opens or closes the line to match the row. Tries again if it failed before.
 template <class MakeOpener>
 void apply(const PortRow& row, bool isEnabled, PortLine& line, MidiPortId& opened, MakeOpener makeOpener) {
     if (!isEnabled || !row.available) {
@@ -59,7 +59,7 @@ void apply(const PortRow& row, bool isEnabled, PortLine& line, MidiPortId& opene
     }
 }
 
-// Adds the port if it has failed since it was told last.
+// Adds the port if it has failed since this was last reported.
 template <class Port>
 void takeFailure(const char* kind, Port& port, std::vector<std::string>& failures) {
     if (!port.line->isWanted() || port.line->isOpen())
@@ -78,7 +78,7 @@ MidiPorts::MidiPorts(std::shared_ptr<MidiSystem> system, Options options, InputT
       m_outputList(readPortFile(m_options.dataFolder, OUTPUTS_FILE)),
       m_savedInputs(m_inputList.toText()),
       m_savedOutputs(m_outputList.toText()) {
-    // So that events have somewhere to go before the first look at the system, which may take its time.
+    // Events need somewhere to go before the first scan of the system, which may take a while.
     m_outputList.update({recorderId()});
     applyAll();
 }

@@ -20,60 +20,60 @@
 
 namespace Host {
 
-// All ports of the desk: the lists of what there is and was, their files, and a line to each port that is enabled and
-// there. Ports that come and go are noticed by update(), which somebody calls about once a second.
+// All ports of the desk: the lists of present and past ports, their files, and a line to each port that is enabled and
+// present. update(), called about once a second, detects ports that come and go.
 //
-// Nothing but update() and close() waits for the system, so nothing but these can hang with it.
+// Only update() and close() wait for the system, so only they can hang with it.
 class MidiPorts {
 public:
     struct Options {
-        std::string dataFolder;  // Of the two files; empty: nothing is kept.
+        std::string dataFolder;  // For the two files; empty: nothing is kept.
         std::string
             virtualPort;  // The name of an input and of an output for other programs to connect to; empty: none.
-        bool keepsSwitches = true;  // Which ports were switched on and off is known in the next run too.
-        bool isRecording = false;   // The recorder takes what is played to it however it is switched.
+        bool keepsSwitches = true;  // Whether the next run remembers which ports were switched on and off.
+        bool isRecording = false;   // Whether the recorder takes what is played to it even when it is switched off.
     };
 
     static constexpr std::chrono::milliseconds OPEN_LIMIT{1000};
     static constexpr std::chrono::milliseconds CLOSE_LIMIT{2000};
 
-    // The sink takes what comes in, on threads of the system's, until stopListening() or close() has returned.
+    // The sink takes what comes in, on the system's threads, until stopListening() or close() has returned.
     MidiPorts(std::shared_ptr<MidiSystem> system, Options options, InputTranslator::Sink sink);
 
-    // Closes.
+    // Closes the ports.
     ~MidiPorts();
     MidiPorts(const MidiPorts&) = delete;
     MidiPorts& operator=(const MidiPorts&) = delete;
 
-    // [one thread at a time] Looks at what the system has now, opens and closes ports, and writes the files if anything
-    // in them has changed. True if a list has changed.
+    // [one thread at a time] Looks up the system's current ports, opens and closes lines, and writes the files if their
+    // contents changed. True if a list has changed.
     bool update();
 
-    // [any] Called after each update() that changed a list, on its thread. To be set before the first one.
+    // [any] Called after each update() that changed a list, on its thread. Set it before the first update().
     void setListener(std::function<void()> listChanged) { m_listChanged = std::move(listChanged); }
 
     // [any] Copies of the lists.
     std::vector<PortRow> inputs() const;
     std::vector<PortRow> outputs() const;
 
-    // [any] The same as the desk takes them.
+    // [any] The same, in the form the desk takes.
     std::vector<Backend::MidiEngine::MidiInputPort> inputPorts() const;
     std::vector<Backend::MidiEngine::MidiOutputPort> outputPorts() const;
 
-    // [any] By index from 0; without such a port nothing happens. Ports are opened and closed later, on threads of
-    // their own; the files follow with the next update().
+    // [any] By index from 0; does nothing without such a port. Ports are opened and closed later, on threads of their
+    // own; the files follow with the next update().
     void enableInput(int input, bool enable);
     void enableOutput(int output, bool enable);
     void setInputSettings(int input, const PortSettings& settings);
 
-    // [any] The input whose timing messages are to be heard; a negative one changes nothing.
+    // [any] The input whose timing messages drive the clock; a negative index changes nothing.
     void setClockInput(int input);
 
-    // [player, rt] A short message to an output by its index from 0. False if there is no such output, it is not open,
-    // or the event was dropped.
+    // [player, rt] Sends a short message to an output by its index from 0. False if there is no such output, it is not
+    // open, or the event was dropped.
     bool play(int output, std::uint32_t bytes, std::int64_t microseconds);
 
-    // [any, rt] Asks for the end of all that sounds on any output.
+    // [any, rt] Asks for all sounding notes on all outputs to be ended.
     void endNotes();
 
     // [player, rt] The timing messages of the clock input.
@@ -81,27 +81,27 @@ public:
 
     Recorder& recorder() { return *m_recorder; }
 
-    // [any] The recorder among the outputs.
+    // [any] The recorder's id among the outputs.
     static MidiPortId recorderId() { return {Recorder::NAME, PortList::BUILT_IN}; }
 
-    // [any] Whether all lines have done what they were asked for, as to open their ports.
+    // [any] Whether all lines have finished what they were asked to do, such as opening their ports.
     bool isIdle() const;
 
-    // [any but player] Waits for that, at most this long as ports may hang. False if it was not enough.
+    // [any but player] Waits for that, for at most this long because ports may hang. False if the time ran out.
     bool waitUntilIdle(std::chrono::milliseconds limit = OPEN_LIMIT) const;
 
-    // [any] The ports that should be open and could not be opened, or failed, each once until it is open again: "MIDI
-    // output "Synth"".
+    // [any] The ports that should be open but could not be opened, or failed; each is listed once until it is open
+    // again: "MIDI output "Synth"".
     std::vector<std::string> takeFailures();
 
-    // [any] Events that outputs were too slow for.
+    // [any] How many events were dropped because outputs were too slow.
     std::uint64_t droppedEvents() const;
 
-    // [any] When this has returned, the sink and the clock get nothing any more, not even the ends of notes that are
-    // held. The sink must still take what is on its way.
+    // [any] Once this has returned, nothing more reaches the sink and the clock, not even the ends of held notes. The
+    // sink must still take what is on its way.
     void stopListening();
 
-    // [any] Ends all that sounds, closes all ports and writes the files. A port that hangs is left behind after the
+    // [any] Ends all sounding notes, closes all ports and writes the files. A port that hangs is abandoned after the
     // limit; false if there was one. Ports stay closed.
     bool close(std::chrono::milliseconds limit = CLOSE_LIMIT);
 
@@ -122,7 +122,7 @@ private:
     void applyInput(std::size_t index);
     void applyOutput(std::size_t index);
 
-    // False, and nothing done, without such a row.
+    // Does nothing and returns false if there is no such row.
     bool switchRow(PortList& list, std::size_t index, bool enable) const;
     void applyAll();
     PortLine::Opener inputOpener(const MidiPortId& id, std::shared_ptr<InputTranslator> translator) const;
@@ -136,7 +136,7 @@ private:
     const std::shared_ptr<Recorder> m_recorder = std::make_shared<Recorder>();
     std::function<void()> m_listChanged;
 
-    mutable std::mutex m_mutex;  // Of what follows; never held while the system or a disk is at work.
+    mutable std::mutex m_mutex;  // Guards what follows; never held during calls to the system or a disk.
     PortList m_inputList;
     PortList m_outputList;
     std::vector<Input> m_inputs;    // By row.

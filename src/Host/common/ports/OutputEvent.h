@@ -4,7 +4,7 @@
 
 namespace Host {
 
-// A short MIDI message on its way to an output: its bytes in one word, the status lowest, and when it was played
+// A short MIDI message on its way to an output: its bytes in one word, status lowest, and when it was played
 // (monotonicMicroseconds()).
 struct OutputEvent {
     std::uint32_t bytes = 0;

@@ -22,7 +22,7 @@ bool OutputQueue::push(const OutputEvent& event) {
         return true;
     }
     if (isEnding) {
-        // The count after the set: who sees the count finds the ending.
+        // Count after adding: whoever sees the count will find the ending.
         m_owed.add(event);
         m_owedCount.fetch_add(1, std::memory_order_release);
         return true;
@@ -44,7 +44,7 @@ bool OutputQueue::pop(OutputEvent& event) {
         m_isPaying = m_owed.take(event);
         if (m_isPaying)
             return true;
-        // All that was owed when the count was read has been taken. While anything is owed nothing enters the ring, so
+        // Everything owed when the count was read has been taken. While anything is owed nothing enters the ring, so
         // nothing newer was overtaken.
         m_paidCount.store(m_countUnderWay, std::memory_order_release);
     }

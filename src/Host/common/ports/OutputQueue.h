@@ -14,9 +14,9 @@ namespace Host {
 // What an output still has to send: a ring of events that one thread fills and another one empties. All of it is [rt].
 //
 // A port that is too slow loses notes, but never their ends. The last quarter of the ring is kept for events that end
-// something; when even that is full they become owed, as a set that can't run full. From then on nothing else is taken
-// until all that is in the ring and all that is owed has been sent, so a note-off never overtakes its note-on and never
-// cuts off a later one.
+// something; when even that is full they become owed, as a set that can't run full. From then on nothing else is
+// accepted until everything in the ring and everything owed has been sent, so a note-off never overtakes its note-on
+// and never cuts off a later one.
 class OutputQueue {
 public:
     static constexpr std::size_t CAPACITY = 4096;
@@ -46,11 +46,12 @@ private:
     alignas(64) std::atomic<std::uint32_t> m_in{0};
     alignas(64) std::atomic<std::uint32_t> m_out{0};
     OwedEndings m_owed;
-    // The producer counts up with each ending that becomes owed; the consumer says up to which count it has sent all.
+    // The producer increments this with each ending that becomes owed; the consumer records up to which count it has
+    // sent all.
     std::atomic<std::uint32_t> m_owedCount{0};
     std::atomic<std::uint32_t> m_paidCount{0};
-    std::uint32_t m_countUnderWay = 0;  // Of the consumer alone: what m_owedCount was before it began to take.
-    bool m_isPaying = false;            // Of the consumer alone.
+    std::uint32_t m_countUnderWay = 0;  // Consumer only: the value of m_owedCount before it began to take.
+    bool m_isPaying = false;            // Consumer only.
     std::atomic<std::uint64_t> m_dropped{0};
 };
 

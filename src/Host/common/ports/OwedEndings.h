@@ -9,20 +9,19 @@
 
 namespace Host {
 
-// What has to be sent to a port so that nothing sounds on for ever, as a set: a note-off for a note, a pedal let go, an
-// all-sound-off. It holds every possible one, so it can't run full. One thread adds, another one takes. All of it is
+// The endings that must still be sent to a port so that nothing keeps sounding: note-offs, pedal releases,
+// all-sound-off. As a set of every possible ending it can't run full. One thread adds, another one takes. All of it is
 // [rt].
 class OwedEndings {
 public:
-    // [any] Whether an event ends something: a note-off, a pedal (controllers 64 to 69) let go, one of the channel mode
-    // messages (controllers 120 to 127), a stop or a system reset.
+    // [any] Whether an event ends something: a note-off, the release of a pedal (controllers 64 to 69), a channel mode
+    // message (controllers 120 to 127), a stop or a system reset.
     static bool isEnding(const OutputEvent& event) { return indexOf(event) < COUNT; }
 
     // [producer] Adds one; other events are ignored.
     void add(const OutputEvent& event);
 
-    // [consumer] Takes one out and gives the event that is to be sent, with the time of the last one added. False if
-    // there is none.
+    // [consumer] Takes one out as the event to be sent, with the time of the last one added. False if there is none.
     [[nodiscard]] bool take(OutputEvent& event);
 
 private:

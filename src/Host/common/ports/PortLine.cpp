@@ -21,7 +21,7 @@ enum class Wish { NONE, OPEN, CLOSE, FINISH };
 
 // Shared by the line and its thread, so that a thread that hangs keeps what it may still touch.
 struct PortLine::State {
-    std::mutex mutex;  // Of the next two; never held while the port is at work.
+    std::mutex mutex;  // Guards the next two; never held while the port is at work.
     Wish wish = Wish::NONE;
     Opener opener;
 
@@ -30,10 +30,10 @@ struct PortLine::State {
     std::atomic<bool> hasFailed{false};
     std::atomic<bool> endNotes{false};
     WakeSignal work;
-    std::atomic<std::uint32_t> done{0};  // The count of the signal up to which all work is done.
+    std::atomic<std::uint32_t> done{0};  // The signal's count up to which all work is done.
     OutputQueue queue;
 
-    // Of the line's thread alone.
+    // Used by the line's thread only.
     std::unique_ptr<OpenMidiPort> port;
     SoundingNotes sounding;
 
@@ -51,7 +51,7 @@ struct PortLine::State {
     bool doAll();
 };
 
-// The newest wish replaces one that the thread has not come to yet.
+// The newest wish replaces one that the thread has not got to yet.
 void PortLine::State::ask(Wish newest, Opener newOpener) {
     {
         const std::lock_guard lock(mutex);
@@ -68,7 +68,7 @@ Wish PortLine::State::takeWish(Opener& taken) {
     return std::exchange(wish, Wish::NONE);
 }
 
-// False if the thread is to end.
+// False if the thread should end.
 bool PortLine::State::doWish() {
     Opener taken;
     const Wish next = takeWish(taken);
@@ -103,7 +103,7 @@ void PortLine::State::closePort() {
     }
 }
 
-// The port has stopped working: there is nobody to send endings to.
+// The port has stopped working, so endings have nowhere to go.
 void PortLine::State::dropPort() {
     hasFailed = true;
     isOpen = false;
@@ -132,7 +132,7 @@ void PortLine::State::endAll() {
     ended.end(Platform::monotonicMicroseconds(), [this](const OutputEvent& event) { send(event); });
 }
 
-// All that there is to do now. False if the thread is to end.
+// Does all pending work. False if the thread should end.
 bool PortLine::State::doAll() {
     OutputEvent event;
     for (;;) {
@@ -144,7 +144,7 @@ bool PortLine::State::doAll() {
         }
         if (!endNotes.exchange(false))
             return true;
-        // The request stands behind what was queued before it.
+        // The request comes after what was queued before it.
         while (queue.pop(event))
             send(event);
         endAll();

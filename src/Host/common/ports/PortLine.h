@@ -12,36 +12,36 @@
 
 namespace Host {
 
-// The desk's end of one port of the system, with a thread that opens, feeds and closes it. All that can hang in a
-// driver hangs there alone: no other operation waits for it.
+// The desk's end of one port of the system, with a thread that opens, feeds and closes it. Whatever hangs in a driver
+// hangs on that thread alone; no other operation waits for it.
 //
-// The line remembers what sounds on its port. Whenever the port is closed while it works, all of that ends first.
+// The line remembers what sounds on its port. Whenever a working port is closed, all of that is ended first.
 class PortLine {
 public:
-    // Opens the port; null if that fails. It is called on the line's thread and owns all that it touches.
+    // Opens the port; null on failure. Called on the line's thread; owns everything it touches.
     using Opener = std::function<std::unique_ptr<OpenMidiPort>()>;
 
-    // The name is that of the thread.
+    // The name is the thread's.
     explicit PortLine(std::string name);
 
-    // As finish; a thread that hangs is left to itself.
+    // Does what finish does, and abandons a thread that hangs.
     ~PortLine();
     PortLine(const PortLine&) = delete;
     PortLine& operator=(const PortLine&) = delete;
 
-    // [one thread at a time] Asks for the port to be opened; one that is open is closed before. isOpen tells when it is
-    // done. Nothing happens after finish.
+    // [one thread at a time] Asks for the port to be opened, after closing one that is open. isOpen shows when it is
+    // done. Does nothing after finish.
     void open(Opener opener);
 
-    // [one thread at a time] Asks for the port to be closed: of what is still queued only the endings are sent.
+    // [one thread at a time] Asks for the port to be closed; of what is still queued, only the endings are sent.
     void close();
 
-    // [any, rt] Asks for the end of all that sounds, behind what is queued. The line is idle when that no longer needs
-    // this program.
+    // [any, rt] Asks for all sounding notes to be ended after what is queued. The line is idle when that no longer
+    // needs this program.
     void endNotes();
 
-    // [one thread at a time, rt] Queues an event of this many bytes' worth for the port. False if the port is not open
-    // or the event was dropped (OutputQueue tells which are).
+    // [one thread at a time, rt] Queues an event, its bytes in one word, for the port. False if the port is not open or
+    // the event was dropped (see OutputQueue).
     bool play(std::uint32_t bytes, std::int64_t microseconds);
 
     // [any, rt] Whether the port is open and takes events.
@@ -53,13 +53,13 @@ public:
     // [any] Whether the port could not be opened, or failed and was closed, since the last open().
     bool hasFailed() const;
 
-    // [any] Whether the line has done all that it was asked for, and sent all that it was given. For tests.
+    // [any] Whether the line has done everything asked of it and sent everything it was given. For tests.
     bool isIdle() const;
 
-    // [any] Events dropped since the beginning, as the port was too slow.
+    // [any] How many events were dropped so far because the port was too slow.
     std::uint64_t dropped() const;
 
-    // [one thread at a time] Closes for good; nothing is opened any more.
+    // [one thread at a time] Closes for good; nothing is opened after this.
     void finish();
 
     // [any] After finish: waits until the port is closed, but not beyond the deadline. False if it hangs.

@@ -8,7 +8,8 @@ namespace Host {
 
 namespace {
 
-// A loop in one computer: what goes out of such a port comes in again, and would go through the desk for ever.
+// A loopback inside the computer: what is sent to such a port comes in again, and would go round through the desk
+// endlessly.
 constexpr std::string_view LOOP_NAME = "Midi Through";
 
 PortSettings newcomerSettings(const MidiPortId& id) {
@@ -49,7 +50,7 @@ std::string unescaped(std::string_view text) {
     return name;
 }
 
-// Takes the number up to the next blank off the line. False if there is none or it is not between the limits.
+// Takes the number up to the next blank off the line. False if there is none or it is outside the limits.
 bool takeNumber(std::string_view& line, int base, int lowest, int highest, int& number) {
     const std::size_t blank = line.find(' ');
     if (blank == std::string_view::npos)
@@ -96,7 +97,7 @@ bool PortList::update(const std::vector<MidiPortId>& present) {
     const std::vector<PortRow> before = m_rows;
     for (PortRow& row : m_rows)
         row.available = false;
-    // Those with a row first, so that none of them loses it to a newcomer.
+    // Ports that already have a row go first, so that none of them loses it to a newcomer.
     std::vector<MidiPortId> newcomers;
     for (const MidiPortId& id : present) {
         if (PortRow* row = find(id))

@@ -9,25 +9,25 @@
 
 namespace Host {
 
-// Looks again and again at something that may hang, such as the ports of the system, on a thread of its own.
+// Repeatedly looks at something that may hang, such as the ports of the system, on a thread of its own.
 class PortWatcher {
 public:
     static constexpr std::chrono::milliseconds INTERVAL{1000};
     static constexpr std::chrono::milliseconds STOP_LIMIT{1000};
 
-    // Calls look() an interval after the last time, for the first time one interval from now. A look that may
-    // hang owns all that it touches afterwards.
+    // Calls look() an interval after the last time, and for the first time one interval from now. A look that may hang
+    // must own everything it touches afterwards.
     explicit PortWatcher(std::function<void()> look, std::chrono::milliseconds interval = INTERVAL);
 
-    // As stop.
+    // Does what stop does.
     ~PortWatcher();
     PortWatcher(const PortWatcher&) = delete;
     PortWatcher& operator=(const PortWatcher&) = delete;
 
-    // [any] Has it look at once.
+    // [any] Makes it look at once.
     void wake();
 
-    // [one thread at a time] Ends the watch. A look that hangs is left behind after a while; false then.
+    // [one thread at a time] Ends the watch. A look that hangs is abandoned after the limit; returns false then.
     bool stop(std::chrono::milliseconds limit = STOP_LIMIT);
 
 private:

@@ -13,7 +13,7 @@ namespace Host {
 namespace {
 
 constexpr int DEFAULT_TEMPO = 120;
-constexpr int LOWEST_TEMPO = 4;  // The slowest that a file can tell.
+constexpr int LOWEST_TEMPO = 4;  // The slowest that a file can express.
 constexpr int HIGHEST_TEMPO = 1000;
 constexpr std::size_t MAX_TEMPI = 4096;
 constexpr std::int64_t MICROSECONDS_PER_MINUTE = 60000000;
@@ -40,7 +40,7 @@ bool isChannelEvent(const OutputEvent& event) {
 
 }
 
-// Turns moments into ppq, tempo by tempo, while a file is made.
+// Turns moments into ppq, tempo by tempo, while a file is built.
 class Recorder::Writing {
 public:
     Writing(std::int64_t start, std::deque<Tempo> tempi) : m_tempi(std::move(tempi)), m_since(start), m_end(start) {
@@ -53,7 +53,7 @@ public:
     }
 
     void add(const OutputEvent& event) {
-        // What was played on two threads may come a little out of order.
+        // What was played on two threads may arrive slightly out of order.
         m_end = std::max(m_end, event.microseconds);
         while (!m_tempi.empty() && m_tempi.front().microseconds <= m_end) {
             m_ppq = ppqAt(m_tempi.front().microseconds);
@@ -101,10 +101,10 @@ private:
     }
 
     MidiFileWriter m_writer;
-    std::deque<Tempo> m_tempi;  // Those to come.
+    std::deque<Tempo> m_tempi;  // Those still to come.
     bool m_isFirst = true;
     int m_tempo = DEFAULT_TEMPO;
-    std::int64_t m_since;  // Of the present tempo, which began at m_ppq.
+    std::int64_t m_since;  // Start of the current tempo, which began at m_ppq.
     std::int64_t m_end;
     double m_ppq = 0;
     std::array<std::array<unsigned, 128>, 16> m_sounding{};
@@ -122,7 +122,7 @@ void Recorder::setTempo(int beatsPerMinute, std::int64_t microseconds) {
         return;
     const std::lock_guard lock(m_mutex);
     m_tempi.push_back({microseconds, beatsPerMinute});
-    // Those from before the first event count no longer, but for the last of them.
+    // Tempi from before the first event no longer count, except for the last of them.
     while (m_tempi.size() > 1 &&
            (m_tempi.size() > MAX_TEMPI || m_events.empty() || m_tempi[1].microseconds <= m_events.front().microseconds))
         m_tempi.pop_front();

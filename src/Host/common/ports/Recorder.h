@@ -13,8 +13,8 @@
 
 namespace Host {
 
-// The output that every desk has: it keeps what was played in memory, the newest events up to a limit, and makes a
-// standard MIDI file of it.
+// The output that every desk has: it keeps the newest events played, up to a limit, in memory and turns them into a
+// standard MIDI file.
 class Recorder {
 public:
     static constexpr const char* NAME = "Recorder";
@@ -23,10 +23,10 @@ public:
 
     explicit Recorder(std::size_t limit = DEFAULT_LIMIT) : m_limit(limit) {}
 
-    // [any] Keeps an event; the oldest one makes room.
+    // [any] Keeps an event; when full, drops the oldest.
     void record(const OutputEvent& event);
 
-    // [any] From this moment of the monotonic clock on, the desk's tempo is this one. A tempo out of range is ignored.
+    // [any] Sets the desk's tempo from this moment of the monotonic clock on. A tempo out of range is ignored.
     void setTempo(int beatsPerMinute, std::int64_t microseconds);
 
     // [any] How many events there are.
@@ -35,11 +35,11 @@ public:
     // [any] Forgets them.
     void clear();
 
-    // [any] The file: one track that begins with its first event, in real time under the tempi of the desk. Nothing but
-    // channel events stand in it. Notes that the limit has robbed of their beginnings are left out.
+    // [any] The file: one track that begins with its first event, in real time under the desk's tempi. It holds channel
+    // events only, without notes whose beginnings the limit has dropped.
     std::optional<std::string> content() const;
 
-    // [any] Writes it. False if that failed.
+    // [any] Writes the file. False if that failed.
     bool write(const std::string& path) const;
 
 private:
@@ -52,7 +52,7 @@ private:
     const std::size_t m_limit;
     mutable std::mutex m_mutex;
     std::deque<OutputEvent> m_events;
-    std::deque<Tempo> m_tempi;  // The first one counts also before its time.
+    std::deque<Tempo> m_tempi;  // The first one also applies before its time.
 };
 
 // [any] The port through which a line feeds the recorder.

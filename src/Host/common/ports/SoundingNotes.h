@@ -9,21 +9,21 @@
 
 namespace Host {
 
-// What sounds on one output after all that was sent to it. For one thread at a time.
+// What sounds on one output after everything sent to it. For one thread at a time.
 class SoundingNotes {
 public:
-    // [any] An event that went out.
+    // [any] Records an event that was sent.
     void sent(const OutputEvent& event);
 
-    // [any] Gives what ends all that sounds, a note-off for each note and a release for each pedal that is down, and
-    // knows of nothing sounding afterwards.
+    // [any] Passes on what ends everything that sounds, a note-off for each note and a release for each pedal that is
+    // down, and then considers everything silent.
     void end(std::int64_t microseconds, const std::function<void(const OutputEvent&)>& ending);
 
 private:
     static constexpr std::size_t CHANNELS = 16;
     static constexpr std::size_t NOTES = 128;
 
-    // How often a note was started more than ended: a port may stack equal notes.
+    // How many more times a note was started than ended, since a port may stack equal notes.
     std::array<std::array<std::uint8_t, NOTES>, CHANNELS> m_notes{};
     std::array<bool, CHANNELS> m_pedalIsDown{};
 };

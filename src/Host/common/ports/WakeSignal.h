@@ -7,7 +7,7 @@
 
 namespace Host {
 
-// Wakes the one thread that waits for work. Telling it of work while it is at work costs no system call.
+// Wakes the one thread that waits for work. Notifying it while it is at work costs no system call.
 class WakeSignal {
 public:
     // [any, rt] There is something to do.
@@ -17,10 +17,10 @@ public:
             Platform::wakeOne(m_count);
     }
 
-    // [the waiter] To be read before looking for work, and handed to wait() if there was none.
+    // [the waiter] Read this before looking for work, and hand it to wait() if there was none.
     std::uint32_t now() const { return m_count.load(); }
 
-    // [the waiter] Sleeps unless notify() was called since that now(). May return for no reason.
+    // [the waiter] Sleeps unless notify() was called since that now(). May return spuriously.
     void wait(std::uint32_t seen) {
         m_isAsleep.store(true);
         if (m_count.load() == seen)

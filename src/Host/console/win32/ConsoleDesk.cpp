@@ -50,7 +50,7 @@ bool ConsoleDesk::start(const SingleInstance& instance, int showCommand) {
     m_gui->initialize();
     m_frame->setGui(m_gui.get());
     m_frame->show(showCommand);
-    // Before what may open a box: another start shall not wait for its answer.
+    // Comes before anything that may open a box, so that another start doesn't wait for the user's answer.
     instance.announce(m_frame->getWindowHandle());
     loadFirstPrograms();
     return true;
@@ -61,7 +61,7 @@ void ConsoleDesk::run() {
     while (GetMessageA(&message, nullptr, 0, 0) > 0) {
         TranslateMessage(&message);
         DispatchMessageA(&message);
-        // What the desk hears about its program it doesn't tell its host.
+        // The desk does not report changes of its program to its host.
         if (m_frame)
             m_frame->refreshTitle();
     }
@@ -91,12 +91,12 @@ void ConsoleDesk::closeRequested() {
     PostQuitMessage(0);
 }
 
-// The system may end the program as soon as this returns, and waits for no box. An installer waits for the end.
+// The system may end the program as soon as this returns, without waiting for a box. An installer waits for the end.
 void ConsoleDesk::sessionEnds() {
     m_isClosing = true;
     m_hasSessionEnded = true;
     if (m_isRemovingWindow)
-        return;  // It comes while the window waits for the desk; what follows there ends the desk.
+        return;  // This comes while the window waits for the desk; what follows there ends the desk.
     if (m_gui)
         m_gui->destroy();
     endDesk();
@@ -104,7 +104,7 @@ void ConsoleDesk::sessionEnds() {
 }
 
 void ConsoleDesk::openRequested(const OpenRequest& request) {
-    // What comes while a request waits for its bank must not change the bank before that goes on.
+    // Requests that arrive while one waits for its bank must not change the bank before it goes on.
     m_requests.push_back(request);
     while (!m_isAwaitingBank && !m_requests.empty()) {
         const OpenRequest next = m_requests.front();
@@ -113,7 +113,7 @@ void ConsoleDesk::openRequested(const OpenRequest& request) {
     }
 }
 
-// The desk may be closed while a box waits for its answer.
+// The desk may be closed while a box waits for an answer.
 void ConsoleDesk::open(const OpenRequest& request) {
     if (!m_isClosing && !request.bank.empty())
         openBank(request.bank);
@@ -132,7 +132,7 @@ void ConsoleDesk::timePassed() {
     closeRequested();
 }
 
-// In a box over the frame, never over the window of another program that the user works in at the moment.
+// Shows a box over the frame, never over the window of another program that the user is working in.
 void ConsoleDesk::tell(const std::string& text) const {
     const HWND frame = m_frame ? m_frame->getWindowHandle() : nullptr;
     MessageBoxA(IsIconic(frame) ? nullptr : frame, text.c_str(), MIREL_PRODUCT, MB_OK);
@@ -156,7 +156,7 @@ void ConsoleDesk::loadFirstPrograms() {
     const std::string& defaultBank = m_desk.mirel().getRegistrySettings().getDefaultBank();
     if (m_line.bank.empty() && !defaultBank.empty()) {
         manager().postLoadBank(defaultBank);
-        // It was there once, so that a box at each start would be too much.
+        // The bank existed once, so a box at each start would be too much.
         if (!Platform::Files::size(defaultBank))
             m_desk.mirel().displayString(defaultBank + ": can't be read.\r\n");
     }
@@ -175,7 +175,7 @@ void ConsoleDesk::openBank(const std::string& path) {
     if (!Platform::Files::size(path))
         tell(path + ": can't be read.");
     else if (Backend::BankFile::readProgramNames(path).empty())
-        tell(path + ": holds no programs that can be read.");  // The bank that there is stays.
+        tell(path + ": holds no readable programs.");  // The bank that there is stays.
     else
         manager().postLoadBank(withLowerCaseExtension(path));
 }
@@ -185,7 +185,7 @@ void ConsoleDesk::openProgram(const std::string& wanted) {
         if (!Platform::Files::size(wanted))
             tell(wanted + ": can't be read.");
         else if (Backend::BankFile::readProgramNames(wanted).empty())
-            tell(wanted + ": holds no program that can be read.");
+            tell(wanted + ": holds no readable program.");
         else
             manager().postLoadProgram(withLowerCaseExtension(wanted));
         return;
@@ -200,7 +200,7 @@ void ConsoleDesk::openProgram(const std::string& wanted) {
         tell("The bank has no program \"" + wanted + "\".");
 }
 
-// The desk may wait for its log, and that for this thread's windows.
+// The desk may wait for its log, and the log for this thread's windows.
 void ConsoleDesk::waitForBank() {
     m_isAwaitingBank = true;
     while (!m_isClosing && !m_desk.mirel().getMessageManagerMaster().isIdle())

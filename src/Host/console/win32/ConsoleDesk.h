@@ -21,7 +21,7 @@ class SingleInstance;
 // The whole program: a desk on the computer's ports, its window and the frame around it. [main]
 class ConsoleDesk : private FrameWindow::Listener {
 public:
-    // The data folder must be in use already.
+    // The data folder must already be reserved for this process.
     ConsoleDesk(std::shared_ptr<MidiSystem> system, const CommandLine& line);
     ~ConsoleDesk();
     ConsoleDesk(const ConsoleDesk&) = delete;
@@ -30,11 +30,11 @@ public:
     // Starts the desk and shows it. False if this build has no window.
     bool start(const SingleInstance& instance, int showCommand);
 
-    // Runs until the user closes the window, or it is closed otherwise.
+    // Runs until the window is closed, by the user or otherwise.
     void run();
 
-    // Takes the window away, ends all that sounds and keeps the settings and the recording. False if the recording
-    // is not where it should be, of which the user is told, unless the session ends.
+    // Closes the window, ends all sounding notes, and keeps the settings and the recording. False if the recording
+    // could not be written where it belongs; the user is informed, unless the session is ending.
     bool stop();
 
 private:
@@ -62,7 +62,7 @@ private:
     std::unique_ptr<FrameWindow> m_frame;
     std::unique_ptr<Gui::MirelGuiIF> m_gui;
     bool m_isStopped = true;
-    std::optional<std::string> m_recording;  // Where it lies, once the desk has ended.
+    std::optional<std::string> m_recording;  // Where it was written, once the desk has ended.
     bool m_isClosing = false;
     bool m_hasSessionEnded = false;
     bool m_isRemovingWindow = false;

@@ -25,7 +25,7 @@ void FrameBorder::paint(HDC dc, const FrameLayout& layout, const FrameLook& look
         return;
     BITMAPINFO info{};
     info.bmiHeader = {sizeof info.bmiHeader, m_picture.width, -m_picture.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    // All is put together off the screen, so that nothing flickers.
+    // Everything is composed off the screen, so that nothing flickers.
     void* bits = nullptr;
     const HDC memory = CreateCompatibleDC(dc);
     const HBITMAP bitmap = CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0);

@@ -1,4 +1,4 @@
-// What a desk's window does for the desk. The metallic border's messages are in FrameWindowBorder.cpp.
+// What a desk's window does for the desk. FrameWindowBorder.cpp handles the metallic border's messages.
 #include "Host/console/win32/FrameWindow.h"
 
 #include "Backend/core/installation/Product.h"
@@ -59,7 +59,7 @@ FrameWindow::FrameWindow(Listener& listener, const Options& options)
     SetWindowLongPtrA(m_window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&windowProcedure));
     SendMessageA(m_window, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(m_icon));
     SendMessageA(m_window, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(m_smallIcon));
-    // The desk alone decides about its size.
+    // The desk alone decides its size.
     const HMENU menu = GetSystemMenu(m_window, FALSE);
     DeleteMenu(menu, SC_SIZE, MF_BYCOMMAND);
     DeleteMenu(menu, SC_MAXIMIZE, MF_BYCOMMAND);
@@ -88,18 +88,18 @@ void FrameWindow::show(int command) {
         place(m_options.dockToBottomEdge ? dockFrame(middle, workArea()) : middle);
     }
     refreshTitle();
-    // The desk has the size of its screens, whatever a shortcut says.
+    // The desk has the size of its screens, whatever a shortcut requests.
     ShowWindow(m_window, command == SW_SHOWMAXIMIZED ? SW_SHOWNORMAL : command);
     if (IsZoomed(m_window))
         ShowWindow(m_window, SW_RESTORE);
 }
 
-// What the desk has posted while it was made.
+// Handles what the desk posted while it was being created.
 void FrameWindow::takeWaitingWishes() {
     std::optional<int> exitCode;
     MSG message;
     while (PeekMessageA(&message, m_window, Gui::UM_SIZE_CHANGED, Gui::UM_MOVE_WINDOW, PM_REMOVE)) {
-        if (message.message == WM_QUIT)  // It comes through any filter.
+        if (message.message == WM_QUIT)  // It passes any filter.
             exitCode = static_cast<int>(message.wParam);
         else
             DispatchMessageA(&message);
@@ -165,12 +165,13 @@ void FrameWindow::paintBackground(HDC dc) const {
     FillRect(dc, &client, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
 }
 
-// What another start of the program asks for. A desk that is closing leaves it to that one, which starts itself then.
+// Handles a request from another start of the program. A desk that is closing leaves it to that one, which then starts
+// itself.
 bool FrameWindow::takeRequest(const COPYDATASTRUCT& data) {
     OpenRequest request;
     if (!m_listener.canOpen() || !SingleInstance::read(data, request))
         return false;
-    // Who sent it waits; a message box that this may open must not keep it.
+    // The sender waits, and must not be kept waiting by a message box that this may open.
     ReplyMessage(TRUE);
     comeToFront();
     m_listener.openRequested(request);
@@ -219,7 +220,7 @@ void FrameWindow::setDeskSize(int width, int height) {
     place(rect);
 }
 
-// The desk stays where it is on the screen, the border changes around it; the lower edge of a docked one stays.
+// The desk stays where it is on the screen while the border changes around it; a docked one keeps its lower edge.
 void FrameWindow::setSkinBorder(bool useSkinBorder) {
     if (useSkinBorder == m_options.useSkinBorder)
         return;
@@ -250,7 +251,7 @@ void FrameWindow::setAlwaysOnTop(bool alwaysOnTop) {
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
-// From here on the desk itself keeps the lower edge in its place.
+// From here on the desk itself keeps the lower edge in place.
 void FrameWindow::setDock(bool dock) {
     const bool wasDocked = std::exchange(m_options.dockToBottomEdge, dock);
     if (dock && !wasDocked)
@@ -269,7 +270,7 @@ Rect FrameWindow::workArea() const {
     return Gui::fromWindows(Gui::monitorNear(position()).rcWork);
 }
 
-// A screen that goes must not take the desk along.
+// When a screen disappears, the desk must remain reachable.
 void FrameWindow::comeIntoReach() {
     const RECT rect = Gui::toWindows(position());
     if (!MonitorFromRect(&rect, MONITOR_DEFAULTTONULL))

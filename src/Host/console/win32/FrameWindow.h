@@ -16,19 +16,19 @@ class MirelGuiIF;
 
 namespace Host::Console {
 
-// The window around the desk: it follows the desk's size and its wishes, wears the metallic border or the system's own,
-// and gives the keyboard on. [gui]
+// The window around the desk: it follows the desk's size and its requests, has the metallic border or the system's own,
+// and passes on the keyboard focus. [gui]
 class FrameWindow {
 public:
-    // What the user asks for at the frame.
+    // What the user requests from the frame.
     class Listener {
     public:
         virtual void closeRequested() = 0;
 
-        // The user's session ends.
+        // The user's session is ending.
         virtual void sessionEnds() = 0;
 
-        // Whether what is asked for can still be opened; false from the first of the two calls above on.
+        // Whether requests to open files can still be carried out; false once one of the two calls above was made.
         virtual bool canOpen() const = 0;
         virtual void openRequested(const OpenRequest& request) = 0;
 
@@ -46,7 +46,7 @@ public:
         bool globalKeyboard = false;
     };
 
-    // A hidden window at the top left of the screen, with a desk of no size.
+    // A hidden window at the top left of the screen, around a desk of no size.
     FrameWindow(Listener& listener, const Options& options);
     ~FrameWindow();
     FrameWindow(const FrameWindow&) = delete;
@@ -54,16 +54,16 @@ public:
 
     HWND getWindowHandle() const { return m_window; }
 
-    // The desk inside, or null once it is gone.
+    // The desk inside; null once it is gone.
     void setGui(Gui::MirelGuiIF* gui);
 
-    // Shows the window where the desk asked for, if it has, and else in the middle of the screen.
+    // Shows the window where the desk asked for, or otherwise in the middle of the screen.
     void show(int command);
 
-    // Comes in front of all other programs, also out of the task bar.
+    // Comes in front of all other programs, also when minimised.
     void comeToFront();
 
-    // Makes the title that of the desk's bank and program.
+    // Updates the title to the desk's bank and program.
     void refreshTitle();
 
     bool hasSkinBorder() const { return m_options.useSkinBorder; }
@@ -111,7 +111,7 @@ private:
     FrameLook m_look;
     SIZE m_deskSize{};
     std::string m_title;
-    bool m_wasPlaced = false;  // The desk has said where it wants to be, and not only by how much it grew.
+    bool m_wasPlaced = false;  // The desk has requested a position, not merely grown.
 };
 
 }

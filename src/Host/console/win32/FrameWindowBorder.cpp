@@ -47,13 +47,13 @@ bool FrameWindow::handleBorderMessage(UINT message, WPARAM wParam, LPARAM lParam
     }
 }
 
-// The rectangle is the window's, or the first of those that are; it becomes the desk's.
+// The first (or only) rectangle is the window's; it becomes the desk's.
 void FrameWindow::makeRoomForBorder(RECT& rect) {
     const Rect desk = FrameLayout(rect.right - rect.left, rect.bottom - rect.top).desk();
     rect = {rect.left + desk.left, rect.top + desk.top, rect.left + desk.right, rect.top + desk.bottom};
 }
 
-// The two buttons light up under the mouse, and act when they are let go where they were pressed.
+// The two buttons light up under the mouse, and act when released where they were pressed.
 bool FrameWindow::handleBorderButtons(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_NCMOUSEMOVE: hoverBorder(partAtScreenPoint(lParam)); return false;

@@ -1,4 +1,4 @@
-// The ids of the program's own resources. Also read by the resource compiler, so it holds nothing but definitions.
+// The ids of the program's own resources. The resource compiler reads this too, so it holds only definitions.
 #pragma once
 
 #define IDI_MIREL_CONSOLE 1

@@ -8,10 +8,10 @@ namespace Host::Console {
 
 namespace {
 
-constexpr ULONG_PTR OPEN_REQUEST = 0x4d495245;  // Ours among all that windows send to one another.
+constexpr ULONG_PTR OPEN_REQUEST = 0x4d495245;  // Distinguishes ours among all that windows send to one another.
 constexpr UINT ANSWER_LIMIT = 5000;             // In milliseconds.
 
-// Full, without a separator at the end, in lower case: file names know no case here.
+// A full path in lower case without a trailing separator: Windows ignores the case of file names.
 std::wstring normalise(const std::string& folder) {
     const auto path = Platform::systemPath(folder);
     const std::wstring given = path ? path->wstring() : std::wstring();
@@ -49,7 +49,7 @@ SingleInstance::Result SingleInstance::enter(const OpenRequest& request, std::ch
     const std::string text = request.toText();
     const auto end = std::chrono::steady_clock::now() + limit;
     do {
-        // A process that died with the mutex leaves it to the next one.
+        // If a process dies holding the mutex, the next one gets it.
         const DWORD wait = WaitForSingleObject(m_mutex, STEP);
         if (wait == WAIT_OBJECT_0 || wait == WAIT_ABANDONED) {
             m_isOwner = true;

@@ -9,10 +9,10 @@
 
 namespace Host::Console {
 
-// One running desk for each data folder. A second one hands over what it was asked to open, and ends. [main]
+// One running desk per data folder. A second one hands over what it was asked to open, then ends. [main]
 class SingleInstance {
 public:
-    // A desk that starts or ends holds the others up for this long.
+    // A desk that is starting or ending holds up the others for at most this long.
     static constexpr std::chrono::milliseconds WAIT_LIMIT{15000};
 
     enum class Result { FIRST, HANDED_OVER, FAILED };
@@ -22,17 +22,17 @@ public:
     SingleInstance(const SingleInstance&) = delete;
     SingleInstance& operator=(const SingleInstance&) = delete;
 
-    // Whether this process is to be the desk of the folder. If not, the other one has the request and comes to the
-    // front; failed: the other one doesn't answer.
+    // Whether this process becomes the folder's desk. If not, the other one has the request and comes to the front;
+    // failed: the other one doesn't answer.
     Result enter(const OpenRequest& request, std::chrono::milliseconds limit = WAIT_LIMIT);
 
-    // Makes a window the one that others find.
+    // Makes this the window that others find.
     void announce(HWND window) const;
 
-    // What a window got in a WM_COPYDATA; false if that is none of ours.
+    // Reads a WM_COPYDATA that a window received; false if it is not ours.
     static bool read(const COPYDATASTRUCT& data, OpenRequest& request);
 
-    // The folder's name for the system, the same however the folder is written.
+    // The folder's name for system objects, the same however the path is written.
     static std::string keyOf(const std::string& dataFolder);
 
 private:

@@ -26,7 +26,7 @@ constexpr const char* PORT_NAME = "Mirel";
 constexpr int DONE = 0;
 constexpr int FAILED = 1;
 
-// To who started the program: a file or a terminal if there is one, else a box.
+// Writes to a file or terminal if the program was started from one, otherwise shows a box.
 void tell(DWORD stream, const std::string& text) {
     HANDLE file = GetStdHandle(stream);
     if ((!file || file == INVALID_HANDLE_VALUE) && AttachConsole(ATTACH_PARENT_PROCESS))
@@ -43,7 +43,7 @@ int fail(const std::string& error) {
     return FAILED;
 }
 
-// What the other desk can understand, wherever it was started.
+// Makes a path that the other desk understands, wherever it was started.
 std::string makeFull(const std::string& path) {
     std::string full(GetFullPathNameA(path.c_str(), 0, nullptr, nullptr), '\0');
     full.resize(GetFullPathNameA(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
@@ -62,15 +62,15 @@ OpenRequest makeRequest(const CommandLine& line) {
 int runDesk(const CommandLine& line, int showCommand) {
     if (!line.dataFolder.empty()) {
         if (!Platform::Files::createFolders(line.dataFolder))
-            return fail(line.dataFolder + ": is no folder and can't be made one");
+            return fail(line.dataFolder + ": is not a folder and can't be created");
         Backend::MirelUtils::useDataFolder(line.dataFolder);
     }
     SingleInstance instance(Backend::MirelUtils::getMirelAppDataDir());
     switch (instance.enter(makeRequest(line))) {
         case SingleInstance::Result::HANDED_OVER:
             return line.recordFile.empty() ? DONE
-                                           : fail("a desk runs with these data already, so --record does nothing");
-        case SingleInstance::Result::FAILED: return fail("a desk runs with these data already, and does not answer");
+                                           : fail("a desk is already running on this data, so --record has no effect");
+        case SingleInstance::Result::FAILED: return fail("a desk is already running on this data and doesn't respond");
         case SingleInstance::Result::FIRST: break;
     }
     if (!line.recordFile.empty() && !Host::canRecordTo(line.recordFile))
@@ -89,7 +89,7 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int showCommand) {
     const std::vector<std::string> arguments(__argv + (__argc > 0 ? 1 : 0), __argv + __argc);
     const auto line = CommandLine::parse(arguments, error);
     if (!line)
-        return fail(error + "; MirelConsole --help tells more");
+        return fail(error + "; see MirelConsole --help");
     switch (line->action) {
         case CommandLine::Action::SHOW_HELP: tell(STD_OUTPUT_HANDLE, CommandLine::USAGE); return DONE;
         case CommandLine::Action::SHOW_VERSION:

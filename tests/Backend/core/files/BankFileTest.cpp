@@ -29,7 +29,7 @@ std::vector<std::string> numbers(int count) {
     return names;
 }
 
-// As the system's own files have them.
+// With the line ends of the system's own files.
 std::string native(const std::string& text) {
     return Platform::Files::withSystemLineEnds(text);
 }
@@ -83,7 +83,7 @@ TEST(BankFileTest, AnIndexBeyondTheLastProgramPutsTheBlockBehindEverything) {
     EXPECT_EQ(replaceProgram("", 0, block("c")), native(block("c")));
 }
 
-// The tags are found by lines, so what shares one with them goes or stays with them.
+// The tags are found line by line, so whatever shares a line with them goes or stays with them.
 TEST(BankFileTest, TwoTagsOnOneLineCountAsOne) {
     const std::string bank =
         "<Bank>\n<Program name=\"a\">\n</Program><Program name=\"b\">\n</Program>\n<Program name=\"c\">\n</Program>\n"
@@ -157,7 +157,7 @@ TEST(BankFileTest, NamesAreThoseOfTheRootsChildrenInTheirOrder) {
     EXPECT_EQ(readProgramNames(path), (std::vector<std::string>{"b", "", "<\n&"}));
 }
 
-TEST(BankFileTest, AFileThatIsNoXmlHasNoNames) {
+TEST(BankFileTest, AFileThatIsNotXmlHasNoNames) {
     const TestSupport::TemporaryFolder folder;
     for (const std::string& text :
          {std::string(), std::string("<Bank><Program name='a'/>"), std::string("\x7f\x45LF\0\0\1", 7),

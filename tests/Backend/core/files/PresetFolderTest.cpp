@@ -23,7 +23,7 @@ protected:
         m_presets.save(name, [&text](std::ostream& stream) { stream << text; });
     }
 
-    // "-" behind those that are not merged.
+    // "-" follows those that are not merged.
     std::vector<std::string> names() {
         std::vector<std::string> result;
         for (const auto& preset : m_presets.getPresets())
@@ -35,7 +35,7 @@ protected:
         return Files::read(m_desk.dataFile("Some Presets", name + ".pst")).value_or("none");
     }
 
-    FileDesk m_desk;  // For its folder alone.
+    FileDesk m_desk;  // Only its folder is used.
     PresetFolder m_presets{"Some Presets"};
 };
 
@@ -129,7 +129,7 @@ TEST_F(PresetFolderTest, DeletingTakesFileAndEntry) {
     EXPECT_TRUE(names().empty());
 }
 
-TEST_F(PresetFolderTest, ANameThatLeadsElsewhereIsNoPresets) {
+TEST_F(PresetFolderTest, ANameThatLeadsElsewhereIsNotAPresets) {
     save("a");
     ASSERT_TRUE(Files::replace(m_desk.dataFile("", "outside.pst"), "<A/>"));
     for (const std::string name : {"../outside", "..\\outside", "/tmp/mirel-outside", "c:outside", "", "a\nb", "a\"b",
@@ -351,7 +351,7 @@ TEST_F(PresetsTest, AHugeOrDeepPresetEndsInNothing) {
     EXPECT_EQ(layers(), "<Layers merge=\"false\">\n</Layers>\n");
 }
 
-TEST_F(PresetsTest, LayersBeyondAllSenseAreLeftOut) {
+TEST_F(PresetsTest, AbsurdlyManyLayersAreLeftOut) {
     std::string xml = "<Layers>";
     for (int i = 0; i < 70000; ++i)
         xml += "<Layer/>";

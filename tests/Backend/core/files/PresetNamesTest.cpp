@@ -13,7 +13,7 @@ namespace {
 
 using Told = std::vector<std::string>;
 
-// Saves, renames and deletes presets, and checks what the window is told each time.
+// Saves, renames and deletes presets, and checks the notifications to the window each time.
 template <class Manager>
 void expectNames(TestSupport::RunningDesk& desk, Manager& (Mirel::*manager)(), const std::string& number) {
     const auto told = [&](const auto& change) {

@@ -14,7 +14,7 @@ namespace {
 
 namespace Files = Platform::Files;
 
-// A folder for data of the test's own, instead of the user's.
+// Uses the test's own data folder instead of the user's.
 class InstallationTest : public testing::Test {
 protected:
     InstallationTest() { MirelUtils::useDataFolder(m_folder.file("data")); }

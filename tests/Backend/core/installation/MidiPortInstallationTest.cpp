@@ -1,4 +1,4 @@
-// The driver's entries, with keys of the test's own in place of the system's.
+// The driver's entries, with the test's own keys in place of the system's.
 #include "Backend/core/installation/InstallerEntryPoints.h"
 #include "Backend/core/installation/MirelUtils.h"
 #include "Platform/MachineRegistry.h"
@@ -109,7 +109,7 @@ TEST_F(MidiPortInstallationTest, KeyThatDoesNotOpenEndsIt) {
     }
 }
 
-TEST_F(MidiPortInstallationTest, ValuesThatAreNotWrittenAreToldOneByOne) {
+TEST_F(MidiPortInstallationTest, ValuesThatAreNotWrittenAreReportedOneByOne) {
     m_writeError = 5;
     EXPECT_EQ(commitPort(), 0);
     EXPECT_EQ(m_messages,

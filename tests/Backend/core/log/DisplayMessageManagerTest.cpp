@@ -82,7 +82,7 @@ TEST(DisplayLogTest, ALogIsFullAt30000Bytes) {
     EXPECT_EQ(log.getText().size(), 14999u + 1);
 }
 
-// What was cut off reaches the listener by the next whole text only.
+// What was cut off reaches the listener only with the next whole text.
 TEST(DisplayLogTest, AfterACutOnlyTheNewTextIsAppended) {
     DisplayLog log;
     Shown shown;
@@ -149,7 +149,7 @@ TEST(EventLineTest, EachStatusHasItsForm) {
             << line.status;
 }
 
-TEST(EventLineTest, WhatIsNoEventIsADash) {
+TEST(EventLineTest, AnythingButAnEventIsADash) {
     for (const unsigned status : {0xf1u, 0xf4u, 0xf9u, 0xfdu, 0x00u, 0x10u, 0x7fu, 0x100u, 0x190u, 0xffffffffu}) {
         MirelMidiMessage message;
         message.setStatus(static_cast<MidiMessage::MessageType>(status));
@@ -268,7 +268,7 @@ TEST_F(DisplayMessageManagerTest, TextOfAHiddenLogComesWithTheFirstFlush) {
     EXPECT_EQ(shown.calls.at(2), "append three");
 }
 
-// The numbers are those of the table; each request is carried out by its number alone.
+// The numbers are those of the table; each request is executed by its number alone.
 TEST_F(DisplayMessageManagerTest, RequestsHaveTheirNumbers) {
     Shown shown;
     const auto request = [this](UINT number, WPARAM w, LPARAM l) {
@@ -305,14 +305,14 @@ TEST_F(DisplayMessageManagerTest, RequestsHaveTheirNumbers) {
               (Strings{"append text ", "append " + first, "set text " + first + "Out\t\tTiming Tick\r\n"}));
 }
 
-// The address sanitizer sees what is not destroyed.
+// The address sanitizer finds what is not destroyed.
 TEST_F(DisplayMessageManagerTest, WhatComesAfterTheStopIsDisposedOf) {
     class Late : public DisplayListener {
     public:
         explicit Late(DisplayMessageManager& display) : m_display(display) {}
         void append(const char*) override {}
 
-        // On the display's thread: of what is posted here much comes after the request to stop.
+        // On the display's thread: much of what is posted here comes after the request to stop.
         void setText(const char*) override {
             m_entered.set();
             m_stopped.wait();

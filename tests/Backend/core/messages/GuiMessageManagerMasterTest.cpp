@@ -35,7 +35,7 @@ public:
     std::vector<Received> m_received;
 };
 
-// Does with a message what the main window does.
+// Treats a message as the main window does.
 class Window : public Platform::WindowSink {
 public:
     explicit Window(GuiMessageManagerMaster& master) : m_master(master) {}
@@ -93,7 +93,7 @@ TEST(GuiMessageManagerMasterTest, PostToNoWindowIsNotRetried) {
     EXPECT_FALSE(master.postMessage(nullptr, 33218, 0, 0));
 }
 
-TEST(GuiMessageManagerMasterTest, ManagerThreadIsTheOneThatWasTold) {
+TEST(GuiMessageManagerMasterTest, ManagerThreadIsTheOneThatWasSet) {
     GuiMessageManagerMaster master;
     EXPECT_FALSE(master.currentThreadIsManagerThread());
     master.setThreadId(Platform::currentThreadId());

@@ -19,7 +19,7 @@ namespace {
 constexpr unsigned int FIRST = 33218;
 constexpr unsigned int LAST = 33273;
 
-// Wants a range and keeps what it got.
+// Wants a range and records what it got.
 class RecordingManager : public MessageManager {
 public:
     RecordingManager(MessageManagerMaster& master, unsigned int first, unsigned int last)
@@ -236,7 +236,7 @@ TEST(MessageManagerMasterTest, MessagesBehindTheQuitMessageAreDisposedOfByTheirM
     EXPECT_EQ(second.m_disposed, (Numbers{33220}));
 }
 
-// A manager whose messages bring strings.
+// A manager whose messages carry strings.
 class StringManager : public MessageManager {
 public:
     using MessageManager::MessageManager;

@@ -10,7 +10,7 @@
 namespace Backend {
 namespace {
 
-// A store in memory that can be looked into: "number 5", "text abc", "bytes 00ff".
+// A store in memory whose values can be read as text: "number 5", "text abc", "bytes 00ff".
 class MemoryStore : public Platform::SettingsStore {
 public:
     using Values = std::map<std::string, std::string>;

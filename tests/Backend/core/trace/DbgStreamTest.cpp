@@ -22,7 +22,7 @@ TEST(DbgStreamTest, FlushPassesTheTextOnAndEmptiesTheBuffer) {
     EXPECT_EQ(stream.buffer().str(), "");
 }
 
-TEST(DbgStreamTest, DisabledBufferThrowsItsTextAway) {
+TEST(DbgStreamTest, DisabledBufferDiscardsItsText) {
     const CapturedDebugText debug;
     DbgStream stream;
     EXPECT_TRUE(stream.buffer().isEnabled());

@@ -86,7 +86,7 @@ TEST(TraceTest, LinesGoToTheFileTooWhenAsked) {
     const CapturedDebugText debug;
     Trace trace;
     trace.setEnabled(true);
-    // A place of its own, as the file is everybody's.
+    // A unique place, because all tests share the file.
     const std::string place = "unique-" + std::to_string(reinterpret_cast<std::uintptr_t>(&trace)) + "-" +
                               std::to_string(Platform::currentThreadId());
 

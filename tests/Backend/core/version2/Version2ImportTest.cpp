@@ -17,7 +17,7 @@ namespace Files = Platform::Files;
 
 const std::string HEADER = "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n\n";
 
-// What a layer has that says nothing.
+// What an empty layer line becomes.
 const std::string DEFAULT_LAYER =
     "<Layer mute=\"false\" mono=\"false\" toggle=\"off\" useNoteStack=\"true\" "
     "minNote=\"C-1\" maxNote=\"G9\" minVelocity=\"0\" maxVelocity=\"127\" zone=\"-1\" "
@@ -35,7 +35,7 @@ std::string program(const std::string& name, const std::string& inside = "") {
 
 class Version2ImportTest : public testing::Test {
 protected:
-    // Each gives what was written.
+    // Each returns what was written.
     std::string importBank(const std::string& text) {
         m_desk.write("old.bnk", text);
         m_desk.run([this](Mirel& mirel) {
@@ -59,7 +59,7 @@ protected:
         return withoutReturns(Files::read(m_desk.dataFile(folder, name + ".pst")).value_or("none"));
     }
 
-    // The element of a program of one section: what stands between its tags.
+    // The element of a program of one section: the text between its tags.
     std::string section(const std::string& lines, const std::string& tag) {
         const std::string text = importProgram("P 1 n\n" + lines);
         const std::string start = "\t<" + tag + " merge=\"false\">\n";
@@ -203,7 +203,7 @@ TEST_F(Version2ImportTest, TheKeysOfASectionStandOnTheDefaultPreset) {
 
     EXPECT_EQ(section("K 87 0 51\n", "ComputerInput"), base + own);
 
-    // Sections may come again, in any order, and the next program begins anew.
+    // Sections may repeat, in any order, and the next program starts from scratch.
     const std::string both = importBank("P 1 a\nC 0 0 1 x\n\nK 87 0 51\n\nL 0\nK 69 0 51\nP 1 b\nP 1 c\nK 87 0 51\n");
     EXPECT_EQ(both.find("preset="), both.rfind("preset=")) << "of b alone";
     EXPECT_NE(both.find("<Key id=\"E\""), std::string::npos);

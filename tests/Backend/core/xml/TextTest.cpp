@@ -11,7 +11,7 @@ TEST(TextTest, TrimTakesWhiteSpaceFromBothEnds) {
     EXPECT_EQ(trim(""), "");
 }
 
-TEST(TextTest, IntegerStopsAtTheFirstCharacterThatIsNoDigit) {
+TEST(TextTest, IntegerStopsAtTheFirstNonDigit) {
     EXPECT_EQ(readInteger(" 12x"), 12);
     EXPECT_EQ(readInteger("-7 8"), -7);
     EXPECT_EQ(readInteger("+5"), 5);

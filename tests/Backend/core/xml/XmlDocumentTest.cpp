@@ -127,7 +127,7 @@ TEST(XmlDocumentTest, WrittenAttributeReadsBack) {
     EXPECT_EQ(element.getAttribute("b"), value);
 }
 
-TEST(XmlDocumentTest, WalkStandsOnEveryChildAndNamesElementsOnly) {
+TEST(XmlDocumentTest, WalkVisitsEveryChildAndNamesElementsOnly) {
     const XmlElement root = rootOf("<a>\n\t<b/>\n\t<!-- c -->\n\t<d x=\"1\"><e/></d>text<?f g?>\n\t<b/>\n</a>");
     EXPECT_EQ(namesOfChildren(root), (Names{"b", "", "d", "", "", "b"}));
     EXPECT_EQ(namesOfChildren(rootOf("<a/>")), Names());

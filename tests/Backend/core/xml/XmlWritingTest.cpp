@@ -40,7 +40,7 @@ TEST(XmlWritingTest, CharacterIsWrittenAsTheValueOfItsByte) {
     EXPECT_EQ(getAttributeText("a", static_cast<unsigned char>(200)), " a=\"200\"");
 }
 
-TEST(XmlWritingTest, LiteralIsAStringAndNoBool) {
+TEST(XmlWritingTest, LiteralIsAStringNotABool) {
     EXPECT_EQ(getAttributeText("a", "x<y"), " a=\"x&lt;y\"");
 }
 

@@ -250,7 +250,7 @@ protected:
         });
     }
 
-    // Moves the first control; gives all values.
+    // Moves the first control; returns all values.
     std::vector<int> moveFirst(std::int32_t value) {
         m_desk.run([value](Mirel& mirel) { mirel.getControls().changeControl({Cell(0, 0), value, true}); });
         ControlMap controls = m_desk.mirel().getControls().getControlMap();
@@ -309,7 +309,7 @@ TEST_F(ControlGroupTest, AStepBeyondAllNumbersStopsAtTheEnd) {
     EXPECT_EQ(moveFirst(INT_MIN), (Values{-1000, 0}));
 }
 
-// Both ends are looked at, one after the other: what the lower end makes a step up may reach the upper one.
+// Both ends are checked, one after the other: a step that the lower end turns upwards may reach the upper one.
 TEST_F(ControlGroupTest, AControlBelowZeroComesUpToItAsFarAsTheOthersCan) {
     start({50, -20, 120});
     EXPECT_EQ(moveFirst(40), (Values{40, -13, 127}));

@@ -5,7 +5,7 @@
 namespace Backend::MidiEngine {
 namespace {
 
-TEST(HeldNotesTest, RemovingTellsWhetherTheNewestWent) {
+TEST(HeldNotesTest, RemovingReturnsWhetherTheNewestWent) {
     HeldNotes held;
     EXPECT_TRUE(held.remove(60));  // Nothing is held.
     held.add(60, 1);

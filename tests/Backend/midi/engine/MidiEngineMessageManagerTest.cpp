@@ -14,7 +14,7 @@ namespace {
 
 class MidiEngineMessageManagerTest : public testing::Test, public TestSupport::EngineFixture {
 protected:
-    // What the host is given for an event that goes through the queue and two slices.
+    // What the host gets for an event that goes through the queue and two slices.
     MirelMidiMessage passThrough(const MirelMidiMessage& message) {
         post(message);
         engine->playTimeSlice(900, 1001);
@@ -102,7 +102,7 @@ TEST_F(MidiEngineMessageManagerTest, ZonesReachTheEngine) {
     EXPECT_EQ(passThrough(event(Cell(), -1)).getD1(), 55);
 }
 
-TEST_F(MidiEngineMessageManagerTest, ANumberThatIsNoRequestIsIgnored) {
+TEST_F(MidiEngineMessageManagerTest, AnUnknownNumberIsIgnored) {
     for (const UINT number : {0u, 32868u, 32869u, 32884u, 33254u}) {
         MSG message{};
         message.message = number;

@@ -105,7 +105,7 @@ TEST_F(MidiEngineTest, RequestsToTheHostPassStraightThrough) {
     EXPECT_EQ(engine->getTempoSource(), 3);
 }
 
-// Plays slices on a thread of their own while it lives, as a host does.
+// Plays slices on its own thread while it exists, as a host does.
 class Player {
 public:
     explicit Player(MidiEngine& engine)
@@ -225,7 +225,7 @@ TEST_F(MidiEngineTest, EventsOfManyThreadsAllArriveInTheOrderOfEach) {
     EXPECT_EQ(host.played.size(), std::size_t{THREADS} * EVENTS);
 }
 
-// A window that takes what is shown to it.
+// A window that records what it is shown.
 struct Window : Platform::WindowSink {
     void windowMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
         EXPECT_EQ(message, 33254u);
@@ -292,7 +292,7 @@ TEST_F(MidiEngineTest, KeysThatNeverGoUpDoNotFillTheMemory) {
     manager().waitUntilIdle();
     engine->playTimeSlice(0, 1);
     engine->playTimeSlice(1, 2);
-    // The plain layer's own, and what the two arpeggios hold and may play.
+    // The plain layer's own notes, and what the two arpeggios hold and may play.
     EXPECT_EQ(host.played.size(), 20000 + ArpeggioManagement::Arpeggio::MAX_NOTES + 1);
 }
 
@@ -310,7 +310,7 @@ TEST_F(MidiEngineTest, EventsThatNoSliceTakesAreDroppedAtTheLimitAndResetsAreNot
     EXPECT_EQ(host.played.size(), 33 + MidiEngine::MAX_PENDING_MESSAGES);
 }
 
-TEST_F(MidiEngineTest, ASliceInSteadyStateTakesNothingFromTheHeap) {
+TEST_F(MidiEngineTest, ASliceInSteadyStateAllocatesNothing) {
     const std::string layer =
         "<Layer/><Layer mono='true' channel='1'/><Layer toggle='type2' channel='2'/><Layer minVelocity='10'/>"
         "<Layer channel='3'><Arpeggio><ChordArpeggio beat='20' length='10'/></Arpeggio></Layer>"

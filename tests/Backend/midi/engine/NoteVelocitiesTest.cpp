@@ -25,7 +25,7 @@ TEST(NoteVelocitiesTest, TheLastVelocityOfEachNoteIsKept) {
     EXPECT_EQ(velocities.find(note(60, 0, 1)), 0);
     EXPECT_EQ(velocities.find(note(60, 0, 0, 2)), 0);
     EXPECT_EQ(velocities.find(note(60, 0, 0, -1, 1)), 0);
-    EXPECT_EQ(velocities.find(note(60, 0, -1)), 50);  // The default channel is told as channel 0.
+    EXPECT_EQ(velocities.find(note(60, 0, -1)), 50);  // The default channel counts as channel 0.
 }
 
 TEST(NoteVelocitiesTest, ItGrowsWithItsNotesAndForgetsThemAll) {

@@ -87,7 +87,7 @@ TEST_F(SequencePresetManagerTest, NamesThatLeadElsewhereAreRefused) {
 
 TEST_F(SequencePresetManagerTest, TheListIsSortedByNameNotByFile) {
     m_presets.addSequencePreset("a", "0");
-    m_presets.addSequencePreset("a b", "1");  // "a b.seq" stands before "a.seq".
+    m_presets.addSequencePreset("a b", "1");  // "a b.seq" sorts before "a.seq".
     SequencePresetManager reopened(m_folder.path());
     EXPECT_EQ(reopened.getSequencePresetList(), (SequencePresetList{"a", "a b"}));
     reopened.deleteSequencePreset("a");

@@ -32,7 +32,7 @@ TEST(HeldKeys, ForgetsAKeyThatCameUpUnderOtherModifiers) {
     EXPECT_TRUE(held.takeAll().empty());
 }
 
-TEST(HeldKeys, AKeyWhoseEndWasToldIsNotToldAgainWhileItIsHeld) {
+TEST(HeldKeys, AKeyReportedAsReleasedIsNotReportedAgainWhileItIsHeld) {
     const Key key(65, false, false, false, false);
     HeldKeys held;
     held.press(key, false);
@@ -43,7 +43,7 @@ TEST(HeldKeys, AKeyWhoseEndWasToldIsNotToldAgainWhileItIsHeld) {
     EXPECT_TRUE(held.release(65)) << "the next time is news";
 }
 
-TEST(HeldKeys, AFreshPressOfItBeginsAnew) {
+TEST(HeldKeys, AFreshPressStartsOver) {
     const Key key(65, false, false, false, false);
     HeldKeys held;
     held.press(key, false);

@@ -12,7 +12,7 @@ struct CodeRow {
     std::int32_t code;
 };
 
-TEST(KeyTranslation, TellsTheTwoKeysOfOneVirtualKeyApart) {
+TEST(KeyTranslation, DistinguishesTheTwoKeysOfOneVirtualKey) {
     constexpr CodeRow ROWS[] = {
         {17, false, 17}, {17, true, 225}, {18, false, 164}, {18, true, 165}, {13, false, 13}, {13, true, 226},
     };

@@ -9,7 +9,7 @@ SetupPort port(const std::string& name, bool enabled) {
     return {name, true, enabled};
 }
 
-TEST(LoopbackGuard, KnowsCablesByTheirNames) {
+TEST(LoopbackGuard, RecognisesCablesByTheirNames) {
     EXPECT_TRUE(isLoopbackPort("MIDI Yoke NT:  1"));
     EXPECT_TRUE(isLoopbackPort("In From MIDI Yoke"));
     EXPECT_TRUE(isLoopbackPort("Internal MIDI"));
@@ -37,7 +37,7 @@ TEST(LoopbackGuard, AnotherCablePasses) {
     EXPECT_FALSE(wouldLoop({port("MIDI Yoke 1", true)}, {}));
 }
 
-TEST(LoopbackGuard, DevicesOfOneNameAreNoCable) {
+TEST(LoopbackGuard, DevicesOfOneNameAreNotACable) {
     EXPECT_FALSE(wouldLoop({port("Synth", true)}, {port("Synth", true)}));
 }
 

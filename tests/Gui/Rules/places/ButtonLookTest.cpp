@@ -12,7 +12,7 @@ TEST(ButtonLook, IsSmallBelowSixteenHighOrElevenWide) {
     EXPECT_TRUE(isSmallButton(10, 15));
 }
 
-TEST(ButtonLook, KnowsTheTwoSigns) {
+TEST(ButtonLook, RecognisesTheTwoSigns) {
     EXPECT_TRUE(isSign("+"));
     EXPECT_TRUE(isSign("-"));
     for (const char* text : {"", "++", "--", "+-", " +", "F"})

@@ -10,7 +10,7 @@ TEST(TrackbarChannel, LiesInTheMiddleOfTheThumb) {
     EXPECT_EQ(getVerticalChannel({4, 50, 24, 60}, {8, 10, 192, 14}), (Rect{12, 15, 16, 15 + 174}));
 }
 
-TEST(TrackbarChannel, StaysUprightIfItIsToldSo) {
+TEST(TrackbarChannel, StaysUprightIfReportedSo) {
     EXPECT_EQ(getVerticalChannel({4, 50, 24, 60}, {12, 8, 16, 192}), (Rect{12, 8, 16, 192}));
 }
 

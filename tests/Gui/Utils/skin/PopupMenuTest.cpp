@@ -24,7 +24,7 @@ protected:
         return info;
     }
 
-    // What the system holds is what the menu's items say.
+    // The system must hold what the menu's items say.
     static void expectInStep(const PopupMenu& menu) {
         ASSERT_EQ(GetMenuItemCount(menu.handle()), static_cast<int>(menu.getItems().size()));
         for (std::size_t i = 0; i < menu.getItems().size(); ++i) {
@@ -100,7 +100,7 @@ TEST_F(PopupMenuTest, OpensAColumnEveryFifteenRows) {
     EXPECT_EQ(columnsOf(menu), (std::vector<int>{15, 30, 45}));
 }
 
-TEST_F(PopupMenuTest, OpensColumnsAsLongAsItIsTold) {
+TEST_F(PopupMenuTest, OpensColumnsOfTheRequestedLength) {
     PopupMenu menu(gdi);
     menu.setRowsPerColumn(4);
     fill(menu, 9);
@@ -236,7 +236,7 @@ TEST_F(PopupMenuTest, GivesTheIdOfAnItemOfTheResources) {
     PopupMenu menu(gdi, IDR_SYSTEM_MENU);
     menu.select(1);
     EXPECT_EQ(track(menu, owner, {VK_DOWN, VK_RETURN}), menu.getItems()[0]->id);
-    EXPECT_EQ(marksOf(menu), std::vector<int>{});  // There is no item of that number.
+    EXPECT_EQ(marksOf(menu), std::vector<int>{});  // There is no such item.
     PopupMenu data(gdi, IDR_DATA_MENU);
     EXPECT_EQ(track(data, owner, {VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN}), 3);
     EXPECT_EQ(marksOf(data), std::vector<int>{2});

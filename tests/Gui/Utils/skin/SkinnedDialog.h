@@ -12,7 +12,7 @@
 
 namespace Gui {
 
-// A real dialog with controls of the system's, to be skinned. It remembers what its own procedure gets.
+// A real dialog with the system's controls, to be skinned. It records what its own procedure gets.
 class SkinnedDialog {
 public:
     struct Message {
@@ -32,10 +32,10 @@ public:
     TestSupport::FakeMirelGui& gui() { return m_gui; }
     GdiManager& gdi() { return m_gui.getGdiManager(); }
 
-    // Adds a control that shows, in pixels of the client area. Its id counts from 1.
+    // Adds a visible control, its place in pixels of the client area. Ids count from 1.
     HWND add(const char* className, const char* text, DWORD style, const RECT& place, DWORD extendedStyle = 0);
 
-    // Skins it with all that was added, and forgets the messages.
+    // Skins it with everything that was added, and forgets the messages.
     void skin();
 
     void forgetMessages() { m_messages.clear(); }
@@ -44,7 +44,7 @@ public:
     // How often a control sent this notification.
     int countNotifications(HWND control, WORD code) const;
 
-    // Called before a message is remembered.
+    // Called before a message is recorded.
     std::function<void(const Message&)> onMessage;
 
 private:

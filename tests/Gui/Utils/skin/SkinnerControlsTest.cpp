@@ -45,7 +45,7 @@ protected:
     SkinnedDialog dialog;
 };
 
-TEST_F(SkinnerControlsTest, TellsAboutEveryControlUnderThePointer) {
+TEST_F(SkinnerControlsTest, ShowsHelpForEveryControlUnderThePointer) {
     const HWND controls[] = {addButton(BS_PUSHBUTTON), addButton(BS_AUTOCHECKBOX), addButton(BS_AUTORADIOBUTTON),
                              dialog.add(TRACKBAR_CLASSA, "", 0, {10, 100, 110, 130}),
                              dialog.add("Edit", "", 0, {10, 140, 110, 160})};
@@ -103,7 +103,7 @@ TEST_F(SkinnerControlsTest, FlipsACheckBoxWithAClick) {
     }
 }
 
-TEST_F(SkinnerControlsTest, HasFlippedACheckBoxWhenTheClickIsTold) {
+TEST_F(SkinnerControlsTest, HasFlippedACheckBoxWhenTheClickIsReported) {
     const HWND check = addButton(BS_AUTOCHECKBOX);
     dialog.skin();
     std::vector<bool> seen;
@@ -186,7 +186,7 @@ TEST_F(SkinnerRadioButtonTest, ChecksOneOfItsGroupWithAClick) {
     EXPECT_EQ(colourOf(picture, buttons[2]), GdiManager::LIGHT_LIGHT_GREEN);
 }
 
-TEST_F(SkinnerRadioButtonTest, PaintsTheWholeGroupAnew) {
+TEST_F(SkinnerRadioButtonTest, RepaintsTheWholeGroup) {
     click(buttons[0]);
     UpdateWindow(dialog.handle());
     for (const HWND button : buttons)
@@ -326,7 +326,7 @@ TEST_F(SkinnerTrackbarTest, PassesTheWheelUp) {
     }
 }
 
-// As the main window does with a turn that nobody on the way wanted.
+// As the main window does with a turn that nobody on the way handled.
 TEST_F(SkinnerTrackbarTest, WheelThatComesBackEndsThere) {
     const HWND trackbar = addTrackbar(TBS_HORZ, {10, 10, 210, 40});
     dialog.skin();

@@ -231,7 +231,7 @@ TEST_F(SkinnerEditTest, LeavesTheWheelToOthers) {
     EXPECT_EQ(SendMessageA(edit, UM_MOUSEWHEEL, UP, 0x00020003), 0);
     EXPECT_EQ(dialog.received(UM_MOUSEWHEEL), (Messages{{UM_MOUSEWHEEL, UP, 0x00020003}}));
     EXPECT_TRUE(dialog.received(WM_MOUSEWHEEL).empty());
-    // With Ctrl every stock edit hands it on.
+    // With Ctrl every stock edit passes it on.
     SendMessageA(edit, WM_MOUSEWHEEL, UP | MK_CONTROL, 0x00020003);
     EXPECT_EQ(dialog.received(UM_MOUSEWHEEL).size(), 1u);
     EXPECT_EQ(dialog.received(WM_MOUSEWHEEL), (Messages{{WM_MOUSEWHEEL, UP | MK_CONTROL, 0x00020003}}));
@@ -408,7 +408,7 @@ TEST_F(SkinnerValuePickerTest, LeavesSignedFieldsToTheStockMenu) {
     EXPECT_EQ(textOf(edit), "+5");
 }
 
-// Some fields in a row, with what Tab passes over between them.
+// Some fields in a row, separated by what Tab skips.
 class SkinnerTabTest : public testing::Test {
 protected:
     SkinnerTabTest() { dialog.skin(); }

@@ -9,8 +9,8 @@
 namespace Gui {
 namespace {
 
-// The graphics objects of this process that are alive. Where the system doesn't count them, each possible handle is
-// asked for its kind.
+// The number of this process's graphics objects. Where the system doesn't count them, this asks for the kind of each
+// possible handle.
 int countGdiObjects() {
     if (const DWORD count = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS); count != 0)
         return static_cast<int>(count);
@@ -50,7 +50,7 @@ TEST(SkinnerLeak, LeavesNoGraphicsBehind) {
     Skinner::endHook();
 }
 
-// The count itself sees what leaks.
+// The count itself detects leaks.
 TEST(SkinnerLeak, IsSeen) {
     const int before = countGdiObjects();
     std::vector<HBRUSH> brushes;

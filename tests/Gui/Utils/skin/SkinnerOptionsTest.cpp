@@ -85,7 +85,7 @@ TEST_F(SkinnerOptionsTest, SetLooks) {
     EXPECT_EQ(getNumber(button, SELECTED), 0);
 }
 
-TEST_F(SkinnerOptionsTest, OfAControlThatIsNotThereChangeNothing) {
+TEST_F(SkinnerOptionsTest, OfAMissingControlChangeNothing) {
     TestSupport::pump();
     ValidateRect(dialog.handle(), nullptr);
     Skinner::setSelected(dialog.handle(), 4711, true);

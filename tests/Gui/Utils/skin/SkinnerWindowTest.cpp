@@ -22,7 +22,7 @@ using TestSupport::pump;
 constexpr const char* PROCEDURES[] = {WINDOW_PROCEDURE,       BUTTON_PROCEDURE, CHECK_BOX_PROCEDURE,
                                       RADIO_BUTTON_PROCEDURE, EDIT_PROCEDURE,   TRACKBAR_PROCEDURE};
 
-// Which procedures of the skin stand before a window's own.
+// Which procedures of the skin are in front of a window's own.
 std::string proceduresOf(HWND window) {
     std::string names;
     for (const char* name : PROCEDURES)
@@ -55,7 +55,7 @@ TEST_F(SkinnerWindowTest, KnowsItsSkinnerInEveryWindow) {
     EXPECT_EQ(proceduresOf(trackbar), TRACKBAR_PROCEDURE);
 }
 
-// The system may take another type for one that it doesn't know any more.
+// The system may replace a type that it no longer supports by another one.
 TEST(SkinnerButtonTypeTest, IsDrawnByTheSkinWhateverItIs) {
     for (DWORD type = 0; type < 16; ++type) {
         SkinnedDialog dialog;

@@ -328,7 +328,7 @@ TEST_F(SignTest, StandsAPixelHigherWhereItMust) {
 }
 
 TEST_F(ButtonTest, SmallButtonsHaveFontsOfTheirOwn) {
-    // Higher than the small fonts by far: a button that took this one would be full of it.
+    // Far higher than the small fonts: a button that used this one would be full of it.
     const WindowsLib::Font& huge = gui.getGdiManager().getLargeFont();
     struct Size {
         int width, height;

@@ -37,7 +37,7 @@ protected:
         panel.messages.clear();
     }
 
-    // Opens the list on a press of this button and hands it these keys.
+    // Opens the list with this button and gives it these keys.
     void open(DWORD down, DWORD up, const std::vector<WPARAM>& keys) {
         panel.menuKeys = keys;
         movePointer(edit, 5, 5);
@@ -70,7 +70,7 @@ TEST_F(ComboBoxTest, StandsWithItsEdit) {
     EXPECT_EQ(box.getSelectedText(), "");
 }
 
-TEST_F(ComboBoxTest, ProgramSelectsInSilence) {
+TEST_F(ComboBoxTest, ProgramSelectsWithoutNotifying) {
     box.selectValue(9);
     EXPECT_EQ(textOf(edit), "Drums");
     EXPECT_EQ(box.getSelection(), 3);
@@ -205,7 +205,7 @@ TEST_F(ComboBoxTest, ClickThatClosesTheListDoesNotOpenItAgain) {
     SendMessageA(edit, WM_LBUTTONDOWN, 0, 0);
     SendMessageA(edit, WM_LBUTTONDBLCLK, 0, 0);
     EXPECT_EQ(panel.count(WM_ENTERMENULOOP), 1u);
-    // The edit of this template can't be typed into, so the panel gets the focus and gives it on.
+    // The edit of this template can't be typed into, so the panel gets the focus and passes it on.
     EXPECT_GE(panel.count(WM_SETFOCUS), 1u);
     bool opened = false;
     EXPECT_TRUE(pumpUntil([&] {
@@ -402,7 +402,7 @@ TEST_F(ComboButtonTest, CanHaveAnotherId) {
     EXPECT_EQ(button.getId(), 106);
 }
 
-TEST_F(ComboButtonTest, GoesRoundWithEachPress) {
+TEST_F(ComboButtonTest, CyclesWithEachPress) {
     button.create(panel.item(IDC_TEST_COMBO_BUTTON));
     const int expected[] = {1, 2, 0, 1};
     std::size_t presses = 0;

@@ -152,7 +152,7 @@ TEST(ModalDialogTest, StaysUntilTheWorkIsDone) {
     EXPECT_FALSE(IsWindow(work.dialog));
 }
 
-// A dialog that ends in its own start.
+// A dialog that ends while it starts.
 class QuickWork : public Work {
 public:
     void start(HWND started) override { PostMessageA(started, UM_MODAL_WORK_DONE, 0, 0); }
@@ -164,7 +164,7 @@ TEST(ModalDialogTest, MayBeDoneAtOnce) {
     SUCCEED();
 }
 
-// Work that can't even begin.
+// Work that can't even start.
 class FailingWork : public Work {
 public:
     void start(HWND started) override {
@@ -193,7 +193,7 @@ protected:
     std::string heard;
 };
 
-TEST_F(FieldTextTest, ChangesOfTheProgramAreToldFromTheUsers) {
+TEST_F(FieldTextTest, ChangesOfTheProgramAreDistinguishedFromTheUsers) {
     setFieldText(panel.getWindowHandle(), IDC_TEST_EDIT, "12");
     EXPECT_EQ(heard, "program ");
     SendMessageA(panel.item(IDC_TEST_EDIT), WM_CHAR, '3', 1);
@@ -203,7 +203,7 @@ TEST_F(FieldTextTest, ChangesOfTheProgramAreToldFromTheUsers) {
     EXPECT_EQ(heard, "program user program ");
 }
 
-// It sends no notice of a text that is set.
+// It sends no notification when its text is set.
 TEST_F(FieldTextTest, AnEditOfSeveralLinesKeepsNoMark) {
     constexpr int LINES = 5000;
     const HWND edit = CreateWindowExA(0, "Edit", "", WS_CHILD | ES_MULTILINE, 0, 0, 50, 50, panel.getWindowHandle(),

@@ -70,7 +70,7 @@ TEST_F(TimeIntervalCtlTest, TakesThePlaceOfItsPlaceholderInItsOwnSize) {
     EXPECT_EQ(control.getDisplayText(), "1/4");
 }
 
-TEST_F(TimeIntervalCtlTest, ListenerHearsOfEverySetButThatOfThePresentValue) {
+TEST_F(TimeIntervalCtlTest, ListenerIsNotifiedUnlessTheValueIsUnchanged) {
     control.setValue(480);
     EXPECT_EQ(heard, "");
     control.setValue(960);

@@ -14,7 +14,7 @@
 
 namespace Gui {
 
-// The panel that widgets of a test lie in. It remembers what it gets.
+// The panel that holds a test's widgets. It records what it gets.
 class WidgetPanel : public SkinPanel {
 public:
     explicit WidgetPanel(MirelGuiIF& gui) : SkinPanel(gui, IDD_TEST_WIDGETS) {}
@@ -46,14 +46,14 @@ public:
 
     std::vector<TestSupport::TestWindow::Message> messages;
 
-    // The keys that the next menu gets. Without any it closes again.
+    // The keys that the next menu gets; the default closes it.
     std::vector<WPARAM> menuKeys = {VK_ESCAPE};
 
-    // What it answers instead of nothing; 0 goes on.
+    // What it answers; 0 is passed on.
     std::function<LRESULT(const TestSupport::TestWindow::Message&)> answer;
 };
 
-// A desk's window with such a panel showing in it, with a real pointer that is nobody's at first.
+// A desk's window showing such a panel, with a real pointer that is nowhere near at first.
 class WidgetTest : public testing::Test {
 protected:
     WidgetTest() {

@@ -62,7 +62,7 @@ TEST(KeyboardHookProxy, DoesNothingWithALibraryWithoutFunctions) {
     EXPECT_EQ(GetModuleHandleA(path.c_str()), nullptr);
 }
 
-TEST(KeyboardHookProxy, DoesNothingWithAFileThatIsNoLibrary) {
+TEST(KeyboardHookProxy, DoesNothingWithAFileThatIsNotALibrary) {
     const TestSupport::TemporaryFolder folder;
     ASSERT_TRUE(Platform::Files::replace(folder.file("KeyboardHook_64.dll"), "no library at all"));
     const RecordedHook hook;

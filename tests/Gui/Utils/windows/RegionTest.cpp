@@ -40,7 +40,7 @@ TEST(Region, IsDeletedOnce) {
     EXPECT_EQ(GetObjectType(handle), 0u);
 }
 
-// A white key is what the black ones beside it leave of it.
+// A white key is what the black ones beside it leave over.
 TEST(Region, OfAMusicKeyIsItsShape) {
     for (int note = 0; note < MusicKeys::KEYS; ++note) {
         const Region key = WindowsLib::makeRegion(toWindows(MusicKeys::getBox(note)));

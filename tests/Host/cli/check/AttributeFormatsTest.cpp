@@ -1,4 +1,4 @@
-// The ranges of stored numbers: what stands at a bound is fine, what stands just outside is reported.
+// The ranges of stored numbers: a number at a bound is fine, one just outside is reported.
 #include "Host/cli/check/FileCheck.h"
 #include "tests/support/FunctionRows.h"
 
@@ -11,7 +11,7 @@
 namespace Host::Cli {
 namespace {
 
-// What an element stands in, in its file.
+// What surrounds an element in its file.
 struct Place {
     std::string before;
     std::string after;
@@ -25,7 +25,7 @@ const Place IN_ZONES = {"<Zones>", "</Zones>"};
 const Place IN_BANK = {"<Bank>", "</Bank>"};
 const Place IN_KEY = {"<ComputerInput><Key><Function><Down>", "</Down></Function></Key></ComputerInput>"};
 
-// What is said of one attribute's value; empty if nothing is.
+// The complaint about one attribute's value; empty if there is none.
 std::string complaintOf(const Place& place, const std::string& tag, const std::string& name, const std::string& value) {
     const std::string shown = name + "=\"" + value + "\"";
     const std::string content = place.before + "<" + tag + " " + shown + "/>" + place.after;
@@ -144,13 +144,13 @@ TEST(AttributeFormats, NumbersOfFunctionsHaveTheirRanges) {
 }
 
 TEST(AttributeFormats, NotesMayBeMissingWhereTheLayerHasNone) {
-    EXPECT_EQ(complaintOf(IN_LAYERS, "Layer", "minNote", ""), "is no note, so \"C-1\" is taken");
-    EXPECT_EQ(complaintOf(IN_LAYERS, "Layer", "maxNote", ""), "is no note, so \"G9\" is taken");
+    EXPECT_EQ(complaintOf(IN_LAYERS, "Layer", "minNote", ""), "is not a note, so \"C-1\" is used");
+    EXPECT_EQ(complaintOf(IN_LAYERS, "Layer", "maxNote", ""), "is not a note, so \"G9\" is used");
     EXPECT_EQ(complaintOf(IN_LAYERS, "Layer", "key", ""), "");
-    EXPECT_EQ(complaintOf(IN_KEY, "MidiNoteOn", "note", ""), "is no note, so \"\" is taken");
+    EXPECT_EQ(complaintOf(IN_KEY, "MidiNoteOn", "note", ""), "is not a note, so \"\" is used");
     for (const char* const name : {"minNote", "maxNote", "key"}) {
         EXPECT_EQ(complaintOf(IN_LAYERS, "Layer", name, "127"), "");
-        EXPECT_EQ(complaintOf(IN_LAYERS, "Layer", name, "128"), "is no note from C-1 to G9; it is read as \"\"");
+        EXPECT_EQ(complaintOf(IN_LAYERS, "Layer", name, "128"), "is not a note from C-1 to G9; it is read as \"\"");
     }
 }
 

@@ -53,14 +53,14 @@ protected:
     std::string m_complained;
 };
 
-TEST_F(CheckCommand, SaysNothingOfFilesThatAreFine) {
+TEST_F(CheckCommand, SaysNothingAboutGoodFiles) {
     expectSilence({write("a.pst", FINE), write("b.seq", "<Sequence/>")});
 }
 
 TEST_F(CheckCommand, SaysWhereAndWhat) {
     const std::string file = write("a.pst", std::string("<?xml version=\"1.0\"?>\n") + ODD);
     EXPECT_EQ(check({file}), 1);
-    EXPECT_EQ(m_printed, file + ":2: Layers lacks merge, so \"false\" is taken\n");
+    EXPECT_EQ(m_printed, file + ":2: Layers lacks merge, so \"false\" is used\n");
     EXPECT_EQ(m_complained, "");
 }
 
@@ -82,7 +82,7 @@ TEST_F(CheckCommand, RefusesOtherFiles) {
     expectFailure(m_folder.path(), "can't be read");
     expectFailure(write("empty", ""), "is not well-formed XML");
     expectFailure(write("binary", std::string("\0\1\2\xFF", 4)), "is not well-formed XML");
-    expectFailure(write("page", "<html/>"), "is no program, bank, preset or sequence, but an element \"html\"");
+    expectFailure(write("page", "<html/>"), "is not a program, bank, preset or sequence but an element \"html\"");
     write("huge", "");
     std::filesystem::resize_file(*Platform::systemPath(path("huge")), Files::MAX_SIZE + 1);
     expectFailure(path("huge"), "is larger than 64 MiB");
@@ -109,7 +109,7 @@ TEST_F(CheckCommand, WantsFiles) {
     EXPECT_EQ(check({"--data"}), 2);
     EXPECT_TRUE(m_complained.starts_with("mirel: --data takes a folder\n"));
     EXPECT_EQ(check({"--bogus", "x"}), 2);
-    EXPECT_TRUE(m_complained.starts_with("mirel: there is no option --bogus\n"));
+    EXPECT_TRUE(m_complained.starts_with("mirel: unknown option --bogus\n"));
     EXPECT_EQ(check({"--help"}), 0);
     EXPECT_TRUE(m_printed.starts_with("usage: mirel check"));
 }
@@ -135,7 +135,7 @@ TEST_F(CheckCommand, FindsPresetsBesideTheFileAndAboveIt) {
     }
 }
 
-TEST_F(CheckCommand, SaysNothingOfWhatComesWithTheDesk) {
+TEST_F(CheckCommand, SaysNothingAboutWhatComesWithTheDesk) {
     int count = 0;
     for (const auto& entry :
          std::filesystem::recursive_directory_iterator(*Platform::systemPath(TestSupport::projectFile("data")))) {
@@ -151,7 +151,7 @@ TEST_F(CheckCommand, SaysNothingOfWhatComesWithTheDesk) {
 }
 
 // Every file that a desk writes.
-TEST_F(CheckCommand, SaysNothingOfWhatTheDeskWrites) {
+TEST_F(CheckCommand, SaysNothingAboutWhatTheDeskWrites) {
     write("bank.bnk", "<Bank>\n</Bank>\n");
     write("full.prg", TestSupport::fullProgram("ProgramFile"));
     const std::string bank = "\"" + path("bank.bnk") + "\"";

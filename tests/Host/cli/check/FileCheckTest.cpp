@@ -15,7 +15,7 @@ namespace {
 
 namespace Files = Platform::Files;
 
-// What is said of a file, as "LINE: what" each; one "ERROR" if it is none of the desk's.
+// The complaints about a file, as "LINE: what" each; a single "ERROR" if it is not one of the desk's.
 std::vector<std::string> check(const std::string& content, const std::string& dataFolder = "/nowhere at all") {
     PresetFiles presets("", dataFolder);
     FileCheck check(content, presets);
@@ -48,7 +48,7 @@ std::string layers(const std::string& content) {
     return "<Layers merge=\"false\">\n" + content + "\n</Layers>";
 }
 
-// A list of one layer on line 2, with another value for one of its attributes.
+// A list of one layer on line 2, with one of its attributes changed.
 std::string layerWith(const std::string& from, const std::string& to) {
     return layers("<Layer " + replaced(LAYER_ATTRIBUTES, from, to) + "></Layer>");
 }
@@ -99,7 +99,7 @@ void collect(const Platform::XmlNode& node, std::vector<const Platform::XmlNode*
         collect(child, elements);
 }
 
-// A program with all that programs can hold, as a desk writes it: one tag a line.
+// A program with everything a program can hold, as a desk writes it: one tag per line.
 class FullProgram : public testing::Test {
 protected:
     void SetUp() override {
@@ -131,7 +131,7 @@ protected:
 
     static std::string fullProgram() { return TestSupport::fullProgram("ProgramFile"); }
 
-    // What is said of the file with another line, and whether that is about this line.
+    // The complaint about the file with one line replaced must be about this line.
     void expectComplaint(int number, const std::string& line, const std::string& part) {
         auto lines = m_lines;
         ASSERT_NE(lines[static_cast<std::size_t>(number - 1)], line);
@@ -163,7 +163,7 @@ TEST_F(FullProgram, HoldsEveryFunction) {
     for (const auto* element : m_elements)
         tags.insert(element->name);
     const auto expect = [&tags](const auto& row) {
-        // That of no function is the only one that isn't kept.
+        // NoFunction's is the only one that isn't kept.
         EXPECT_EQ(tags.contains(row.xmlTag), std::string_view(row.xmlTag) != "NoFunction") << row.xmlTag;
         EXPECT_TRUE(findFunctionFormat(row.xmlTag)) << row.xmlTag;
     };
@@ -173,7 +173,7 @@ TEST_F(FullProgram, HoldsEveryFunction) {
         EXPECT_TRUE(tags.contains(tag)) << tag;
 }
 
-TEST_F(FullProgram, KnowsNoOtherElements) {
+TEST_F(FullProgram, HasNoOtherElements) {
     std::set<std::string> known = {m_root->name};
     for (const auto* element : m_elements) {
         if (!known.insert(element->name).second)
@@ -181,7 +181,7 @@ TEST_F(FullProgram, KnowsNoOtherElements) {
         auto lines = m_lines;
         const auto number = static_cast<std::size_t>(element->line - 1);
         lines[number] = replaced(lines[number], "<" + element->name, "<Un" + element->name);
-        // Its end tag stands on the same line or alone on a later one, as deep.
+        // Its end tag is on the same line or alone on a later one, at the same depth.
         const std::string end = "</" + element->name + ">";
         const std::string indent = lines[number].substr(0, lines[number].find('<'));
         for (std::size_t i = number; i < lines.size() && !lines[number].ends_with("/>"); ++i) {
@@ -197,7 +197,7 @@ TEST_F(FullProgram, KnowsNoOtherElements) {
     }
 }
 
-TEST_F(FullProgram, KnowsNoOtherAttributes) {
+TEST_F(FullProgram, HasNoOtherAttributes) {
     for (const auto& [element, name] : m_attributes)
         expectComplaint(element->line, replaced(lineOf(*element), " " + name + "=", " un" + name + "="),
                         "unknown attribute \"un" + name + "\" of " + element->name + " is ignored");
@@ -229,7 +229,7 @@ TEST_F(FullProgram, ReadsNoNonsense) {
     }
 }
 
-TEST(FileCheck, KnowsFilesByTheirRoots) {
+TEST(FileCheck, RecognisesFilesByTheirRoots) {
     for (const char* const text : {"<Bank/>", "<Layers merge=\"false\"/>", "<Controls merge=\"true\"/>",
                                    "<ComputerInput merge=\"no\"/>", "<Zones merge=\"false\"/>", "<Sequence/>",
                                    "<Sequence>0,12</Sequence>", "<ProgramFile><Program name=\"\"/></ProgramFile>",
@@ -237,9 +237,9 @@ TEST(FileCheck, KnowsFilesByTheirRoots) {
         EXPECT_EQ(check(text), Said()) << text;
 }
 
-TEST(FileCheck, RefusesWhatIsNoFileOfTheDesk) {
-    EXPECT_EQ(check("<Layer/>"), Said{"is no program, bank, preset or sequence, but an element \"Layer\""});
-    EXPECT_EQ(check("<layers/>"), Said{"is no program, bank, preset or sequence, but an element \"layers\""});
+TEST(FileCheck, RefusesWhatIsNotAFileOfTheDesk) {
+    EXPECT_EQ(check("<Layer/>"), Said{"is not a program, bank, preset or sequence but an element \"Layer\""});
+    EXPECT_EQ(check("<layers/>"), Said{"is not a program, bank, preset or sequence but an element \"layers\""});
     std::string deep;
     for (int i = 0; i < 1000; ++i)
         deep += "<Layers>";
@@ -273,7 +273,7 @@ TEST(FileCheck, JudgesFlags) {
     expectEach({
         {layerWith("mute=\"false\"", "mute=\"YES\""), ""},
         {layerWith("mute=\"false\"", "mute=\"True\""),
-         "mute=\"True\" of Layer is neither true nor false, so \"false\" is taken"},
+         "mute=\"True\" of Layer is neither true nor false, so \"false\" is used"},
     });
 }
 
@@ -283,7 +283,7 @@ TEST(FileCheck, JudgesNumbers) {
         {layerWith("minVelocity=\"0\"", "minVelocity=\"7x\""), "minVelocity=\"7x\" of Layer is read as \"7\""},
         {layerWith("minVelocity=\"0\"", "minVelocity=\"128\""), "minVelocity=\"128\" of Layer is outside 0 to 127"},
         {layerWith("maxVelocity=\"127\"", "maxVelocity=\"99999999999\""),
-         "maxVelocity=\"99999999999\" of Layer is no number of 32 bits, so \"127\" is taken"},
+         "maxVelocity=\"99999999999\" of Layer is not a number of 32 bits, so \"127\" is used"},
         {layerWith("channel=\"0\"", "channel=\"-1\""), ""},
         {layerWith("channel=\"0\"", "channel=\"16\""), "channel=\"16\" of Layer is outside -1 to 15"},
         {layerWith("zone=\"-1\"", "zone=\"-2\""), "zone=\"-2\" of Layer is outside -1 to 127"},
@@ -297,23 +297,24 @@ TEST(FileCheck, JudgesNotes) {
         {layerWith("minNote=\"C-1\"", "minNote=\"60\""), ""},
         {layerWith("minNote=\"C-1\"", "minNote=\"C\""), ""},
         {layerWith("minNote=\"C-1\"", "minNote=\"H2\""),
-         "minNote=\"H2\" of Layer is no note from C-1 to G9; it is read as \"C2\""},
+         "minNote=\"H2\" of Layer is not a note from C-1 to G9; it is read as \"C2\""},
         {layerWith("minNote=\"C-1\"", "minNote=\"C30\""),
-         "minNote=\"C30\" of Layer is no note from C-1 to G9; it is read as \"G#8\""},
+         "minNote=\"C30\" of Layer is not a note from C-1 to G9; it is read as \"G#8\""},
         {layerWith("minNote=\"C-1\"", "minNote=\"Cb-1\""),
-         "minNote=\"Cb-1\" of Layer is no note from C-1 to G9; it is read as \"\""},
+         "minNote=\"Cb-1\" of Layer is not a note from C-1 to G9; it is read as \"\""},
         {layerWith("minNote=\"C-1\"", "minNote=\"128\""),
-         "minNote=\"128\" of Layer is no note from C-1 to G9; it is read as \"\""},
-        {layerWith("maxNote=\"G9\"", "maxNote=\"\""), "maxNote=\"\" of Layer is no note, so \"G9\" is taken"},
+         "minNote=\"128\" of Layer is not a note from C-1 to G9; it is read as \"\""},
+        {layerWith("maxNote=\"G9\"", "maxNote=\"\""), "maxNote=\"\" of Layer is not a note, so \"G9\" is used"},
         {layerWith("key=\"\"", "key=\"A\""), ""},
-        {layerWith("key=\"\"", "key=\"x\""), "key=\"x\" of Layer is no note from C-1 to G9; it is read as \"C4\""},
+        {layerWith("key=\"\"", "key=\"x\""), "key=\"x\" of Layer is not a note from C-1 to G9; it is read as \"C4\""},
     });
 }
 
 TEST(FileCheck, JudgesAmountsRatiosAndSelectors) {
     expectEach({
         {layerWith("transpose=\"\"", "transpose=\"-12\""), ""},
-        {layerWith("transpose=\"\"", "transpose=\"up\""), "transpose=\"up\" of Layer is no amount such as +5, -5 or 5"},
+        {layerWith("transpose=\"\"", "transpose=\"up\""),
+         "transpose=\"up\" of Layer is not an amount such as +5, -5 or 5"},
         {layerWith("compress=\"1_1\"", "compress=\"3/4\""), ""},
         {layerWith("compress=\"1_1\"", "compress=\"3\""), ""},
         {layerWith("compress=\"1_1\"", "compress=\"0_500\""), "compress=\"0_500\" of Layer is read as \"1_99\""},
@@ -326,8 +327,8 @@ TEST(FileCheck, JudgesAttributesOfControls) {
         {controlWith("type=\"knob\"", "type=\"\""), ""},
         {controlWith("type=\"knob\"", "type=\"Knob\""), "type=\"Knob\" of Control is read as \"\""},
         {controlWith("cell=\"0,0\"", "cell=\" 15, 15\""), ""},
-        {controlWith("cell=\"0,0\"", "cell=\"16,0\""), "cell=\"16,0\" of Control is no cell from 0,0 to 15,15"},
-        {controlWith("cell=\"0,0\"", "cell=\"3\""), "cell=\"3\" of Control is no cell from 0,0 to 15,15"},
+        {controlWith("cell=\"0,0\"", "cell=\"16,0\""), "cell=\"16,0\" of Control is not a cell from 0,0 to 15,15"},
+        {controlWith("cell=\"0,0\"", "cell=\"3\""), "cell=\"3\" of Control is not a cell from 0,0 to 15,15"},
         {controlWith("cell=\"0,0\"", "cell=\"1,2,3\""), "cell=\"1,2,3\" of Control is read as \"1,2\""},
         {controlWith("size=\"1\"", "size=\"0\""), "size=\"0\" of Control is outside 1 to 16"},
         {controlWith("value=\"0\"", "value=\"128\""), "value=\"128\" of Control is outside its own 0 to 127"},
@@ -338,7 +339,7 @@ TEST(FileCheck, JudgesAttributesOfControls) {
 
 TEST(FileCheck, JudgesZones) {
     expectEach({
-        {"<Zones merge=\"true\"/>", "merge=\"true\" of Zones has no effect; the desk takes it for false"},
+        {"<Zones merge=\"true\"/>", "merge=\"true\" of Zones has no effect; the desk reads it as false"},
         {"<Zones merge=\"false\"><Zone id=\"128\" transpose=\"0\"/></Zones>", "id=\"128\" of Zone is outside 0 to 127"},
         {"<Zones merge=\"false\"><Zone id=\"1\" transpose=\"-129\"/></Zones>",
          "transpose=\"-129\" of Zone is outside -128 to 127"},
@@ -356,12 +357,12 @@ TEST(FileCheck, JudgesValuesOfFunctions) {
         {keyWith("<ChangeProgram type=\"12\"/>"), ""},
         {keyWith("<ChangeProgram type=\"-1\"/>"), "type=\"-1\" of ChangeProgram is below 0"},
         {keyWith("<ChangeProgram type=\"next\"/>"),
-         "type=\"next\" of ChangeProgram is no number of 32 bits, so \"0\" is taken"},
+         "type=\"next\" of ChangeProgram is not a number of 32 bits, so \"0\" is used"},
         {keyWith("<SelectControl type=\"left\"/>"), ""},
         {keyWith("<SelectControl type=\"2,5\"/>"), ""},
         {keyWith("<SelectControl type=\"-1,-1\"/>"), ""},
-        {keyWith("<SelectControl type=\"2,16\"/>"), "type=\"2,16\" of SelectControl is no cell from 0,0 to 15,15"},
-        {keyWith("<ChangeTempo value=\"++1\"/>"), "value=\"++1\" of ChangeTempo is no amount such as +5, -5 or 5"},
+        {keyWith("<SelectControl type=\"2,16\"/>"), "type=\"2,16\" of SelectControl is not a cell from 0,0 to 15,15"},
+        {keyWith("<ChangeTempo value=\"++1\"/>"), "value=\"++1\" of ChangeTempo is not an amount such as +5, -5 or 5"},
         {keyWith("<NoFunction/>"), ""},
     });
 }
@@ -372,9 +373,9 @@ TEST(FileCheck, JudgesNamesOfKeys) {
         {keys("<Key id=\"Unknown\" global=\"true\"/>"), ""},
         {keys("<Key id=\"Shift Control Alt Win Numpad Enter\" global=\"true\"/>"), ""},
         {keys("<Key id=\"Left Shift\" global=\"true\"/>"),
-         "id=\"Left Shift\" of Key is no key's name, so that no key reaches it"},
+         "id=\"Left Shift\" of Key is not the name of a key, so no key triggers it"},
         {keys("<Key id=\"shift F1\" global=\"true\"/>"),
-         "id=\"shift F1\" of Key is no key's name, so that no key reaches it"},
+         "id=\"shift F1\" of Key is not the name of a key, so no key triggers it"},
     });
 }
 
@@ -384,7 +385,7 @@ TEST(FileCheck, JudgesSequences) {
         {"<Sequence>0,a,12</Sequence>", "the sequence holds \"a\", which can't be read"},
         {"<Sequence>0 Vx</Sequence>", "the sequence holds \"Vx\", which can't be read"},
         {"<Sequence>1 2 3 4</Sequence>",
-         "the sequence holds more than three offsets in one item; those behind are ignored"},
+         "the sequence holds more than three offsets in one item; the rest are ignored"},
     });
 }
 
@@ -397,29 +398,29 @@ TEST(FileCheck, JudgesEventsOfControls) {
     const std::string routing = " output=\"-1\" channel=\"-1\" zone=\"-1\"";
     EXPECT_EQ(check(event("midiEvent=\"Note On,60\"" + routing)), Said());
     EXPECT_EQ(check(event("midiEvent=\"Note on\"" + routing)),
-              Said{"3: midiEvent=\"Note on\" of Function is no MIDI event"});
+              Said{"3: midiEvent=\"Note on\" of Function is not a MIDI event"});
     EXPECT_EQ(check(event("midiEvent=\"Controller Change\"" + routing)),
               Said{"3: midiEvent=\"Controller Change\" of Function is read as \"Controller Change,0\""});
     EXPECT_EQ(check(event("midiEvent=\"Controller Change,200\"" + routing)),
               Said{"3: midiEvent=\"Controller Change,200\" of Function has a number outside 0 to 127"});
     EXPECT_EQ(check(event("midiEvent=\"Pitch Bend\"")),
-              (Said{"3: Function lacks output, so \"-1\" is taken", "3: Function lacks channel, so \"-1\" is taken",
-                    "3: Function lacks zone, so \"-1\" is taken"}));
+              (Said{"3: Function lacks output, so \"-1\" is used", "3: Function lacks channel, so \"-1\" is used",
+                    "3: Function lacks zone, so \"-1\" is used"}));
 }
 
-TEST(FileCheck, TellsOfIdsThatAreThereAlready) {
+TEST(FileCheck, ReportsDuplicateIds) {
     EXPECT_EQ(check(keys("<Key id=\"Q\" global=\"true\"/>\n<Key id=\"W\" global=\"true\"/>\n"
                          "<Key id=\"Q\" global=\"true\"/>\n<Key id=\"Q\" global=\"true\"/>")),
-              (Said{"4: Key \"Q\" replaces that of line 2", "5: Key \"Q\" replaces that of line 4"}));
+              (Said{"4: Key \"Q\" replaces the one on line 2", "5: Key \"Q\" replaces the one on line 4"}));
     EXPECT_EQ(check("<Controls merge=\"false\">\n<Control " + CONTROL_ATTRIBUTES + "/>\n<Control " +
                     replaced(CONTROL_ATTRIBUTES, "0,0", "0, 0") + "/></Controls>"),
-              Said{"3: Control \"0, 0\" replaces that of line 2"});
+              Said{"3: Control \"0, 0\" replaces the one on line 2"});
     EXPECT_EQ(
         check("<Zones merge=\"false\">\n<Zone id=\"3\" transpose=\"1\"/>\n<Zone id=\"3\" transpose=\"2\"/></Zones>"),
-        Said{"3: Zone \"3\" replaces that of line 2"});
+        Said{"3: Zone \"3\" replaces the one on line 2"});
 }
 
-TEST(FileCheck, TellsOfElementsOfWhichOneCounts) {
+TEST(FileCheck, ReportsElementsOfWhichOneCounts) {
     const std::string show = "<ShowHelp type=\"on\"/>";
     const auto function = [](const std::string& content) {
         return keys("<Key id=\"Q\" global=\"true\"><Function keepSending=\"false\">\n" + content +
@@ -429,16 +430,16 @@ TEST(FileCheck, TellsOfElementsOfWhichOneCounts) {
               Said{"4: there is a Down on line 3 already; the first one counts"});
     EXPECT_EQ(check(function("<Up/>\n<Up><NoFunction/></Up>\n<Up>" + show + "</Up>")), Said());
     EXPECT_EQ(check(function("<Up>" + show + "\n" + show + "</Up>")),
-              Said{"4: ShowHelp is ignored, as Up holds another element before it"});
+              Said{"4: ShowHelp is ignored because Up holds another element before it"});
     EXPECT_EQ(check(function("<Up><Nonsense/>\n" + show + "</Up>")),
               (Said{"3: unknown element \"Nonsense\" in Up is ignored",
-                    "4: ShowHelp is ignored, as Up holds another element before it"}));
+                    "4: ShowHelp is ignored because Up holds another element before it"}));
 
     const std::string up = "<UpArpeggio beat=\"1\" length=\"0\"/>";
     EXPECT_EQ(check(layers("<Layer " + LAYER_ATTRIBUTES + "><Arpeggio><!-- up --><Side/>\n" + up + "\n" + up +
                            "</Arpeggio>\n<Arpeggio>" + up + "</Arpeggio></Layer>")),
               (Said{"2: unknown element \"Side\" in Arpeggio is ignored",
-                    "4: UpArpeggio is ignored, as Arpeggio holds another element before it",
+                    "4: UpArpeggio is ignored because Arpeggio holds another element before it",
                     "5: there is a Arpeggio on line 2 already; the last one counts"}));
     EXPECT_EQ(check(layers("<Layer " + LAYER_ATTRIBUTES +
                            "><Arpeggio><UpArpeggio beat=\"0\" length=\"-1\"/></Arpeggio></Layer>")),
@@ -449,29 +450,28 @@ TEST(FileCheck, TellsOfElementsOfWhichOneCounts) {
               Said{"2: there is a Program on line 1 already; the first one counts"});
 }
 
-TEST(FileCheck, TellsOfText) {
+TEST(FileCheck, ReportsText) {
     EXPECT_EQ(check(layers("<!-- a comment is fine -->\nhello")), Said{"1: text in Layers is ignored: \"hello\""});
     EXPECT_EQ(check("<Sequence>0<b/></Sequence>"), Said{"1: unknown element \"b\" in Sequence"});
 }
 
 TEST(FileCheck, LetsAnEmptyProgramHaveANameAlone) {
     EXPECT_EQ(check("<Bank>\n<Program name=\"Empty\">\n</Program>\n</Bank>"), Said());
-    EXPECT_EQ(check("<Bank>\n<Program>\n</Program>\n</Bank>").back(), "2: Program lacks name, so \"\" is taken");
+    EXPECT_EQ(check("<Bank>\n<Program>\n</Program>\n</Bank>").back(), "2: Program lacks name, so \"\" is used");
 }
 
 TEST(FileCheck, MissesWhatAProgramAlwaysHolds) {
     EXPECT_EQ(
         check("<ProgramFile>\n<Program name=\"\" tempo=\"19\">\n<Zones merge=\"false\"/></Program></ProgramFile>"),
-        (Said{"2: tempo=\"19\" of Program is outside 20 to 250", "2: Program lacks tempoSource, so \"-1\" is taken",
-              "2: Program lacks ComputerInput, which is taken for empty",
-              "2: Program lacks Controls, which is taken for empty",
-              "2: Program lacks Layers, which is taken for empty"}));
-    EXPECT_EQ(check("<ProgramFile/>"), Said{"1: ProgramFile lacks Program, which is taken for empty"});
+        (Said{"2: tempo=\"19\" of Program is outside 20 to 250", "2: Program lacks tempoSource, so \"-1\" is used",
+              "2: Program lacks ComputerInput, which counts as empty",
+              "2: Program lacks Controls, which counts as empty", "2: Program lacks Layers, which counts as empty"}));
+    EXPECT_EQ(check("<ProgramFile/>"), Said{"1: ProgramFile lacks Program, which counts as empty"});
 }
 
 TEST(FileCheck, WantsTheProgramFirstInTheStringForm) {
     EXPECT_EQ(check("<MirelProgramFile>\n<!-- hidden -->\n<Program name=\"\"/></MirelProgramFile>"),
-              Said{"3: the program is ignored, as something stands before it"});
+              Said{"3: the program is ignored because something precedes it"});
 }
 
 TEST(FileCheck, TakesThePresetOfKeysInProgramsOnly) {
@@ -481,7 +481,7 @@ TEST(FileCheck, TakesThePresetOfKeysInProgramsOnly) {
 
 TEST(FileCheck, KeepsALineALine) {
     EXPECT_EQ(check("<Layers merge=\"a&#10;b\"/>"),
-              Said{"1: merge=\"a b\" of Layers is neither true nor false, so \"false\" is taken"});
+              Said{"1: merge=\"a b\" of Layers is neither true nor false, so \"false\" is used"});
     const std::string said = check("<Layers merge=\"" + std::string(59, 'x') + "\xC3\xA9yyy\"/>").front();
     EXPECT_EQ(said.substr(0, said.find(" of")), "1: merge=\"" + std::string(59, 'x') + "...\"");
 }
@@ -532,7 +532,7 @@ TEST_F(PresetReferences, AreLookedUpInTheDataFolder) {
     EXPECT_EQ(checkInData(sequenceSetting("Down", "")), Said{"3: there is no sequence preset \"Down\""});
 }
 
-TEST_F(PresetReferences, OfScreensThatThereAreNotAreNotLookedUp) {
+TEST_F(PresetReferences, OfMissingScreensAreNotLookedUp) {
     for (const char* const function : {"LoadMidiInputPreset", "LoadOscillatorPreset", "LoadJoystickInputPreset"})
         EXPECT_EQ(checkInData(keyWith(std::string("<") + function + " preset=\"any\"/>")), Said());
 }
@@ -547,9 +547,9 @@ TEST_F(PresetReferences, WinOverWhatStandsInTheElement) {
     addPreset("Computer Input Presets", "Mine.pst");
     addPreset("Sequences", "Up.seq");
     EXPECT_EQ(checkInData(program("Mine", "<Key id=\"Q\" global=\"true\"/>")),
-              Said{"3: the keys are ignored, as those of the preset \"Mine\" are taken"});
+              Said{"3: the keys are ignored because those of the preset \"Mine\" are used"});
     EXPECT_EQ(checkInData(sequenceSetting("Up", "<Sequence>0</Sequence>")),
-              Said{"4: the sequence is ignored, as that of the preset \"Up\" is taken"});
+              Said{"4: the sequence is ignored because that of the preset \"Up\" is used"});
 }
 
 }

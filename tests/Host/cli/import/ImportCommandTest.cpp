@@ -34,7 +34,7 @@ protected:
         return status;
     }
 
-    // The text of the file that comes of another one.
+    // The text of the file that another one is converted to.
     std::string convert(const std::string& kind, const std::string& from, const std::string& content,
                         const std::vector<std::string>& options = {}) {
         std::vector<std::string> arguments = {kind, write(from, content), path("to")};
@@ -138,7 +138,7 @@ TEST_F(ImportCommand, RefusesWhatCannotBeRead) {
 }
 
 TEST_F(ImportCommand, RefusesWhatIsNotOfVersion2) {
-    const std::string why = "holds nothing of version 2";
+    const std::string why = "holds no version 2 data";
     for (const char* const kind : {"bank", "program"})
         for (const std::string& text : {std::string(), std::string("\n \n"), std::string("<Bank>\n</Bank>\n"),
                                         std::string("PK\x03\x04\0\0", 6), std::string("\x89PNG\r\n"), std::string(KEY),
@@ -151,7 +151,7 @@ TEST_F(ImportCommand, RefusesWhatIsNotOfVersion2) {
 
 TEST_F(ImportCommand, RefusesPresetsOfNoKind) {
     expectRefusal("preset", write("mine.txt", std::string("a\nb\n") + KEY),
-                  "is no preset by its name, which begins with the word key, control or layer");
+                  "has no version 2 preset's name, which begins with the word key, control or layer");
 }
 
 TEST_F(ImportCommand, SaysWhatCannotBeWritten) {
@@ -173,7 +173,7 @@ TEST_F(ImportCommand, WantsAKindAndTwoFiles) {
     EXPECT_EQ(import({"bank", "a", "b", "--data"}), 2);
     EXPECT_TRUE(m_complained.starts_with("mirel: --data takes a folder\n"));
     EXPECT_EQ(import({"bank", "a", "b", "--bogus"}), 2);
-    EXPECT_TRUE(m_complained.starts_with("mirel: there is no option --bogus\n"));
+    EXPECT_TRUE(m_complained.starts_with("mirel: unknown option --bogus\n"));
     EXPECT_EQ(import({"--help"}), 0);
     EXPECT_TRUE(m_printed.starts_with("usage: mirel import"));
 }

@@ -78,7 +78,7 @@ protected:
         return lines;
     }
 
-    // What a failing call leaves: one line that begins with the file's name, status 2 and no output.
+    // Checks the result of a failing call: one line that begins with the file's name, status 2 and no output.
     void expectRefusal(int status, const std::string& file, const std::string& text) {
         EXPECT_EQ(status, 2);
         EXPECT_EQ(m_complained, path(file) + ": " + text + "\n");
@@ -114,7 +114,7 @@ TEST_F(RenderTest, PresetsComeFromTheDataFolderAndNeverFromTheCurrentOne) {
     EXPECT_EQ(output(), (std::vector<std::string>{"0 on ch0 60 100", "120 off ch0 60 100"}));
 }
 
-TEST_F(RenderTest, ItSaysWhatItReadPlayedAndDropped) {
+TEST_F(RenderTest, ItReportsWhatItReadPlayedAndDropped) {
     MidiFileEvent sysex;
     sysex.status = MIDI_FILE_SYSEX;
     sysex.data = "\x7e\x7f\xf7";
@@ -127,8 +127,8 @@ TEST_F(RenderTest, ItSaysWhatItReadPlayedAndDropped) {
                              "  read 4 events\n"
                              "  played 2 events\n"
                              "  dropped 2 events\n"
-                             "    as no layer takes it: 1 event\n"
-                             "    as the desk carries none: 1 system message\n"
+                             "    because no layer takes it: 1 event\n"
+                             "    because the desk doesn't carry it: 1 system message\n"
                              "  wrote " +
                              path("out.mid") + "\n");
 }
@@ -143,7 +143,7 @@ TEST_F(RenderTest, TheTemposOfTheFileAreKept) {
               (std::vector<MidiFileTempo>{{0, 500000}}));
 }
 
-TEST_F(RenderTest, ChannelsThatDoNotEnterPassStraight) {
+TEST_F(RenderTest, ChannelsThatDoNotEnterBypassTheLayers) {
     writeInput({event(0, NOTE_ON, 0, 60, 100), event(0, NOTE_ON, 4, 40, 100), event(480, NOTE_OFF, 0, 60, 0),
                 event(480, NOTE_OFF, 4, 40, 0)});
     ASSERT_EQ(renderWithLayers("<Layers><Layer channel='9' transpose='+12'/></Layers>", {"--through", "1-3,6"}), 0);
@@ -171,7 +171,7 @@ TEST_F(RenderTest, ANoteThatTheFileNeverEndsIsEnded) {
 TEST_F(RenderTest, AnArpeggioWithoutEndIsCutOff) {
     writeInput({event(0, NOTE_ON, 0, 60, 100), event(480, NOTE_OFF, 0, 60, 0)});
     ASSERT_EQ(renderWithLayers("<Layers><Layer toggle='type1'><Arpeggio><UpArpeggio/></Arpeggio></Layer></Layers>"), 0);
-    EXPECT_NE(m_printed.find("  ended an arpeggio that would have gone on for ever\n"), std::string::npos);
+    EXPECT_NE(m_printed.find("  ended an arpeggio that would never have stopped\n"), std::string::npos);
     const auto lines = output();
     ASSERT_FALSE(lines.empty());
     EXPECT_NE(lines.back().find(" off "), std::string::npos);
@@ -249,7 +249,7 @@ TEST_F(RenderTest, BadLayersAndZonesGetOneLine) {
     expectRefusal(render({"--zones", path("layers.pst")}), "layers.pst", "is not an element Zones");
 }
 
-// Songs that come with a game, of which every note must have ended when the last one has.
+// Songs that come with a game; every note must have ended when the last one has.
 TEST_F(RenderTest, SongsPlayThroughTheExampleBandAndNothingHangs) {
     const std::string folder = "/usr/share/games/openttd/baseset/openmsx";
     const auto songs = Platform::Files::list(folder, ".mid");

@@ -39,7 +39,7 @@ TEST(RunOptionsTest, BadArgumentsAreRefusedWithOneLine) {
         {{"--bank"}, "--bank needs a value"},
         {{"--in", ""}, "--in needs a value"},
         {{"song.mid"}, "run takes options only, not \"song.mid\""},
-        {{"--loud", "1"}, "run knows no --loud"},
+        {{"--loud", "1"}, "unknown option --loud"},
         {{"--seconds", "-1"}, "--seconds takes a number of seconds, not \"-1\""},
         {{"--seconds", "nan"}, "--seconds takes a number of seconds, not \"nan\""},
         {{"--seconds", "2x"}, "--seconds takes a number of seconds, not \"2x\""},

@@ -40,12 +40,12 @@ TEST(TerminalKeyParserTest, SequencesAreFunctionKeys) {
     EXPECT_EQ(keysOf("\x1b[5~\x1b[6~\x1b[2~\x1b[3~\x1b[H\x1b[F"), "Page Up, Page Down, Insert, Delete, Home, End");
 }
 
-TEST(TerminalKeyParserTest, ModifiersStandInTheSequence) {
+TEST(TerminalKeyParserTest, ModifiersAreInTheSequence) {
     EXPECT_EQ(keysOf("\x1b[1;2P\x1b[1;5A\x1b[3;5~"), "Shift F1, Control Up, Control Delete");
     EXPECT_EQ(keysOf("\x1bq"), "Alt Q");
 }
 
-TEST(TerminalKeyParserTest, SomeTerminalsTellOfReleasesAndRepeats) {
+TEST(TerminalKeyParserTest, SomeTerminalsReportReleasesAndRepeats) {
     TerminalKeyParser parser;
     EXPECT_FALSE(parser.tellsReleases());
     EXPECT_EQ(keysOf(parser, "\x1b[?11u"), "");
@@ -54,7 +54,7 @@ TEST(TerminalKeyParserTest, SomeTerminalsTellOfReleasesAndRepeats) {
     EXPECT_EQ(keysOf(parser, "\x1b[1;2:3P\x1b[57413u"), "Shift F1-, Numpad +");
 }
 
-TEST(TerminalKeyParserTest, AbilitiesWithoutReleasesAreNoHelp) {
+TEST(TerminalKeyParserTest, CapabilitiesWithoutReleasesDoNotCount) {
     for (const char* answer : {"\x1b[?0u", "\x1b[?u", "\x1b[?1u", "\x1b[?8u", "\x1b[?29u", "\x1b[?2c"}) {
         TerminalKeyParser parser;
         parser.parse(answer);
@@ -81,7 +81,7 @@ TEST(TerminalKeyParserTest, SequencesMayComeInPieces) {
     EXPECT_EQ(keysOf(parser, "5Ab"), "Control Up, B");
 }
 
-TEST(TerminalKeyParserTest, AnEscapeThatStaysAloneIsTheKey) {
+TEST(TerminalKeyParserTest, ALoneEscapeIsTheKey) {
     TerminalKeyParser parser;
     EXPECT_EQ(keysOf(parser, "\x1b"), "");
     const auto left = parser.flush();
@@ -90,7 +90,7 @@ TEST(TerminalKeyParserTest, AnEscapeThatStaysAloneIsTheKey) {
     EXPECT_TRUE(parser.flush().empty());
 }
 
-TEST(TerminalKeyParserTest, NonsenseIsPassedOver) {
+TEST(TerminalKeyParserTest, NonsenseIsSkipped) {
     EXPECT_EQ(keysOf("\x1b[999999999999999999999;99999999999:99u"), "");
     EXPECT_EQ(keysOf("\x1b[<0;1;2Mq"), "Q") << "a mouse";
     EXPECT_EQ(keysOf("\xC3\xABq"), "Q") << "a letter that no key has";

@@ -14,12 +14,12 @@ double periodOf(double tempo) {
     return 60000 / tempo / 24;
 }
 
-// A master whose ticks come at their time, or late by up to some jitter, and a reader who looks every millisecond.
+// A master whose ticks come on time, or late by up to some jitter, and a reader that looks every millisecond.
 class Master {
 public:
     explicit Master(ClockFollower& follower) : m_follower(follower) {}
 
-    // Ticks for a while. The largest distance between the position and the truth, over the last half, is told.
+    // Sends ticks for a while. Returns the largest error of the position over the last half.
     double run(double tempo, int ticks, double jitter = 0) {
         const double period = periodOf(tempo);
         double worst = 0;
@@ -53,7 +53,7 @@ public:
         m_now += milliseconds;
     }
 
-    // The next tick is the first of a new count.
+    // Makes the next tick the first of a new count.
     void anchorAnew() { m_isAnchored = false; }
 
     void look(double time) {
@@ -98,7 +98,7 @@ TEST(ClockFollowerTest, JitterIsSmoothedOut) {
         master.run(tempo, 48, jitter);
         master.takeSteepest();
         const double perMillisecond = ClockFollower::PPQ_PER_TICK / periodOf(tempo);
-        // Ticks come late by 1.5 ms in the middle; what is left around that is less than what came in.
+        // Ticks come late by 1.5 ms on average; the remaining deviation is smaller than the jitter that came in.
         EXPECT_LT(master.run(tempo, 480, jitter), jitter * perMillisecond) << tempo;
         EXPECT_LT(master.takeSteepest(), jitter * perMillisecond) << "no leap at " << tempo;
         EXPECT_NEAR(follower.tempo(), tempo, tempo * 0.05);
@@ -139,7 +139,7 @@ TEST(ClockFollowerTest, StopHoldsThePositionAgainstAllTicks) {
     }
 }
 
-TEST(ClockFollowerTest, FirstTickAfterAStartStandsWhereTheClockStopped) {
+TEST(ClockFollowerTest, FirstTickAfterAStartIsWhereTheClockStopped) {
     for (const bool isContinue : {false, true}) {
         ClockFollower follower;
         Master master(follower);
@@ -159,7 +159,7 @@ TEST(ClockFollowerTest, FirstTickAfterAStartStandsWhereTheClockStopped) {
     }
 }
 
-TEST(ClockFollowerTest, ClockThatNeverSaidStartIsFollowed) {
+TEST(ClockFollowerTest, ClockThatNeverSentAStartIsFollowed) {
     ClockFollower follower;
     follower.tick(1000);
     EXPECT_TRUE(follower.isRunning(1001));
@@ -193,7 +193,7 @@ TEST(ClockFollowerTest, ShortDropOutIsPlayedOverByTheTicksThatCome) {
 
 TEST(ClockFollowerTest, TicksInBunchesKeepTheirCountAndTempo) {
     ClockFollower follower;
-    // A sound server hands on what came in a block of 21.3 ms at its end.
+    // A sound server delivers what came in during a block of 21.3 ms at the block's end.
     const double block = 1024.0 / 48;
 
     double last = 0;

@@ -62,7 +62,7 @@ TEST(DeskClockTest, ManyChangesOfTempoLoseNoTime) {
     DeskClock clock(START);
     std::int64_t now = START;
     std::int32_t to = 0;
-    // A fader on its way: 121 and 119 are 120 together.
+    // A fader in motion: alternating between 121 and 119 averages 120.
     for (int i = 0; i < 30000; ++i) {
         clock.setTempo(i % 2 == 0 ? 121 : 119);
         now += MILLISECOND;
@@ -137,7 +137,7 @@ TEST(DeskClockTest, ExternalClockGoesByItsTicks) {
     EXPECT_NEAR(clock.externalTempo(), 60, 0.1);
 }
 
-TEST(DeskClockTest, ExternalClockThatStandsHoldsTheTime) {
+TEST(DeskClockTest, StoppedExternalClockHoldsTheTime) {
     DeskClock clock(START);
     clock.setExternal(true);
     std::int64_t now = START;
@@ -152,7 +152,7 @@ TEST(DeskClockTest, ExternalClockThatStandsHoldsTheTime) {
     EXPECT_NEAR(clock.advance(now).to, stopped + 480, 3);
 }
 
-TEST(DeskClockTest, NudgePassesTwoPpqWhileAnExternalClockStands) {
+TEST(DeskClockTest, NudgePassesTwoPpqWhileAnExternalClockIsStopped) {
     DeskClock clock(START);
     clock.setExternal(true);
     clock.nudge();
@@ -194,7 +194,7 @@ TEST(DeskClockTest, ExternalClockIsKnownAtOnceAfterAMomentOnTheInternalOne) {
     clock.setExternal(true);
     std::int64_t now = START;
     runExternal(clock, now, 48);
-    // A reset of the desk: the clock is internal for a moment, and the ticks go on.
+    // During a reset of the desk, the clock is internal for a moment while the ticks go on.
     clock.setExternal(false);
     runExternal(clock, now, 1);
     clock.setExternal(true);

@@ -44,7 +44,7 @@ public:
         return found == outputs.end() ? -1 : static_cast<int>(found - outputs.begin());
     }
 
-    // What the engine plays to an output.
+    // Plays an event to an output, as the engine does.
     static void play(PortDesk& desk, int output, MidiMessage::MessageType status, char note) {
         MirelMidiMessage message;
         message.setMidiMessage(MidiMessage(status, note, 100, 0));
@@ -82,12 +82,12 @@ TEST_F(PortDeskTest, LogSaysWhichPortsDoNotWork) {
     EXPECT_TRUE(desk->stop());
 }
 
-TEST_F(PortDeskTest, PortThatFailsAnewIsToldAnew) {
+TEST_F(PortDeskTest, PortThatFailsAgainIsReportedAgain) {
     system->plugOutputs({"Synth"});
     system->refuse("Synth", true);
     const auto desk = make();
     desk->start();
-    // It is tried again and again, and told once.
+    // It is tried again and again, but reported once.
     const int times = system->timesOpened("Synth");
 
     system->refuse("Synth", false);
@@ -176,7 +176,7 @@ TEST_F(PortDeskTest, SwitchedOutputStaysSoInTheNextRun) {
     EXPECT_TRUE(desk->stop());
 }
 
-TEST_F(PortDeskTest, HearsOfPortsThatComeWhileItStarts) {
+TEST_F(PortDeskTest, NoticesPortsThatAppearWhileItStarts) {
     system->plugOutputs({"Synth"});
     const auto desk = make();
     std::jthread user([&] {
@@ -186,7 +186,7 @@ TEST_F(PortDeskTest, HearsOfPortsThatComeWhileItStarts) {
     desk->start();
 
     user.join();
-    // The desk plays to none that it has not heard of.
+    // The desk plays only to outputs that it has been informed of.
     EXPECT_TRUE(eventually([&] {
         play(*desk, findOutput(*desk, "Late"), MidiMessage::NoteOn, 60);
         return !system->sent("Late").empty();

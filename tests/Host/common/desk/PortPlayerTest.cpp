@@ -82,7 +82,7 @@ TEST_F(PortPlayerTest, EventsGoToTheirOutputs) {
     EXPECT_EQ(system->sent("B"), (Sent{{0xc0, 5}}));
 }
 
-TEST_F(PortPlayerTest, WhatIsNoWholeMessageIsNotSent) {
+TEST_F(PortPlayerTest, OnlyWholeMessagesAreSent) {
     for (const auto status : {MidiMessage::SystemExclusive, MidiMessage::EndOfSysex, MidiMessage::Empty,
                               static_cast<MidiMessage::MessageType>(0xf4), static_cast<MidiMessage::MessageType>(0x70)})
         player.playMidi(event(status, 1, 2, 0, 1));
@@ -115,7 +115,7 @@ TEST_F(PortPlayerTest, TempoSourceDrivesTheSlices) {
     EXPECT_NEAR(playAfter(SECOND).to, to + 960, 1);
 }
 
-TEST_F(PortPlayerTest, PulseLetsEventsPlayWhileTheClockStands) {
+TEST_F(PortPlayerTest, PulseLetsEventsPlayWhileTheClockIsStopped) {
     player.setTempoSource(0);
     player.pulseSequencer();
     EXPECT_EQ(playAfter(1000), (Slice{before.to, before.to + 1}));
@@ -133,7 +133,7 @@ TEST_F(PortPlayerTest, EnableReachesThePorts) {
     EXPECT_TRUE(system->isOutputOpen("A"));
 }
 
-TEST_F(PortPlayerTest, PlayingTakesNothingFromTheHeap) {
+TEST_F(PortPlayerTest, PlayingAllocatesNothing) {
     player.setTempoSource(0);
     system->receive("Clock", {0xf8}, now);
     const MirelMidiMessage on = event(MidiMessage::NoteOn, 60, 100, 0, 1);
@@ -152,7 +152,7 @@ TEST_F(PortPlayerTest, ThreadPlaysSlicesThatJoin) {
     std::atomic<int> slices{0};
     std::atomic<DWORD> thread{0};
     std::atomic<bool> joins{true};
-    std::int32_t end = -1;  // Of the thread alone.
+    std::int32_t end = -1;  // Used by the thread only.
     std::int32_t start = -1;
 
     player.start([&](std::int32_t from, std::int32_t to) {
@@ -216,7 +216,7 @@ TEST_F(PortPlayerTest, RecorderKeepsTheMomentsOfTheSlices) {
     EXPECT_NE(content.find(std::string("\x87\x40\x80\x3c", 4)), std::string::npos);
 }
 
-TEST_F(PortPlayerTest, HungOutputHoldsUpNoSlice) {
+TEST_F(PortPlayerTest, HungOutputDoesNotDelaySlices) {
     system->hang("A", true);
     for (int i = 0; i < 20000; ++i) {
         now += 1000;

@@ -30,7 +30,7 @@ TEST_F(RecordTargetTest, ARecordingGoesWhereItShould) {
     EXPECT_TRUE(Platform::Files::size(folder.file("take.mid")));
 }
 
-TEST_F(RecordTargetTest, OneThatCanNotIsRescuedBesideTheOnesBefore) {
+TEST_F(RecordTargetTest, OneThatCanNotIsRescuedBesideEarlierOnes) {
     ASSERT_TRUE(Platform::Files::createFolders(folder.file("data")));
     const std::string wanted = folder.file("none/take.mid");
     for (const char* name : {"Rescued recording.mid", "Rescued recording 2.mid", "Rescued recording 3.mid"}) {

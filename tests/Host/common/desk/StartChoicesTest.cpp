@@ -14,7 +14,7 @@ TEST(StartChoices, FindAProgramByNameBeforeItsNumber) {
     EXPECT_EQ(findProgram(names, "3"), 2);
 }
 
-TEST(StartChoices, FindNoProgramThatIsNotThere) {
+TEST(StartChoices, FindNoMissingProgram) {
     const std::vector<std::string> names = {"Piano"};
     for (const char* wanted : {"", "0", "2", "-1", "piano", "1x", "99999999999999"})
         EXPECT_EQ(findProgram(names, wanted), -1) << wanted;

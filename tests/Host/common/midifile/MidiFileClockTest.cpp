@@ -53,20 +53,20 @@ TEST(MidiFileClockTest, TicksOfAFrameBecomePpqAtTheTempoGiven) {
         std::int64_t expected;
     };
 
-    // A second at 120 quarters a minute is 960 ppq.
+    // A second at 120 beats a minute is 960 ppq.
     for (const Case& c :
          {Case{25, 40, 120, 1000, 960}, Case{25, 40, 60, 1000, 480}, Case{25, 40, 120, 1, 1}, Case{24, 4, 120, 96, 960},
           Case{30, 80, 120, 2400, 960}, Case{30, 80, 120, 1, 0}, Case{30, 80, 120, 2, 1},
           // 30 drop: 30000 frames take 1001 seconds; an hour of 107892 frames is 3599.9964 seconds.
           Case{29, 1, 120, 30000, 960960}, Case{29, 1, 120, 107892, 3455997}, Case{29, 80, 120, 2400000, 960960},
-          // Half a ppq goes up: 1/16 of a second at 120 is 60 ppq, at 1 it is half a ppq.
+          // Half a ppq is rounded up: 1/16 of a second at 120 is 60 ppq, at 1 it is half a ppq.
           Case{24, 2, 1, 3, 1}, Case{24, 4, 1, 5, 0}}) {
         EXPECT_EQ(MidiFileClock(frames(c.frames, c.ticks), c.tempo).ppq(c.tick), c.expected)
             << c.frames << " " << c.ticks << " " << c.tempo << " " << c.tick;
     }
 }
 
-TEST(MidiFileClockTest, TheTempoForFramesIsKeptToItsRange) {
+TEST(MidiFileClockTest, TheTempoForFramesIsClamped) {
     EXPECT_EQ(MidiFileClock(frames(25, 40), 0).ppq(60000), MidiFileClock(frames(25, 40), 1).ppq(60000));
     EXPECT_EQ(MidiFileClock(frames(25, 40), -5).ppq(60000), 480);
     EXPECT_EQ(MidiFileClock(frames(25, 40), 2000).ppq(60000), 480000);
@@ -83,7 +83,7 @@ TEST(MidiFileClockTest, TheLargestTicksDoNotOverflow) {
     EXPECT_EQ(MidiFileClock(frames(29, 255), 1000).ppq(7649999), 8007999);
 }
 
-TEST(MidiFileClockTest, TicksOutsideTheRangeAreKeptToIt) {
+TEST(MidiFileClockTest, TicksAreClampedToTheRange) {
     const MidiFileClock clock(quarters(480));
     EXPECT_EQ(clock.ppq(-1), 0);
     EXPECT_EQ(clock.ppq(INT64_MIN), 0);

@@ -122,7 +122,7 @@ TEST(MidiFileReaderTest, AnEventMayNotReachIntoTheNextTrack) {
 }
 
 TEST(MidiFileReaderTest, BadHeadersAndChunksAreRefusedWithPlaceAndReason) {
-    const std::string noHeader = "byte 0: no standard MIDI file, its header is missing";
+    const std::string noHeader = "byte 0: not a standard MIDI file: its header is missing";
     const std::vector<ErrorCase> cases{
         {"nothing", "", noHeader},
         {"three bytes", "MTh", noHeader},
@@ -139,10 +139,10 @@ TEST(MidiFileReaderTest, BadHeadersAndChunksAreRefusedWithPlaceAndReason) {
         {"format 2", header(2, 1, 96) + chunk("MTrk", END),
          "byte 8: format 2 (patterns without an order) can't be read, only 0 and 1"},
         {"format 3", header(3, 1, 96) + chunk("MTrk", END), "byte 8: unknown format 3, only 0 and 1 can be read"},
-        {"division 0", header(1, 0, 0), "byte 12: a division of no ticks to the quarter"},
+        {"division 0", header(1, 0, 0), "byte 12: a division of zero ticks per quarter note"},
         {"23 frames", header(1, 0, 0xe928), "byte 12: an unknown rate of 23 frames"},
         {"128 frames", header(1, 0, 0x8028), "byte 12: an unknown rate of 128 frames"},
-        {"no ticks to the frame", header(1, 0, 0xe700), "byte 12: a division of no ticks to the frame"},
+        {"no ticks to the frame", header(1, 0, 0xe700), "byte 12: a division of zero ticks per frame"},
         {"no track", header(1, 1, 96), "byte 14: track 1 of 1 is missing, the file ends at byte 14"},
         {"one track of two", header(1, 2, 96) + chunk("MTrk", END),
          "byte 26: track 2 of 2 is missing, the file ends at byte 26"},

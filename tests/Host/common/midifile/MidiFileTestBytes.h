@@ -1,4 +1,4 @@
-// Builds MIDI files byte by byte and tells their events as text, for the tests of the MIDI file classes.
+// Builds MIDI files byte by byte and describes their events as text, for the tests of the MIDI file classes.
 #pragma once
 
 #include "Host/common/midifile/MidiFile.h"

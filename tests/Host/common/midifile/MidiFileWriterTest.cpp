@@ -88,7 +88,7 @@ TEST(MidiFileWriterTest, EventsAreSortedAndThoseOfATimeKeepTheirOrder) {
               "0:90.0(04,40) 5:90.0(02,40) 5:90.0(05,40) 10:90.0(01,40) 10:90.0(03,40)");
 }
 
-TEST(MidiFileWriterTest, TracksStandApartInFormat1AndTogetherInFormat0) {
+TEST(MidiFileWriterTest, TracksAreSeparateInFormat1AndMergedInFormat0) {
     MidiFileWriter writer;
     const std::size_t first = writer.addTrack("one");
     const std::size_t second = writer.addTrack();
@@ -140,7 +140,7 @@ TEST(MidiFileWriterTest, ATrackEndsAtItsSetEndOrItsLastEvent) {
     EXPECT_TRUE(writer.setEnd(0, MidiFileWriter::MAX_PPQ));
 }
 
-TEST(MidiFileWriterTest, WhatCantStandInAFileIsNotAdded) {
+TEST(MidiFileWriterTest, WhatAFileCantHoldIsNotAdded) {
     const std::vector<std::pair<const char*, MidiFileEvent>> cases{
         {"time below 0", {-1, 0x90, 0, 60, 64, {}}},
         {"time too large", {MidiFileWriter::MAX_PPQ + 1, 0x90, 0, 60, 64, {}}},
@@ -167,7 +167,7 @@ TEST(MidiFileWriterTest, WhatCantStandInAFileIsNotAdded) {
     EXPECT_EQ(writer.content(Layout::SINGLE_TRACK), header(0, 1, 480) + chunk("MTrk", END));
 }
 
-TEST(MidiFileWriterTest, ThereAreAsManyTracksAsTheHeaderCanTell) {
+TEST(MidiFileWriterTest, TracksAreLimitedByTheHeader) {
     MidiFileWriter writer;
     for (int i = 1; i < 0xffff; ++i)
         writer.addTrack();

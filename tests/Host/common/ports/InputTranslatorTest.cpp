@@ -18,7 +18,7 @@ protected:
         translator.receive(bytes.data(), bytes.size(), microseconds);
     }
 
-    // "90 60 100 ch -" an event: status, data, channel or - for the default one; then forgets them.
+    // "90 60 100 ch -" per event: status, data, channel or - for the default one; then forgets them.
     std::vector<std::string> entered() {
         std::vector<std::string> lines;
         for (const MirelMidiMessage& event : events) {

@@ -44,7 +44,7 @@ TEST(MidiByteParserTest, SystemCommonEndsTheRunningStatus) {
               (Messages{{0x90, 60, 100}, {0xf6, 0, 0}, {0xf3, 1, 0}}));
 }
 
-TEST(MidiByteParserTest, RealTimeBytesMayStandInsideOfAMessage) {
+TEST(MidiByteParserTest, RealTimeBytesMayInterruptAMessage) {
     EXPECT_EQ(parse({0x90, 0xf8, 60, 0xfa, 100, 61, 0xfe, 101}),
               (Messages{{0xf8, 0, 0}, {0xfa, 0, 0}, {0x90, 60, 100}, {0xfe, 0, 0}, {0x90, 61, 101}}));
 }
@@ -80,7 +80,7 @@ TEST(MidiByteParserTest, NonsenseGivesOnlyWholeMessages) {
     }
 }
 
-TEST(MidiByteParserTest, PackedWordsTellTheirLength) {
+TEST(MidiByteParserTest, PackedWordsHaveTheirLength) {
     MidiByteParser parser;
     EXPECT_EQ(parser.lengthOfPacked(0x00643c90), 3u);
     EXPECT_EQ(parser.lengthOfPacked(0x000005c0), 2u);

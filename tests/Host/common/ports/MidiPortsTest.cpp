@@ -66,7 +66,7 @@ private:
     std::vector<MirelMidiMessage> m_events;
 };
 
-TEST_F(MidiPortsTest, ThereIsAlwaysTheRecorder) {
+TEST_F(MidiPortsTest, TheRecorderIsAlwaysThere) {
     const auto ports = make();
     EXPECT_EQ(names(ports->outputs()), (Names{"Recorder+"})) << "even before the first look";
     settle(*ports);
@@ -309,7 +309,7 @@ TEST_F(MidiPortsTest, NothingComesInWhenNobodyListensAnyMore) {
     EXPECT_TRUE(takeEvents().empty()) << "not even the end of the note that is held";
 }
 
-TEST_F(MidiPortsTest, ClockInputIsHeard) {
+TEST_F(MidiPortsTest, ClockInputIsFollowed) {
     system->plugInputs({"Keys", "Drums"});
     const auto ports = make();
     update(*ports);

@@ -67,7 +67,7 @@ TEST(OutputQueueTest, LastPlacesAreKeptForEndings) {
     EXPECT_TRUE(queue.push(noteOn(2))) << "with room again notes are taken again";
 }
 
-// Everything that ends something, one of each kind and place.
+// Everything that ends something, of each kind and place.
 std::vector<OutputEvent> allEndings() {
     std::vector<OutputEvent> endings;
     for (unsigned channel = 0; channel < 16; ++channel) {
@@ -129,7 +129,7 @@ TEST(OutputQueueTest, OwedNoteOffNeverCutsOffALaterNote) {
     EXPECT_EQ(next, noteOn(60));
 }
 
-TEST(OutputQueueTest, TakesNothingFromTheHeap) {
+TEST(OutputQueueTest, AllocatesNothing) {
     OutputQueue queue;
     std::size_t count = 0;
     {
@@ -144,8 +144,8 @@ TEST(OutputQueueTest, TakesNothingFromTheHeap) {
     EXPECT_EQ(count, 0u);
 }
 
-// A fast player and a slow port: whatever is dropped, at the end nothing sounds that should not, and nothing has been
-// ended after it was begun for the last time.
+// A fast player and a slow port: whatever is dropped, in the end nothing sounds that should not, and no note was ended
+// after it began for the last time.
 TEST(OutputQueueTest, NothingSoundsOnAfterAnOverflowBetweenTwoThreads) {
     OutputQueue queue;
     std::atomic<bool> isDone{false};

@@ -78,7 +78,7 @@ TEST_F(PortLineTest, WhatSoundsEndsBeforeThePortIsClosed) {
     EXPECT_TRUE(line.waitUntilFinished(farOff()));
 
     const Sent sent = system->sent(PORT);
-    // Of what still waited only the endings are sent, so the beginning may be missing, and then its end is not needed.
+    // Only the endings of what still waited are sent, so the beginning may be missing, and then its end is not needed.
     int sounding = 0;
     for (const auto& bytes : sent) {
         if (bytes[0] == 0x91)
@@ -105,7 +105,7 @@ TEST_F(PortLineTest, EndOfNotesIsSentBehindWhatIsQueued) {
     EXPECT_TRUE(line.isOpen());
 }
 
-TEST_F(PortLineTest, HungPortHoldsUpNobody) {
+TEST_F(PortLineTest, HungPortBlocksNobody) {
     open();
     system->hang(PORT, true);
 
@@ -128,7 +128,7 @@ TEST_F(PortLineTest, HungPortHoldsUpNobody) {
     EXPECT_TRUE(line.isOpen()) << "the newest wish counts";
 }
 
-TEST_F(PortLineTest, HungPortIsLeftBehindAtTheEnd) {
+TEST_F(PortLineTest, HungPortIsAbandonedAtTheEnd) {
     {
         PortLine doomed("doomed line");
         doomed.open([s = system] { return s->openOutput({PORT, 1}); });
@@ -140,7 +140,7 @@ TEST_F(PortLineTest, HungPortIsLeftBehindAtTheEnd) {
         EXPECT_FALSE(doomed.waitUntilFinished(std::chrono::steady_clock::now()));
     }
 
-    // Its thread lives on with all that it needs, and cleans up when the system lets go.
+    // Its thread lives on with everything it needs, and cleans up when the system returns.
     system->hang(PORT, false);
     EXPECT_TRUE(eventually([this] { return !system->isOutputOpen(PORT); }));
     EXPECT_EQ(system->sent(PORT), (Sent{{0x90, 60, 100}, {0x80, 60, 64}}));
@@ -206,7 +206,7 @@ TEST_F(PortLineTest, NothingIsOpenedAfterTheEnd) {
     EXPECT_EQ(system->timesOpened(PORT), 0);
 }
 
-TEST_F(PortLineTest, PlayingTakesNothingFromTheHeap) {
+TEST_F(PortLineTest, PlayingAllocatesNothing) {
     open();
     std::size_t count = 0;
     {

@@ -17,7 +17,7 @@ std::vector<MidiPortId> ids(const std::vector<std::string>& names) {
     return numberCopies(names);
 }
 
-// "1 A#1 +" a row: number, name, copy, and + if it is available.
+// "1 A#1 +" per row: number, name, copy, and + if it is available.
 std::vector<std::string> told(const PortList& list) {
     std::vector<std::string> lines;
     for (const PortRow& row : list.rows())
@@ -48,7 +48,7 @@ TEST(PortListTest, AbsentPortKeepsItsRowAndItsSettings) {
     EXPECT_EQ(list.rows()[1].settings, settings);
 }
 
-TEST(PortListTest, PortsOfTheSameNameAreToldApart) {
+TEST(PortListTest, PortsOfTheSameNameAreDistinguished) {
     PortList list;
     list.update(ids({"Twin", "Other", "Twin"}));
     EXPECT_EQ(told(list), (Lines{"Twin#1+", "Other#1+", "Twin#2+"}));
@@ -82,14 +82,14 @@ TEST(PortListTest, TextReadsBackTheSame) {
     EXPECT_EQ(read.rows(), list.rows());
 }
 
-TEST(PortListTest, TextHasALineARow) {
+TEST(PortListTest, TextHasOneLinePerRow) {
     PortList list;
     list.update(ids({"Launch Pad", "Launch Pad"}));
     list.setSettings(1, {false, true, 0x0003});
     EXPECT_EQ(list.toText(), "1 0 ffff 1 Launch Pad\n0 1 0003 2 Launch Pad\n");
 }
 
-TEST(PortListTest, LinesThatMakeNoSenseArePassedOver) {
+TEST(PortListTest, LinesThatMakeNoSenseAreSkipped) {
     PortList list;
     list.readText(
         "\n"
@@ -150,7 +150,7 @@ TEST(PortListTest, FullListGivesRowsOfAbsentPortsToNewcomers) {
     EXPECT_EQ(list.rows().back().id.name, "Recorder") << "there is always place for what is built in";
 }
 
-TEST(PortListTest, SettingsOfARowThatIsNotThereChangeNothing) {
+TEST(PortListTest, SettingsOfAMissingRowChangeNothing) {
     PortList list;
     EXPECT_FALSE(list.setSettings(0, PortSettings()));
     list.update(ids({"A"}));

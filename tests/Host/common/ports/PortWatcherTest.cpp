@@ -45,7 +45,7 @@ TEST(PortWatcherTest, LooksAtOnceWhenWoken) {
     EXPECT_TRUE(eventually([&looks] { return looks->count == 1; }));
 }
 
-TEST(PortWatcherTest, LookThatHangsIsLeftBehind) {
+TEST(PortWatcherTest, LookThatHangsIsAbandoned) {
     const auto looks = std::make_shared<Looks>();
     looks->hangs = true;
     {

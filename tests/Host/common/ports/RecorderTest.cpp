@@ -85,7 +85,7 @@ TEST(RecorderTest, OldestEventsMakeRoomAndLeaveNoEndWithoutABeginning) {
         (std::vector<MidiFileEvent>{{0, 0xb0, 0, 7, 100, ""}, {0, 0x90, 0, 62, 100, ""}, {960, 0x80, 0, 62, 0, ""}}));
 }
 
-TEST(RecorderTest, WhatIsNoChannelEventIsLeftOutOfTheFile) {
+TEST(RecorderTest, OnlyChannelEventsAreInTheFile) {
     Recorder recorder;
     recorder.record(event(0xf8, 0, 0, START));
     recorder.record(event(0xff, 0, 0, START));

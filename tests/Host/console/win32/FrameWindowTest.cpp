@@ -148,7 +148,7 @@ TEST_F(FrameWindowTest, MovesByAndToWhatTheDeskSays) {
     EXPECT_EQ(position().top, 170);
 }
 
-TEST_F(FrameWindowTest, ShowsInTheMiddleWhenTheDeskKnowsNoPlace) {
+TEST_F(FrameWindowTest, ShowsInTheMiddleWhenTheDeskHasNoPlace) {
     open();
     frame->show(SW_SHOWNORMAL);
     const Rect area = workArea();
@@ -165,14 +165,14 @@ TEST_F(FrameWindowTest, APlaceAtTheEdgeOfTheScreenLeavesTheTitleInReach) {
     frame->show(SW_SHOWNORMAL);
     EXPECT_EQ(position().left, area.right - 100);
     EXPECT_EQ(position().top, area.bottom - FrameLayout::TOP);
-    // Also when the screen changes later.
+    // This also happens when the screen changes later.
     SetWindowPos(window(), nullptr, area.right - 3, 150, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     tell(WM_DISPLAYCHANGE, 32, MAKELPARAM(area.right, area.bottom));
     EXPECT_EQ(position().left, area.right - 100);
     EXPECT_EQ(position().top, 150);
 }
 
-TEST_F(FrameWindowTest, TheEndOfTheProgramIsNotTakenForAWishOfTheDesk) {
+TEST_F(FrameWindowTest, TheEndOfTheProgramIsNotTakenForARequestOfTheDesk) {
     open();
     PostMessageA(window(), Gui::UM_BANK_CHANGED, 0, 0);
     PostQuitMessage(5);
@@ -186,7 +186,7 @@ TEST_F(FrameWindowTest, ADockedDeskWithoutAPlaceBeginsAtTheBottom) {
     FrameWindow::Options options;
     options.dockToBottomEdge = true;
     open(options);
-    // As it grows before it is shown.
+    // The desk grows like this before it is shown.
     PostMessageA(window(), Gui::UM_MOVE_WINDOW, packWindowMove({true, 0}),
                  static_cast<LPARAM>(packWindowMove({true, -400})));
     frame->show(SW_SHOWNORMAL);
@@ -205,14 +205,14 @@ TEST_F(FrameWindowTest, DocksAtTheBottomOfTheScreen) {
     tell(Gui::UM_DOCK_CHANGED, FALSE);
     EXPECT_EQ(position(), docked);
 
-    // The desk grows and asks for as much upwards.
+    // The desk grows and requests as much upwards.
     tell(Gui::UM_SIZE_CHANGED, 300, 200);
     tell(Gui::UM_MOVE_WINDOW, packWindowMove({true, 0}), static_cast<LPARAM>(packWindowMove({true, -100})));
     EXPECT_EQ(position().bottom, docked.bottom);
     EXPECT_EQ(position().top, docked.top - 100);
 }
 
-TEST_F(FrameWindowTest, ADockedDeskThatWasMovedStaysWhenItIsToldAgain) {
+TEST_F(FrameWindowTest, ADockedDeskThatWasMovedStaysWhenItIsDockedAgain) {
     open();
     show();
     tell(Gui::UM_DOCK_CHANGED, TRUE);
@@ -323,7 +323,7 @@ TEST_F(FrameWindowTest, TheBorderIsMetalAndTheDeskIsNotPaintedOver) {
     EXPECT_LT(GetRValue(inactive), GetRValue(pixel(150, 6)));
 }
 
-TEST_F(FrameWindowTest, TheBorderTellsItsPartsToTheSystem) {
+TEST_F(FrameWindowTest, TheBorderReportsItsPartsToTheSystem) {
     open();
     show();
     const FrameLayout layout = FrameLayout::around(300, 100);
@@ -335,7 +335,7 @@ TEST_F(FrameWindowTest, TheBorderTellsItsPartsToTheSystem) {
     EXPECT_EQ(hit(layout.close().left + 2, layout.close().top + 2), HTCLOSE);
 }
 
-TEST_F(FrameWindowTest, AButtonActsWhenItIsLetGoWhereItWasPressed) {
+TEST_F(FrameWindowTest, AButtonActsWhenReleasedWhereItWasPressed) {
     open();
     show();
     const FrameLayout layout = FrameLayout::around(300, 100);
@@ -401,7 +401,7 @@ TEST_F(FrameWindowTest, TheUserClosesAndTheSessionEnds) {
     EXPECT_EQ(listener.sessionEndings, 1);
 }
 
-TEST_F(FrameWindowTest, TellsThatTimePasses) {
+TEST_F(FrameWindowTest, ReportsThatTimePasses) {
     open();
     EXPECT_TRUE(pumpUntil([this] { return listener.times > 0; }));
 }
@@ -421,7 +421,7 @@ TEST_F(FrameWindowTest, FilesThatAreDroppedAreOpened) {
     EXPECT_EQ(listener.requests[0].files, (std::vector<std::string>{"C:\\a.bnk", "C:\\Zo\xc3\xab.prg"}));
 }
 
-// What another start with these data comes to, while the window, which belongs to a first one, answers.
+// The result of another start with this data, while the window, which belongs to a first one, answers.
 SingleInstance::Result startAgain(HWND window, const std::string& data, const OpenRequest& request,
                                   const std::string& sameData,
                                   std::chrono::milliseconds limit = SingleInstance::WAIT_LIMIT) {
@@ -431,7 +431,7 @@ SingleInstance::Result startAgain(HWND window, const std::string& data, const Op
     std::atomic<bool> done = false;
     auto result = SingleInstance::Result::FIRST;
     {
-        // Locks know threads, so another one can stand for another process.
+        // A lock belongs to a thread, so another thread can stand in for another process.
         const TestSupport::OtherThread other([&] {
             result = SingleInstance(sameData).enter(request, limit);
             done = true;
@@ -469,7 +469,7 @@ TEST_F(FrameWindowTest, AFailureStaysInsideTheWindow) {
     EXPECT_EQ(listener.closes, 1);
 }
 
-TEST_F(FrameWindowTest, OtherProgramsDataAreNoRequests) {
+TEST_F(FrameWindowTest, OtherProgramsDataIsNotARequest) {
     open();
     char text[] = "file a.bnk";
     COPYDATASTRUCT data{1, sizeof text, text};
@@ -486,7 +486,7 @@ TEST(SingleInstance, AnotherFolderIsAnotherDesk) {
     EXPECT_EQ(second.enter({}), SingleInstance::Result::FIRST);
 }
 
-TEST(SingleInstance, ADeskThatDoesNotAnswerIsNotWaitedForForEver) {
+TEST(SingleInstance, ADeskThatDoesNotAnswerIsNotWaitedForWithoutLimit) {
     SingleInstance first("C:\\silent");
     ASSERT_EQ(first.enter({}), SingleInstance::Result::FIRST);
     auto result = SingleInstance::Result::FIRST;

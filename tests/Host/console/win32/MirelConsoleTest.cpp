@@ -24,7 +24,7 @@ std::string programPath() {
     return path.substr(0, path.rfind('\\') + 1) + MIREL_CONSOLE;
 }
 
-// A process of the program; what it writes goes into a file.
+// A process of the program; its output goes to a file.
 class Program {
 public:
     Program(const std::string& arguments, const std::string& outputFile, WORD show = SW_SHOWNORMAL) {
@@ -53,7 +53,7 @@ public:
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
-    // The exit status; 98 for one that hangs.
+    // The exit status; 98 if it hangs.
     DWORD wait() const {
         constexpr DWORD LIMIT = 60000;
         constexpr DWORD HANGS = 98;
@@ -85,7 +85,7 @@ public:
         return nullptr;
     }
 
-    // The box that it asks its user with.
+    // The message box that it shows.
     HWND waitForBox() const {
         HWND box = nullptr;
         eventually([this, &box] {
@@ -101,7 +101,7 @@ public:
         return box;
     }
 
-    // The text of the box, which is closed then.
+    // The text of the box, which this closes.
     std::string answerBox() const {
         const HWND box = waitForBox();
         const std::string text = textOf(GetDlgItem(box, 0xffff));
@@ -132,7 +132,7 @@ protected:
     TestSupport::TemporaryFolder folder;
 };
 
-TEST_F(MirelConsoleTest, TellsItsUsageAndVersion) {
+TEST_F(MirelConsoleTest, PrintsItsUsageAndVersion) {
     EXPECT_EQ(Program("--help", output()).wait(), 0u);
     EXPECT_TRUE(readOutput().starts_with("usage: MirelConsole")) << readOutput();
     EXPECT_EQ(Program("--version", output()).wait(), 0u);
@@ -141,7 +141,7 @@ TEST_F(MirelConsoleTest, TellsItsUsageAndVersion) {
 
 TEST_F(MirelConsoleTest, SaysWhatItDoesNotUnderstand) {
     EXPECT_EQ(Program("--bogus", output()).wait(), 1u);
-    EXPECT_EQ(readOutput(), "MirelConsole: there is no option --bogus; MirelConsole --help tells more\n");
+    EXPECT_EQ(readOutput(), "MirelConsole: unknown option --bogus; see MirelConsole --help\n");
 }
 
 TEST_F(MirelConsoleTest, ShowsADeskThatFillsItsFrameAndClosesIt) {
@@ -200,7 +200,7 @@ TEST_F(MirelConsoleTest, ASecondStartHandsItsFilesToTheFirst) {
     EXPECT_NE(other.waitForFrame(), nullptr);
 }
 
-TEST_F(MirelConsoleTest, ASecondStartIsHeardWhileTheFirstAsksItsUser) {
+TEST_F(MirelConsoleTest, ASecondStartIsAcceptedWhileTheFirstAsksItsUser) {
     const Program first(data() + " --bank \"" + folder.file("missing.bnk") + "\"", output());
     const HWND frame = first.waitForFrame();
     ASSERT_NE(frame, nullptr) << readOutput();
@@ -227,7 +227,7 @@ TEST_F(MirelConsoleTest, ASecondStartFindsItsProgramInItsOwnFolder) {
     EXPECT_TRUE(eventually([frame] { return textOf(frame).starts_with("1 - "); })) << textOf(frame);
 }
 
-TEST_F(MirelConsoleTest, SaysThatAFileIsNoneOfTheDesks) {
+TEST_F(MirelConsoleTest, RefusesAFileThatIsNotTheDesks) {
     const Program program(data(), output());
     const HWND frame = program.waitForFrame();
     ASSERT_NE(frame, nullptr) << readOutput();
@@ -254,34 +254,34 @@ TEST_F(MirelConsoleTest, ItsBoxesDisableNoOtherProgram) {
     EXPECT_TRUE(IsWindowEnabled(worker.handle()));
 }
 
-TEST_F(MirelConsoleTest, ABankThatIsBrokenLeavesADeskThatCanBeUsed) {
+TEST_F(MirelConsoleTest, ABrokenBankLeavesAUsableDesk) {
     ASSERT_TRUE(Platform::Files::replace(folder.file("broken.bnk"), "<bank><program>"));
     const Program program(data() + " --bank \"" + folder.file("broken.bnk") + "\" --program 2", output());
     const HWND frame = program.waitForFrame();
     ASSERT_NE(frame, nullptr) << readOutput();
-    EXPECT_EQ(program.answerBox(), folder.file("broken.bnk") + ": holds no programs that can be read.");
+    EXPECT_EQ(program.answerBox(), folder.file("broken.bnk") + ": holds no readable programs.");
     EXPECT_EQ(program.answerBox(), "The bank has no program \"2\".");
     PostMessageA(frame, WM_CLOSE, 0, 0);
     EXPECT_EQ(program.wait(), 0u);
 }
 
-TEST_F(MirelConsoleTest, APlaceThatCanNotBeWrittenIsToldBeforeTheDeskStarts) {
+TEST_F(MirelConsoleTest, APlaceThatCanNotBeWrittenIsReportedBeforeTheDeskStarts) {
     const Program program(data() + " --record \"" + folder.file("none") + "\\take.mid\"", output());
     EXPECT_EQ(program.wait(), 1u);
     EXPECT_NE(readOutput().find("take.mid: can't be written"), std::string::npos) << readOutput();
     ASSERT_TRUE(Platform::Files::replace(folder.file("file"), "text"));
     const Program other("--data \"" + folder.file("file") + "\"", output());
     EXPECT_EQ(other.wait(), 1u);
-    EXPECT_NE(readOutput().find("file: is no folder and can't be made one"), std::string::npos) << readOutput();
+    EXPECT_NE(readOutput().find("file: is not a folder and can't be created"), std::string::npos) << readOutput();
     EXPECT_EQ(Platform::Files::read(folder.file("file")).value_or(""), "text");
 }
 
-TEST_F(MirelConsoleTest, AProgramFileWithoutAProgramIsTold) {
+TEST_F(MirelConsoleTest, AProgramFileWithoutAProgramIsReported) {
     ASSERT_TRUE(Platform::Files::replace(folder.file("empty.prg"), "<Program/>"));
     const Program program(data() + " --program \"" + folder.file("empty.prg") + "\"", output());
     const HWND frame = program.waitForFrame();
     ASSERT_NE(frame, nullptr) << readOutput();
-    EXPECT_EQ(program.answerBox(), folder.file("empty.prg") + ": holds no program that can be read.");
+    EXPECT_EQ(program.answerBox(), folder.file("empty.prg") + ": holds no readable program.");
     PostMessageA(frame, WM_CLOSE, 0, 0);
     EXPECT_EQ(program.wait(), 0u);
 }
@@ -296,7 +296,7 @@ TEST_F(MirelConsoleTest, TheEndOfTheSessionKeepsTheRecording) {
     EXPECT_EQ(program.wait(), 0u) << "an installer waits for the end";
 }
 
-TEST_F(MirelConsoleTest, TheEndOfTheSessionWaitsForNoAnswer) {
+TEST_F(MirelConsoleTest, TheEndOfTheSessionDoesNotWaitForAnAnswer) {
     const std::string bank = copy("tests/data/banks/three.bnk", "Live.bnk");
     const Program program(data() + " \"" + folder.file("missing.bnk") + "\" \"" + bank + "\" --program 2", output());
     const HWND frame = program.waitForFrame();
@@ -306,7 +306,7 @@ TEST_F(MirelConsoleTest, TheEndOfTheSessionWaitsForNoAnswer) {
     EXPECT_EQ(program.wait(), 0u) << readOutput();
 }
 
-TEST_F(MirelConsoleTest, ATakeThatItsPlaceNoLongerTakesIsRescued) {
+TEST_F(MirelConsoleTest, ATakeThatCanNoLongerBeWrittenIsRescued) {
     const std::string record = folder.file("played.mid");
     const Program program(data() + " --record \"" + record + "\"", output());
     const HWND frame = program.waitForFrame();
@@ -351,7 +351,7 @@ TEST_F(MirelConsoleTest, WritesWhatWasPlayed) {
     ASSERT_NE(frame, nullptr) << readOutput();
 
     const HWND desk = FindWindowExA(frame, nullptr, "MirelGuiWindow2008LE", nullptr);
-    // A key of the built-in keys that plays a note.
+    // One of the built-in keys that play a note.
     SendMessageA(desk, WM_KEYDOWN, 'Q', 1);
     SendMessageA(desk, WM_KEYUP, 'Q', static_cast<LPARAM>(0xc0000001));
     SendMessageA(desk, WM_KEYDOWN, 'Z', 1);

@@ -16,19 +16,19 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// Asks for every key, with repeats and releases, and what the terminal can do; and takes it back. Terminals that know
-// nothing of this ignore it.
+// Requests every key, with repeats and releases, and the terminal's capabilities; the second sequence cancels that.
+// Terminals that don't support it ignore both.
 constexpr std::string_view ASK_FOR_RELEASES = "\x1b[>11u\x1b[?u";
 constexpr std::string_view STOP_ASKING = "\x1b[<u";
 
-// How long a note is when nobody tells that its key went up.
+// How long a note lasts if the terminal doesn't report key releases.
 constexpr std::chrono::milliseconds ASSUMED_PRESS{300};
 
 void writeToTerminal(std::string_view text) {
     [[maybe_unused]] const auto written = ::write(STDOUT_FILENO, text.data(), text.size());
 }
 
-// What a terminal that tells of every key no longer makes a signal of.
+// A terminal that reports every key no longer turns these into a signal.
 bool isInterrupt(const Key& key) {
     return key == Key(std::string_view("Control C")) || key == Key(std::string_view("Control Backslash"));
 }
@@ -101,7 +101,7 @@ private:
         if (isInterrupt(press.key))
             m_isInterrupted = true;
         if (isPause(press.key) && press.action == Action::PRESS)
-            ::kill(0, SIGTSTP);  // As the terminal would have told all that run together.
+            ::kill(0, SIGTSTP);  // To the whole process group, as the terminal would have done.
         if (press.action == Action::RELEASE) {
             m_down.erase(press.key);
             events.push_back({press.key, false, false});
@@ -127,7 +127,7 @@ private:
 
     termios m_state;  // As it was before.
     TerminalKeyParser m_parser;
-    std::map<Key, Clock::time_point> m_down;  // And when they were last heard of.
+    std::map<Key, Clock::time_point> m_down;  // With the time each was last reported.
     bool m_isInterrupted = false;
     bool m_isClosed = false;
 };

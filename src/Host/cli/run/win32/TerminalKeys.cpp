@@ -12,7 +12,7 @@ bool isShiftKey(WORD code) {
     return code == VK_SHIFT;
 }
 
-// The key of a record. A modifier key is not its own modifier.
+// The key of a record. A modifier key does not modify itself.
 Key toKey(const KEY_EVENT_RECORD& record) {
     const bool isExtended = (record.dwControlKeyState & ENHANCED_KEY) != 0;
     int code = record.wVirtualKeyCode;

@@ -25,7 +25,7 @@ std::string lastingName(const std::string& name) {
     return isNumbers ? name.substr(0, blank) : name;
 }
 
-// The numbers and ids of all ports that are not the desk's own.
+// The numbers and ids of all ports that don't belong to the desk.
 struct Found {
     std::vector<unsigned> numbers;
     std::vector<MidiPortId> ids;

@@ -11,7 +11,7 @@ namespace Host::AlsaPorts {
 // [any] Whether there is a sequencer that this user may use.
 bool areThere();
 
-// [any] As MidiSystem has them. The desk's own ports are those of clients that begin with its name.
+// [any] See MidiSystem. The desk's own ports are those of clients whose names begin with its name.
 MidiPortIds list(const std::string& clientName);
 std::unique_ptr<OpenMidiPort> openInput(const std::string& clientName, const MidiPortId& id, MidiReceiver receiver);
 std::unique_ptr<OpenMidiPort> openOutput(const std::string& clientName, const MidiPortId& id);

@@ -19,31 +19,31 @@ namespace Host {
 namespace {
 
 constexpr int MAX_DESKS = 20;
-// So long a working server never takes for a cycle, or to send what is queued.
+// A working server never takes this long for a cycle, or to send what is queued.
 constexpr std::int64_t PATIENCE_MICROSECONDS = 500000;
-// How the names of ports begin with which a desk reaches those of other programs. A name is there with the port from
-// the first moment, as an alias or a property would not be.
+// The prefix of the ports through which a desk reaches other programs' ports. A name exists from the port's first
+// moment, unlike an alias or a property.
 constexpr std::string_view FROM = "from ";
 constexpr std::string_view TO = "to ";
 
 void ignoreText(const char*) {}
 
-// The library keeps state for the whole process that a second server must not meet; see JackServer::connect. So all
-// places of the process are known here.
+// The library keeps process-wide state that a second server must not meet (see JackServer::connect), so all of the
+// process's places are recorded here.
 struct Places {
     std::mutex connecting;  // One attempt at a time.
-    std::mutex mutex;       // Of what follows; never held while the server is at work.
+    std::mutex mutex;       // Guards what follows; never held while the server is at work.
     std::vector<JackServer*> all;
-    bool isAttempted = false;  // An attempt to get one more is under way, or hangs.
+    bool isAttempted = false;  // An attempt to get another one is under way, or hangs.
 };
 
-// Never destroyed, as an attempt that hangs may end at any time.
+// Never destroyed, because an attempt that hangs may end at any time.
 Places& places() {
     static Places& known = *new Places;
     return known;
 }
 
-// Shared by who waits for a place and the thread that asks the server for it.
+// Shared by whoever waits for a place and the thread that asks the server for it.
 struct Attempt {
     std::mutex mutex;
     bool isAbandoned = false;
@@ -54,7 +54,7 @@ enum class Use {
     FREE,
     INPUT,
     OUTPUT,
-    SILENT,  // An output that plays nothing any more. What it played last would be heard again in each cycle otherwise.
+    SILENT,  // An output that plays nothing more. Otherwise each cycle would repeat what it played last.
     RETIRED,
 };
 
@@ -62,7 +62,7 @@ enum class Use {
 
 struct JackServer::Slot {
     std::atomic<Use> use{Use::FREE};
-    std::atomic<bool> isReplaced{false};  // The port that it is connected to has gone, and come back as another one.
+    std::atomic<bool> isReplaced{false};  // The port that it is connected to has gone and come back as another one.
     // What follows changes only while the slot is free.
     jack_port_t* port = nullptr;
     std::string other;  // The name of that port; empty for one of the desk's own.
@@ -75,8 +75,8 @@ public:
     Port(std::shared_ptr<JackServer> server, Slot& slot, bool isInput)
         : m_server(std::move(server)), m_slot(slot), m_isInput(isInput) {}
 
-    // Waits for a server that hangs as long as it does: who closes a port knows then that it hung, and what is queued,
-    // such as the ends of notes, is played if the server goes on while the program is still there.
+    // Waits as long as a hanging server hangs. So the closing thread learns that the server hung, and what is queued,
+    // such as the ends of notes, plays if the server recovers while the program still exists.
     ~Port() override {
         while (!m_slot.queue.isEmpty() && m_server->isAlive())
             Platform::sleepMilliseconds(1);
@@ -115,8 +115,8 @@ public:
         const std::int64_t limit = Platform::monotonicMicroseconds() + PATIENCE_MICROSECONDS;
         while (!m_slot.queue.isEmpty() && m_server->isAlive() && Platform::monotonicMicroseconds() < limit)
             Platform::sleepMilliseconds(1);
-        // In the cycle after the last one with events its buffer is emptied; while the program pauses, the server
-        // would play it again and again.
+        // The cycle after the last one with events empties its buffer; otherwise the server would repeat it over and
+        // over while the program is paused.
         m_server->waitForCycles(2);
     }
 
@@ -136,14 +136,14 @@ std::shared_ptr<JackServer> JackServer::connect(const std::string& clientName, s
     const auto deadline = std::chrono::steady_clock::now() + limit;
     {
         const std::lock_guard lock(places().mutex);
-        // With a client of a server that has gone still there, the library would mix up the two.
+        // The library would confuse a new client with that of a server that has gone.
         const auto& all = places().all;
         if (places().isAttempted ||
             std::any_of(all.begin(), all.end(), [](const JackServer* place) { return !place->isAlive(); }))
             return nullptr;
         places().isAttempted = true;
     }
-    // A server that hangs answers the library never, and the library waits for ever.
+    // When a server hangs, the library waits for it without a limit.
     const auto attempt = std::make_shared<Attempt>();
     AbandonableThread thread("jack connect", [attempt, clientName] {
         std::shared_ptr<JackServer> place = openPlace(clientName);
@@ -152,7 +152,7 @@ std::shared_ptr<JackServer> JackServer::connect(const std::string& clientName, s
             if (!attempt->isAbandoned)
                 attempt->place = std::move(place);
         }
-        place = nullptr;  // Too late for who asked; the next one may get another.
+        place = nullptr;  // Too late for this caller; the next one may get another.
         const std::lock_guard lock(places().mutex);
         places().isAttempted = false;
     });
@@ -163,7 +163,7 @@ std::shared_ptr<JackServer> JackServer::connect(const std::string& clientName, s
 }
 
 std::shared_ptr<JackServer> JackServer::openPlace(const std::string& clientName) {
-    // A computer without the server is nothing to complain of.
+    // A computer without the server is normal.
     jack_set_error_function(ignoreText);
     jack_set_info_function(ignoreText);
     for (int number = 1; number <= MAX_DESKS; ++number) {
@@ -177,7 +177,7 @@ std::shared_ptr<JackServer> JackServer::openPlace(const std::string& clientName)
             places().all.push_back(place.get());
             return place;
         }
-        // The server that refuses a name in use says only that something went wrong.
+        // A server that refuses a taken name only reports that something went wrong.
         if ((status & JackServerFailed) != 0)
             break;
     }
@@ -195,7 +195,8 @@ JackServer::JackServer(jack_client_t* client, std::string clientName, std::strin
 }
 
 void JackServer::leave(JackServer* place) {
-    // A server that hangs would hold up the end of the program. As it may wake up again and call back, all stays there.
+    // A hanging server would hold up the end of the program. It may recover and call back, so everything stays in
+    // place.
     if (!place->waitForCycles(1))
         return;
     jack_client_close(place->m_client);
@@ -213,7 +214,7 @@ void JackServer::goneCallback(void* self) {
     static_cast<JackServer*>(self)->m_isAlive = false;
 }
 
-// The server waits for this, so nothing is asked of it here but the name.
+// The server waits for this, so ask it for nothing but the name.
 void JackServer::registeredCallback(std::uint32_t port, int isRegistered, void* self) {
     auto& server = *static_cast<JackServer*>(self);
     server.m_lastChange = server.m_cycles.load();
@@ -256,7 +257,7 @@ void JackServer::processInput(const Slot& slot, std::uint32_t frames) {
     const std::uint32_t count = buffer ? jack_midi_get_event_count(buffer) : 0;
     if (count == 0)
         return;
-    // When it came by the server's clock, told by the desk's. What is heard now came during the cycle before.
+    // Converts the arrival time from the server's clock to the desk's. What arrives now came during the previous cycle.
     const auto serverNow = static_cast<std::int64_t>(jack_get_time());
     const std::int64_t toDesk = Platform::monotonicMicroseconds() - serverNow;
     const jack_nframes_t before = jack_last_frame_time(m_client) - frames;
@@ -269,7 +270,7 @@ void JackServer::processInput(const Slot& slot, std::uint32_t frames) {
     }
 }
 
-// Its buffer for this cycle, empty; null if there is none.
+// Its buffer for this cycle, emptied; null if there is none.
 void* JackServer::clearOutput(const Slot& slot, std::uint32_t frames) {
     void* buffer = jack_port_get_buffer(slot.port, frames);
     if (buffer)
@@ -289,7 +290,7 @@ void JackServer::processOutput(Slot& slot, std::uint32_t frames) {
     }
 }
 
-// False if the server works no more cycles. A server that has gone has certainly left every slot.
+// False if the server has stopped running cycles. A server that has gone has certainly left every slot.
 bool JackServer::waitForCycles(std::uint32_t count) const {
     const std::uint32_t first = m_cycles;
     const std::int64_t limit = Platform::monotonicMicroseconds() + PATIENCE_MICROSECONDS;
@@ -308,8 +309,8 @@ jack_port_t* JackServer::registerPort(const std::string& name, bool isInput) {
                               isInput ? JackPortIsInput : JackPortIsOutput, 0);
 }
 
-// The library keeps the desk's ports in a list that it walks through, on a thread of its own and without a lock, a few
-// cycles after any program has changed something. A port that leaves the list meanwhile would lead it astray.
+// The library keeps the desk's ports in a list that it walks, on a thread of its own and without a lock, a few cycles
+// after any program has changed something. A port must not leave the list during that walk.
 void JackServer::unregisterPort(jack_port_t* port) {
     const std::lock_guard lock(m_portsMutex);
     waitForCalm();
@@ -336,7 +337,7 @@ std::vector<std::string> JackServer::otherPorts(unsigned long flags) {
     return names;
 }
 
-// Whether a desk has made the port for itself, to reach another one. Those for other programs don't count.
+// Whether a desk created the port to reach another one. Ports that a desk offers to other programs don't count.
 bool JackServer::isOfADesk(const std::string& port) const {
     std::string_view rest = port;
     if (!rest.starts_with(m_clientName))
@@ -406,7 +407,7 @@ std::unique_ptr<OpenMidiPort> JackServer::open(const std::string& name, const st
         return nullptr;
     const std::size_t room = static_cast<std::size_t>(jack_port_name_size()) - m_name.size() - 2;
     std::string portName = name.substr(0, room);
-    std::replace(portName.begin(), portName.end(), ':', ' ');  // That divides clients and ports.
+    std::replace(portName.begin(), portName.end(), ':', ' ');  // Separates clients and ports.
     slot->port = registerPort(portName, isInput);
     if (!slot->port)
         return nullptr;
@@ -420,7 +421,7 @@ std::unique_ptr<OpenMidiPort> JackServer::open(const std::string& name, const st
                                                            isInput ? own.c_str() : other.c_str()) == 0;
     if (!isConnected)
         return nullptr;
-    // The server makes changes between two cycles; what is sent before is lost.
+    // The server makes changes between two cycles; whatever is sent before is lost.
     waitForCycles(2);
     return port;
 }

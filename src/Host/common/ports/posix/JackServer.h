@@ -15,41 +15,42 @@
 
 namespace Host {
 
-// The desk's place at a running JACK server, with all of its ports in one client.
+// The desk's client of a running JACK server, with all of its ports.
 //
-// RtMidi's ports for JACK are not used: they wait without end for a server that has stopped, can't be closed once it
-// has gone, and take a client for each port.
+// RtMidi's JACK ports are not used: they wait endlessly for a server that has stopped, can't be closed once it has
+// gone, and take a client for each port.
 class JackServer : public std::enable_shared_from_this<JackServer> {
 public:
-    static constexpr std::chrono::milliseconds CONNECT_LIMIT{3000};  // For a busy computer.
+    static constexpr std::chrono::milliseconds CONNECT_LIMIT{3000};  // Generous, for a busy computer.
 
-    // [any] A place under this name, or with a number behind it if another desk has that. Null if no server runs; none
-    // is started. Null as well if the server hasn't answered within the limit; it is left to itself then, and until it
-    // answers or goes there is no place for anybody in this process. As long as a place of this process at a server
-    // that has gone is in use there is no new one. At the end of its last user the place is given up; a server that
-    // hangs is not waited for.
+    // [any] Registers a client under this name, or with a number after it if another desk has that name. Null if no
+    // server runs; none is started. Also null if the server hasn't answered within the limit; the attempt is then
+    // abandoned, and until the server answers or goes, nobody in this process can connect. While a client of this
+    // process to a server that has gone is still in use, there is no new one. The client closes with its last user,
+    // without waiting for a server that hangs.
     static std::shared_ptr<JackServer> connect(const std::string& clientName,
                                                std::chrono::milliseconds limit = CONNECT_LIMIT);
 
     JackServer(const JackServer&) = delete;
     JackServer& operator=(const JackServer&) = delete;
 
-    // [any] False from the moment the server has gone, or has thrown the desk out.
+    // [any] False from the moment the server has gone, or has expelled the desk.
     bool isAlive() const { return m_isAlive; }
 
-    // [any] The name that the desk has there, which no other one has.
+    // [any] The desk's name at the server, which is unique.
     const std::string& name() const { return m_name; }
 
-    // [any] The ports of all other programs. Those with which another desk of the same client name reaches a port are
-    // left out: two desks would take them for new ports for ever. One that went and came back since the desk opened it
-    // is left out until the desk has closed it: it is another one of the same name, to which nothing is connected.
+    // [any] The ports of all other programs. Ports through which another desk of the same client name reaches a port
+    // are left out: two desks would keep taking them for new ports. One that went and came back since the desk opened
+    // it is left out until the desk has closed it: it is a different port of the same name, to which nothing is
+    // connected.
     MidiPortIds list();
 
-    // [any] A port of the desk that is connected to this one of another program. Null if there is no such other port.
+    // [any] A port of the desk, connected to this port of another program. Null if there is no such port.
     std::unique_ptr<OpenMidiPort> openInput(const std::string& from, MidiReceiver receiver);
     std::unique_ptr<OpenMidiPort> openOutput(const std::string& to);
 
-    // [any] A port of the desk for other programs to connect to. Null if there can't be one.
+    // [any] A port of the desk for other programs to connect to. Null if it can't be created.
     [[nodiscard]] std::unique_ptr<OpenMidiPort> openVirtualInput(const std::string& name, MidiReceiver receiver);
     std::unique_ptr<OpenMidiPort> openVirtualOutput(const std::string& name);
 
@@ -89,17 +90,17 @@ private:
     static constexpr std::size_t MAX_SLOTS = 512;
 
     jack_client_t* m_client;
-    const std::string m_clientName;  // That of all desks, without a number.
+    const std::string m_clientName;  // Common to all desks, without a number.
     const std::string m_name;
     std::atomic<bool> m_isAlive{true};
     std::atomic<std::uint32_t> m_cycles{0};      // How often the server has had the ports processed; wraps.
-    std::atomic<std::uint32_t> m_lastChange{0};  // The cycle in which somebody changed something at the server.
+    std::atomic<std::uint32_t> m_lastChange{0};  // The cycle in which somebody last changed something at the server.
     std::atomic<bool> m_isLeaving{false};
-    std::mutex m_mutex;       // Of who opens ports; not of the server's thread.
-    std::mutex m_portsMutex;  // Of the library's list of the desk's ports.
+    std::mutex m_mutex;       // For those who open ports; not for the server's thread.
+    std::mutex m_portsMutex;  // Guards the library's list of the desk's ports.
     std::mutex m_newcomersMutex;
-    std::vector<std::string> m_newcomers;  // Ports that the server has registered since the last look.
-    // Slots are used again and live as long as the client.
+    std::vector<std::string> m_newcomers;  // Ports that the server has registered since the last scan.
+    // Slots are reused, and live as long as the client.
     std::vector<std::atomic<Slot*>> m_slots;
 };
 

@@ -15,7 +15,7 @@ PosixMidiSystem::Place PosixMidiSystem::look() {
     Place now = place();
     if (now.jack && now.jack->isAlive())
         return now;
-    // To connect may take as long as the server does, so nobody waits for the lock meanwhile.
+    // Connecting may take as long as the server does, so the lock is not held meanwhile.
     now = {};
     {
         const std::lock_guard lock(m_mutex);

@@ -9,8 +9,8 @@
 
 namespace Host {
 
-// JACK if a server runs, else the sequencer of ALSA if the kernel has one, else nothing. Each look at the list decides
-// anew: a server may come and go while the desk runs.
+// JACK if a server runs, otherwise ALSA's sequencer if the kernel has one, otherwise nothing. Each scan decides afresh,
+// as a server may come and go while the desk runs.
 class PosixMidiSystem : public MidiSystem {
 public:
     explicit PosixMidiSystem(std::string clientName);
@@ -25,7 +25,7 @@ public:
     void beginClose() override;
 
 private:
-    // Where ports are at the moment: at the server, else with ALSA if that is there.
+    // Where ports are at the moment: at the server, otherwise with ALSA if it exists.
     struct Place {
         std::shared_ptr<JackServer> jack;
         bool isAlsa = false;
@@ -35,7 +35,7 @@ private:
     Place place();
 
     const std::string m_clientName;
-    std::mutex m_mutex;  // Of the place.
+    std::mutex m_mutex;  // Guards the place.
     Place m_place;
 };
 

@@ -20,11 +20,11 @@ std::string utf8(const wchar_t* wide) {
     const int needed = WideCharToMultiByte(CP_UTF8, 0, wide, -1, nullptr, 0, nullptr, nullptr);
     std::string text(static_cast<std::size_t>(std::max(needed, 1)), '\0');
     WideCharToMultiByte(CP_UTF8, 0, wide, -1, text.data(), needed, nullptr, nullptr);
-    text.pop_back();  // The zero at its end.
+    text.pop_back();  // The terminating zero.
     return text;
 }
 
-// Of all ports, by their numbers. One that tells nothing has an empty name, and keeps its number.
+// The names of all ports, by number. A port that gives no name keeps its number with an empty one.
 std::vector<std::string> inputNames() {
     std::vector<std::string> names(midiInGetNumDevs());
     for (UINT i = 0; i < names.size(); ++i) {
@@ -51,7 +51,7 @@ std::vector<MidiPortId> named(const std::vector<std::string>& names) {
     return ids;
 }
 
-// The number of a port; as many as there are if there is none of that name.
+// The number of a port; the count of ports if none has that name.
 UINT numberOf(const MidiPortId& id, const std::vector<std::string>& names) {
     const std::vector<MidiPortId> ids = numberCopies(names);
     return static_cast<UINT>(std::find(ids.begin(), ids.end(), id) - ids.begin());
@@ -83,7 +83,7 @@ public:
 
 private:
     static void CALLBACK receive(HMIDIIN, UINT message, DWORD_PTR self, DWORD_PTR word, DWORD_PTR) {
-        // A sysex needs buffers that nobody has given: the system drops it.
+        // A sysex needs buffers, and none were provided: the system drops it.
         if (message == MIM_DATA)
             reinterpret_cast<OpenInput*>(self)->take(static_cast<std::uint32_t>(word));
     }
@@ -100,7 +100,7 @@ private:
     }
 
     const MidiReceiver m_receiver;
-    MidiByteParser m_parser;  // Knows the running status.
+    MidiByteParser m_parser;  // Keeps the running status.
     HMIDIIN m_handle = nullptr;
     bool m_isStarted = false;
 };

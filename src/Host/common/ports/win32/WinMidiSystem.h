@@ -4,7 +4,7 @@
 
 namespace Host {
 
-// The multimedia ports of Windows. It has no virtual ones; a port that one program has open may be closed to others.
+// The multimedia ports of Windows. There are no virtual ones; a port opened by one program may be closed to others.
 class WinMidiSystem : public MidiSystem {
 public:
     std::string name() override { return "Windows"; }

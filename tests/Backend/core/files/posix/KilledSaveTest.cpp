@@ -1,4 +1,4 @@
-// Saves of a process that is killed in the middle.
+// Saves of a process that is killed halfway.
 #include "Backend/core/settings/RegistrySettings.h"
 #include "Backend/functions/values/SelectType.h"
 #include "tests/support/FileDesk.h"
@@ -24,12 +24,12 @@ using TestSupport::TemporaryFolder;
 
 namespace Files = Platform::Files;
 
-// Saves in turn what one and what another number stands for.
+// Saves alternately what one number stands for and what another one does.
 using Save = std::function<void(std::size_t)>;
 
 constexpr int VERSIONS = 2;
 
-// Kills a process at some moment of one of its saves. What prepare does before them is never cut short.
+// Kills a process at some moment of one of its saves. What prepare does before them is never interrupted.
 void killWhileSaving(const std::function<Save()>& prepare, std::mt19937& random) {
     int begun[2];
     ASSERT_EQ(::pipe(begun), 0);
@@ -44,7 +44,7 @@ void killWhileSaving(const std::function<Save()>& prepare, std::mt19937& random)
         }
     }
     ::close(begun[1]);
-    // Into the first save, or into one after which both versions were there; then from no to some saves further.
+    // During the first save, or during one after which both versions existed; then up to a few saves later.
     const int saves = std::uniform_int_distribution(1, VERSIONS + 1)(random);
     for (int i = 0; i < saves; ++i) {
         char byte = 0;
@@ -74,7 +74,7 @@ void saveNamed(Host::Cli::ScriptDesk& desk, const std::string& name) {
     });
 }
 
-// Several runs, as each takes its time.
+// In several runs, as each takes its time.
 class KilledSaveTest : public testing::TestWithParam<unsigned> {
 protected:
     static constexpr int BANK_KILLS = 100;

@@ -1,4 +1,4 @@
-// The manual opens with the user's program for texts, here one of the test's own.
+// The manual opens with the user's program for texts, which here is one of the test's own.
 #include "Backend/core/installation/MirelUtils.h"
 #include "Platform/Files.h"
 #include "Platform/SettingsStore.h"

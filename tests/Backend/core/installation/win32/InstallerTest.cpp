@@ -1,4 +1,4 @@
-// What the installer calls, on registry keys of the test's own.
+// What the installer calls, with the test's own registry keys.
 #include "Backend/core/installation/InstallerEntryPoints.h"
 #include "Backend/core/installation/MirelUtils.h"
 #include "Platform/Shell.h"
@@ -16,7 +16,7 @@ namespace {
 
 using Values = std::map<std::string, std::string>;
 
-// Of this process alone: others run beside it.
+// For this process only, since others run at the same time.
 std::string scratch() {
     return "Software\\MirelInstallerTest" + std::to_string(GetCurrentProcessId());
 }

@@ -1,4 +1,4 @@
-// "mirel run" as its users see it: a process of its own among other programs at a JACK server.
+// "mirel run" as its users see it: a separate process among other programs at a JACK server.
 #include "Host/common/midifile/MidiFileReader.h"
 #include "Host/common/midifile/MidiFileWriter.h"
 #include "Platform/Files.h"
@@ -27,7 +27,7 @@ using TestSupport::eventually;
 using Bytes = std::vector<std::uint8_t>;
 using Sequence = std::vector<std::string>;
 
-constexpr const char* PLAYS = " bpm";  // Stands in the last line that the program says at its start.
+constexpr const char* PLAYS = " bpm";  // Part of the last line that the program prints while it starts.
 
 std::string toText(const Bytes& bytes) {
     std::string text;
@@ -39,13 +39,13 @@ std::string toText(const Bytes& bytes) {
     return text;
 }
 
-// What follows on the last place of a part.
+// Everything after the last occurrence of a part.
 Sequence after(const Sequence& all, const std::string& part) {
     const auto last = std::find(all.rbegin(), all.rend(), part);
     return last == all.rend() ? Sequence() : Sequence(last.base(), all.end());
 }
 
-// A controller that stands for a moment. Layers play it on their channels as well.
+// A controller that marks a moment. Layers play it on their channels as well.
 bool isMark(const std::string& event) {
     return event[0] == 'b' && event.substr(2, 4) == " 10 ";
 }
@@ -80,7 +80,7 @@ protected:
         return *m_program;
     }
 
-    // The same between the output and the input of the player. Events are on their way when this returns.
+    // The same between the player's output and input. Events are on their way when this returns.
     ChildProcess& runWithPlayer(std::vector<std::string> options,
                                 ChildProcess::Streams streams = ChildProcess::Streams::PIPE) {
         options.insert(options.end(), {"--in", m_player->output(), "--out", m_player->input(), "--bank", m_bank});
@@ -89,8 +89,8 @@ protected:
         return program;
     }
 
-    // Has the player send controllers of its own until one comes back; what is heard afterwards is new. The server
-    // connects ports between two cycles, and what is sent before is lost, so one is not enough.
+    // Makes the player send controllers of its own until one comes back; whatever arrives afterwards is new. The server
+    // connects ports between two cycles and drops what is sent before, so one is not enough.
     void synchronize() {
         const std::size_t before = m_player->heard().size();
         auto next = std::chrono::steady_clock::now();
@@ -115,7 +115,7 @@ protected:
         return events;
     }
 
-    // Without the controllers that are marks: layers play them more than once.
+    // Without the controllers that serve as marks: layers play them more than once.
     Sequence heardAfterMark() const { return withoutMarks(after(heard(), m_mark)); }
 
     bool isHeard(const std::string& event) {
@@ -157,7 +157,7 @@ protected:
 
     static bool runs(const std::string& command) { return std::system(command.c_str()) == 0; }
 
-    std::vector<std::string> m_shell;  // What starts the program; empty: this process.
+    std::vector<std::string> m_shell;  // Starts the program; empty: this process.
     const TestSupport::TemporaryFolder m_folder;
     const std::string m_bank = m_folder.file("test.bnk");
     JackTestServer m_server;
@@ -322,13 +322,13 @@ TEST_F(RunTest, CharactersOfATerminalPlayAndRelease) {
     EXPECT_NE(program.output().find("\x1b[<u"), std::string::npos) << "the terminal is as it was";
 }
 
-TEST_F(RunTest, TerminalThatTellsReleasesHoldsNotes) {
+TEST_F(RunTest, TerminalThatReportsReleasesHoldsNotes) {
     startServer();
     ChildProcess& program = runWithPlayer({"--keys"}, ChildProcess::Streams::TERMINAL);
     ASSERT_TRUE(eventually([&] { return program.output().find("\x1b[?u") != std::string::npos; }));
 
     program.type("\x1b[?11u");
-    // As the answer counts from the next keys on, and longer than a press that nobody ends.
+    // The answer applies from the next keys on; this is longer than a press without a release.
     program.type("\x1b[113;1:1u\x1b[119;1:1u");
     ASSERT_TRUE(isHeard("92 4a 64"));
 
@@ -360,7 +360,7 @@ TEST_F(RunTest, QuitOfATerminalEndsNotesAndGivesItBack) {
 
 TEST_F(RunTest, PauseEndsNotesAndGivesTheTerminalBackUntilItIsOver) {
     startServer();
-    // Only a shell can have a program that pauses go on.
+    // Only a shell can resume a program that pauses.
     m_shell = {"bash", "-c", R"(set -m; "$0" "$@"; echo paused; stty -a; read -r; fg; echo ended $?)"};
 
     for (const bool tellsKeys : {false, true}) {
@@ -391,7 +391,7 @@ TEST_F(RunTest, PauseEndsNotesAndGivesTheTerminalBackUntilItIsOver) {
     }
 }
 
-TEST_F(RunTest, TerminalThatTellsLittleHoldsNoNotes) {
+TEST_F(RunTest, TerminalThatReportsNoReleasesHoldsNoNotes) {
     startServer();
     ChildProcess& program = runWithPlayer({"--keys"}, ChildProcess::Streams::TERMINAL);
     ASSERT_TRUE(eventually([&] { return program.output().find("\x1b[?u") != std::string::npos; }));
@@ -436,7 +436,7 @@ Sequence eventsOfDump(const std::string& output) {
     return events;
 }
 
-TEST_F(RunTest, ServerThatHangsAtTheStartHoldsUpNothing) {
+TEST_F(RunTest, ServerThatHangsAtTheStartDelaysNothing) {
     ASSERT_TRUE(m_server.start()) << m_server.process()->output();
     m_server.process()->suspend(true);
     run({"--bank", m_bank});
@@ -447,20 +447,20 @@ TEST_F(RunTest, ServerThatHangsAtTheStartHoldsUpNothing) {
     EXPECT_NE(ports.output().find("outputs:"), std::string::npos) << ports.output();
 }
 
-TEST_F(RunTest, ServerThatHangsAtTheEndIsTold) {
-    // A server that waits for its clients hangs on those that end without a word.
+TEST_F(RunTest, ServerThatHangsAtTheEndIsReported) {
+    // A server that waits for its clients hangs on those that exit without closing.
     ASSERT_TRUE(m_server.start(JackTestServer::Cycles::IN_TIME)) << m_server.process()->output();
     m_player.emplace("player");
     runWithPlayer({});
     m_server.process()->suspend(true);
     EXPECT_EQ(endBy(SIGINT), 0) << m_program->output();
-    EXPECT_NE(m_program->output().find("mirel run: a port hung and was left behind\n"), std::string::npos)
+    EXPECT_NE(m_program->output().find("mirel run: a port hung and was abandoned\n"), std::string::npos)
         << m_program->output();
     m_server.process()->suspend(false);
 }
 
-TEST_F(RunTest, VirtualPortsStandBetweenOtherPrograms) {
-    // A server that waits for its clients hangs on those that end without a word.
+TEST_F(RunTest, VirtualPortsConnectOtherPrograms) {
+    // A server that waits for its clients hangs on those that exit without closing.
     ASSERT_TRUE(m_server.start(JackTestServer::Cycles::IN_TIME)) << m_server.process()->output();
 
     ChildProcess dump({"stdbuf", "-o0", "jack_midi_dump"});

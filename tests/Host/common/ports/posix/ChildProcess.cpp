@@ -39,7 +39,7 @@ std::vector<std::string> environmentWith(const std::map<std::string, std::string
     return all;
 }
 
-// The near end, and the one for the other program.
+// This process's end, and the other program's.
 struct Ends {
     int nearEnd;
     int farEnd;
@@ -77,7 +77,7 @@ ChildProcess::ChildProcess(const std::vector<std::string>& arguments,
     const pid_t parent = ::getpid();
     m_pid = ::fork();
     if (m_pid == 0) {
-        // Nothing but system calls here: other threads may have held locks.
+        // Only system calls from here on: other threads may have held locks.
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
         if (::getppid() != parent)
             ::_exit(COULD_NOT_START);

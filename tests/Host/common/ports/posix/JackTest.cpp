@@ -1,4 +1,4 @@
-// The desk's ports at a real JACK server with the dummy driver, against JACK's own programs.
+// The desk's ports at a real JACK server with the dummy driver, used by JACK's own programs.
 #include "Host/common/desk/PortPlayer.h"
 #include "Host/common/ports/MidiPorts.h"
 #include "Host/common/ports/posix/JackServer.h"
@@ -23,7 +23,7 @@ using Backend::MidiEngine::MirelMidiMessage;
 using TestSupport::eventually;
 
 constexpr const char* DESK = "Mirel";
-// How JACK's programs call their ports.
+// The names that JACK's programs give their ports.
 constexpr const char* MONITOR = "midi-monitor:input";
 constexpr const char* SEQUENCER = "Seq:out";
 
@@ -38,8 +38,8 @@ protected:
         m_programs.clear();
     }
 
-    // The server goes on without a client that is late, and what that one should have heard in the meantime is lost: on
-    // a busy computer an event must be played more than once.
+    // The server goes on without a client that is late, and that client misses what was sent in the meantime: on a busy
+    // computer an event must be played more than once.
     void startServer(JackTestServer::Cycles cycles = JackTestServer::Cycles::IN_TIME,
                      int frames = JackTestServer::CALM_FRAMES) {
         ASSERT_TRUE(m_server.start(cycles, frames)) << m_server.process()->output();
@@ -105,7 +105,7 @@ protected:
         return eventually([&] { return m_ports->play(output, bytes, 0); });
     }
 
-    // Plays until a program says so. A program that has just begun may not hear yet.
+    // Plays until a program has printed it. A program that has just started may not receive anything yet.
     bool playUntilPrinted(int output, std::uint32_t bytes, const ChildProcess& program, const std::string& text) {
         return eventually([&] {
             EXPECT_TRUE(playUntilTaken(output, bytes));
@@ -154,7 +154,7 @@ TEST_F(JackTest, WithoutAServerTheDeskStartsWithItsRecorder) {
     EXPECT_EQ(system->openInput({SEQUENCER, 1}, [](const std::uint8_t*, std::size_t, std::int64_t) {}), nullptr);
 }
 
-TEST_F(JackTest, PortsOfOtherProgramsAreListedAndTheOwnAreNot) {
+TEST_F(JackTest, PortsOfOtherProgramsAreListedButNotItsOwn) {
     startServer();
     startMonitor();
     startSequencer();
@@ -182,7 +182,7 @@ TEST_F(JackTest, EventsReachAnotherProgramAndNotesEndAtTheClose) {
     const int output = find(ports.outputs(), MONITOR);
     ASSERT_GE(output, 0);
     ASSERT_TRUE(playUntilPrinted(output, 0x2ac2, monitor, "c2 2a")) << monitor.output();
-    // As often as it begins it ends.
+    // It ends as often as it begins.
     EXPECT_TRUE(playUntilPrinted(output, 0x643c91, monitor, "91 3c 64")) << monitor.output();
     EXPECT_TRUE(ports.close());
     EXPECT_TRUE(eventually([&] { return monitor.output().find("81 3c 40") != std::string::npos; })) << monitor.output();
@@ -289,7 +289,7 @@ TEST_F(JackTest, DesksDoNotTakeEachOthersConnectionsForPorts) {
         return row.id.name.find(":to ") != std::string::npos || row.id.name.find(":from ") != std::string::npos;
     };
 
-    // Each would make a new connection to the last one of the other at every look.
+    // At each look, either would connect to the other's last new port.
     for (int look = 0; look < 3; ++look) {
         update();
         second.update();
@@ -316,7 +316,7 @@ TEST_F(JackTest, OnlyTheConnectionsOfDesksAreLeftOut) {
     EXPECT_TRUE(contains(system->list().inputs, "Mirel Organ:to Mirelle in"));
 }
 
-// JACK's library looks at a client's ports on a thread of its own whenever any program changes something.
+// JACK's library walks a client's ports on a thread of its own whenever any program changes something.
 TEST_F(JackTest, PortsCloseWhileOtherProgramsChangeTheirs) {
     constexpr int ROUNDS = 30;
     constexpr int FRAMES = 128;
@@ -350,8 +350,8 @@ TEST_F(JackTest, DeskSurvivesTheEndOfTheServerAndFindsTheNextOne) {
     ASSERT_TRUE(playUntilTaken(output, 0x643c90));
 
     server().kill();
-    first.kill();  // A client of the same name, left over, would take the next one's wake-ups.
-    // More than the library's buffers hold: it must not wait for ever for room in them.
+    first.kill();  // A leftover client of the same name would take the next one's wake-ups.
+    // More than the library's buffers hold: it must not wait endlessly for room in them.
     ASSERT_TRUE(eventually([&] {
         ports.play(output, 0x003c80, 0);
         update();
@@ -369,7 +369,7 @@ TEST_F(JackTest, DeskSurvivesTheEndOfTheServerAndFindsTheNextOne) {
 }
 
 TEST_F(JackTest, EndsOfNotesWaitForAServerThatHangs) {
-    startServer(JackTestServer::Cycles::COMPLETE);  // What is played once must be heard.
+    startServer(JackTestServer::Cycles::COMPLETE);  // What is played once must arrive.
     const JackTestClient synth("synth");
     MidiPorts& ports = startPorts();
 
@@ -393,7 +393,7 @@ TEST_F(JackTest, EndsOfNotesWaitForAServerThatHangs) {
     EXPECT_TRUE(isHeard({0x81, 60, 64}));
 }
 
-TEST_F(JackTest, ServerThatHangsFromTheBeginningIsDoneWithout) {
+TEST_F(JackTest, DeskDoesWithoutAServerThatHangsFromTheBeginning) {
     startServer();
     startMonitor();
     server().suspend(true);
@@ -408,7 +408,7 @@ TEST_F(JackTest, ServerThatHangsFromTheBeginningIsDoneWithout) {
     }));
 }
 
-TEST_F(JackTest, ServerThatHangsHoldsUpNeitherTheSlicesNorTheEnd) {
+TEST_F(JackTest, ServerThatHangsDelaysNeitherTheSlicesNorTheEnd) {
     startServer();
     startMonitor();
     MidiPorts& ports = startPorts();

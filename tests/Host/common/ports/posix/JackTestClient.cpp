@@ -23,7 +23,7 @@ struct JackTestClient::State {
     jack_client_t* client = nullptr;
     jack_port_t* output = nullptr;
     jack_port_t* input = nullptr;
-    mutable std::mutex mutex;  // Of what follows.
+    mutable std::mutex mutex;  // Guards what follows.
     std::deque<Waiting> waiting;
     std::vector<Event> sent;
     std::vector<Event> heard;
@@ -39,7 +39,7 @@ void JackTestClient::State::process(jack_nframes_t frames) {
     jack_midi_clear_buffer(out);
     for (std::uint32_t last = 0; !waiting.empty(); waiting.pop_front()) {
         const Waiting& next = waiting.front();
-        last = std::max(last, std::min(next.frame, frames - 1));  // They must rise.
+        last = std::max(last, std::min(next.frame, frames - 1));  // They must ascend.
         if (jack_midi_event_write(out, last, next.bytes.data(), next.bytes.size()) != 0)
             break;
         sent.push_back({next.bytes, begin + last, now});
@@ -55,7 +55,7 @@ void JackTestClient::State::process(jack_nframes_t frames) {
 
 JackTestClient::JackTestClient(const std::string& name) : m_state(std::make_unique<State>()) {
     State& state = *m_state;
-    // A busy server refuses now and then, and it takes a while until it forgets a client of the same name.
+    // A busy server refuses now and then, and takes a while to forget a client of the same name.
     const bool isOpen = TestSupport::eventually([&] {
         state.client =
             jack_client_open(name.c_str(), static_cast<jack_options_t>(JackNoStartServer | JackUseExactName), nullptr);

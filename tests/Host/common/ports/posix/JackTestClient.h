@@ -7,14 +7,14 @@
 
 namespace Host {
 
-// Another program at the JACK server, though in this process: what is sent leaves its output "out", and it keeps what
-// its input "in" hears.
+// Another program at the JACK server, though in this process: what is sent leaves through its output "out", and it
+// records what its input "in" receives.
 class JackTestClient {
 public:
     struct Event {
         std::vector<std::uint8_t> bytes;
         std::int64_t frame;         // By the server.
-        std::int64_t microseconds;  // By the monotonic clock, when the program dealt with it.
+        std::int64_t microseconds;  // By the monotonic clock, when the program handled it.
     };
 
     // Throws std::runtime_error without a server.
@@ -31,14 +31,14 @@ public:
     int outputConnections() const;
     int inputConnections() const;
 
-    // [any] Sends one message in the next cycle, at this frame of it if it has so many.
+    // [any] Sends one message in the next cycle, at this frame if the cycle has that many.
     void send(std::vector<std::uint8_t> bytes, std::uint32_t frame = 0);
 
-    // [any] What was sent and heard so far.
+    // [any] What was sent and received so far.
     std::vector<Event> sent() const;
     std::vector<Event> heard() const;
 
-    // [any] Forgets what was sent and heard.
+    // [any] Forgets what was sent and received.
     void forget();
 
 private:

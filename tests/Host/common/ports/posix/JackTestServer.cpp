@@ -14,8 +14,8 @@ namespace Host {
 
 using TestSupport::eventually;
 
-// JACK's list of servers on a computer is short, and one that was killed stays on it until another one takes its name;
-// so there are few names, and each test takes a free one.
+// JACK's list of servers on a computer is short, and one that was killed stays on it until another one takes its name.
+// So there are only a few names, and each test takes a free one.
 JackTestServer::JackTestServer() {
     constexpr int NAMES = 4;
     const bool isFound = eventually([this] {
@@ -25,12 +25,12 @@ JackTestServer::JackTestServer() {
     });
     if (!isFound)
         throw std::runtime_error("no name is free for a JACK server");
-    // Read by JACK's library in this process and in all that it starts.
+    // Read by JACK's library in this process and in every process it starts.
     ::setenv("JACK_DEFAULT_SERVER", m_name.c_str(), 1);
     ::setenv("JACK_NO_AUDIO_RESERVATION", "1", 1);
 }
 
-// The system takes the lock back also when the test dies.
+// The system also releases the lock when the test dies.
 JackTestServer::~JackTestServer() {
     m_process.reset();
     ::close(m_lock);
@@ -53,7 +53,7 @@ bool JackTestServer::start(Cycles cycles, int frames) {
     command.insert(command.end(), {"-d", "dummy", "-r", "48000", "-p", std::to_string(frames)});
     m_process.emplace(command);
     return eventually([&] {
-        // JACK takes the last server of this name for a running one until its process is gone altogether.
+        // JACK takes the last server of this name for a running one until its process is gone completely.
         if (m_process->hasEnded())
             m_process.emplace(command);
         return JackServer::connect("probe") != nullptr;
