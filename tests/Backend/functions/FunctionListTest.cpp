@@ -270,12 +270,14 @@ TEST_F(FunctionListTest, ClonesAreEqualAndOnTheirOwn) {
     for (const auto& row : m_rows) {
         const auto function =
             row.className == "NoFunction" ? makeFunction(row, m_host.mirel()) : read(row.exampleElement);
-        std::unique_ptr<Function> clone = function->clone();
-        ASSERT_TRUE(clone) << row.className;
-        EXPECT_NE(clone.get(), function.get());
-        EXPECT_TRUE(typeid(*clone) == typeid(*function)) << row.className;
-        EXPECT_TRUE(*clone == *function) << row.className;
-        EXPECT_EQ(write(*clone), row.exampleElement);
+        const std::unique_ptr<Function> copy = function->clone();
+        ASSERT_TRUE(copy) << row.className;
+        const Function& original = *function;
+        const Function& clone = *copy;
+        EXPECT_NE(&clone, &original);
+        EXPECT_TRUE(typeid(clone) == typeid(original)) << row.className;
+        EXPECT_TRUE(clone == original) << row.className;
+        EXPECT_EQ(write(clone), row.exampleElement);
     }
 }
 
@@ -336,7 +338,8 @@ TEST_F(FunctionListTest, NoFunctionDoesNothing) {
     Functions::NoFunction function(m_host.mirel());
     function.execute();
     EXPECT_EQ(write(function), "<NoFunction/>");
-    EXPECT_TRUE(function == Functions::NoFunction(m_host.mirel()));
+    const Functions::NoFunction another(m_host.mirel());
+    EXPECT_TRUE(function == static_cast<const Function&>(another));
 }
 
 TEST_F(FunctionListTest, OnlyNoteOnOccupiesAZone) {

@@ -37,7 +37,7 @@ std::vector<OutputEvent> popAll(OutputQueue& queue) {
 TEST(OutputQueueTest, EventsComeOutInTheirOrder) {
     OutputQueue queue;
     EXPECT_TRUE(queue.isEmpty());
-    for (int round = 0; round < 5; ++round) {
+    for (unsigned round = 0; round < 5; ++round) {
         std::vector<OutputEvent> events;
         for (unsigned i = 0; i < 1000; ++i) {
             events.push_back({0x90 | i << 8, round * 1000 + i});
