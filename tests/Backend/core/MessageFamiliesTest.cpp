@@ -119,7 +119,7 @@ TEST(MessageFamiliesTest, EachMessageBringsItsValuesAndLeavesNothingBehind) {
             roundTrip(row, static_cast<Signature*>(nullptr));
         });
     });
-    EXPECT_EQ(messages, 50 + 43 + 8 + 4 + 9 + 5 + 7 + 10 + 3 + 3 + 14 + 11);
+    EXPECT_EQ(messages, 50 + 43 + 8 + 5 + 9 + 6 + 7 + 11 + 3 + 3 + 14 + 11);
 }
 
 // The numbers of all messages that a table declares, except for those of finished file operations, which nobody
