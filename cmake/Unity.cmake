@@ -3,6 +3,9 @@ option(MIREL_UNITY "Compile the sources of each target in groups" OFF)
 set(MIREL_UNITY_SIZE 16 CACHE STRING "How many sources a group has at most")
 if(MIREL_UNITY)
     find_package(Python3 REQUIRED COMPONENTS Interpreter)
+    if(MINGW)
+        add_compile_options(-Wa,-mbig-obj)  # A group has more sections than the usual format holds.
+    endif()
 endif()
 
 # To be called once all sources of the target are there.
