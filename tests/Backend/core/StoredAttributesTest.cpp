@@ -172,7 +172,6 @@ std::string startTagIn(const std::string& written, const StoredElement& element)
     return tag.ends_with('/') ? tag.substr(0, tag.size() - 1) : tag;
 }
 
-// A setting that holds only a sequence is written with it.
 std::string elementOf(const StoredElement& element, const std::string& startTag) {
     return startTag + ">" + "</" + element.tag + ">";
 }

@@ -23,9 +23,9 @@ struct Box {
     void writeXml(std::ostream& stream, int indent) const { writeEmptyElement(stream, indent, "Box", Point{.x = 7}); }
 };
 
-std::string write(void (*write)(std::ostream& stream)) {
+std::string write(void (*action)(std::ostream& stream)) {
     std::ostringstream stream;
-    write(stream);
+    action(stream);
     return stream.str();
 }
 

@@ -97,11 +97,13 @@ TEST(AttributeFormats, NumbersHaveTheirRanges) {
         expectBounds(row.place, row.tag, row.name, row.bounds);
 }
 
-TEST(AttributeFormats, NumbersOfControlsAreFree) {
-    for (const char* const name : {"value", "min", "max", "release"})
-        for (const char* const value : {"-2147483648", "2147483647"})
-            EXPECT_EQ(complaintOf(IN_CONTROLS, "Control", name, value).find("is outside -2147483648"),
-                      std::string::npos);
+TEST(AttributeFormats, OnlyItsOwnRangeBoundsAControl) {
+    for (const char* const name : {"value", "min", "max", "release"}) {
+        for (const char* const value : {"-2147483648", "2147483647"}) {
+            const std::string said = complaintOf(IN_CONTROLS, "Control", name, value);
+            EXPECT_TRUE(said.empty() || said.starts_with("is outside its own ")) << name << " " << said;
+        }
+    }
 }
 
 // The attributes of events by their names. Others are not numbers.
@@ -140,7 +142,7 @@ TEST(AttributeFormats, NumbersOfFunctionsHaveTheirRanges) {
             }
         }
     }
-    EXPECT_EQ(numbers, 54);
+    EXPECT_EQ(numbers, 55);
 }
 
 TEST(AttributeFormats, NotesMayBeMissingWhereTheLayerHasNone) {
