@@ -63,8 +63,7 @@ public:
     // it goes into answer. Returns false and does nothing for a number without a message.
     template <class Object, class Answer>
     bool handle(Object& object, UINT number, WPARAM wParam, LPARAM lParam, Answer& answer) const {
-        return ((number == Rows::Message::NUMBER &&
-                 (handle(static_cast<const Rows&>(*this), object, wParam, lParam, answer), true)) ||
+        return ((number == Rows::Message::NUMBER && (handleRow<Rows>(*this, object, wParam, lParam, answer), true)) ||
                 ...);
     }
 
@@ -82,7 +81,7 @@ public:
 
 private:
     template <class Row, class Object, class Answer>
-    static void handle(const Row& row, Object& object, WPARAM wParam, LPARAM lParam, Answer& answer) {
+    static void handleRow(const Row& row, Object& object, WPARAM wParam, LPARAM lParam, Answer& answer) {
         Row::Message::open(wParam, lParam, [&](auto&&... values) {
             const auto call = [&]() -> decltype(auto) {
                 return carryOut(object, row.handler, std::forward<decltype(values)>(values)...);

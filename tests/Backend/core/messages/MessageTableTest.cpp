@@ -37,7 +37,9 @@ void setNumbers(Target& target, const Numbers& numbers) {
 constexpr MessageTable ROWS(FAMILY, on(CLEAR, &Target::clear), on(SET_FLAG, &Target::setFlag),
                             on(SET_NUMBERS, &setNumbers), on(COUNT, &Target::count), on(FORGET, IGNORED));
 
-const auto takesFlag = [](Target&, bool) {};
+struct TakesFlag {
+    void operator()(Target&, bool) const {}
+};
 
 static_assert(HandlerOf<decltype(&Target::setFlag), Message<102, bool>>);
 static_assert(!HandlerOf<decltype(&Target::setInteger), Message<102, bool>>, "a flag is not a number");
@@ -45,8 +47,8 @@ static_assert(!HandlerOf<decltype(&Target::clear), Message<102, bool>>);
 static_assert(!HandlerOf<decltype(&Target::setFlag), Message<101>>);
 static_assert(HandlerOf<decltype(&setNumbers), Message<103, Heap<Numbers>>>);
 static_assert(!HandlerOf<decltype(&setNumbers), Message<103, Heap<std::vector<char>>>>);
-static_assert(HandlerOf<decltype(takesFlag), Message<102, bool>>);
-static_assert(!HandlerOf<decltype(takesFlag), Message<102, int>>);
+static_assert(HandlerOf<TakesFlag, Message<102, bool>>);
+static_assert(!HandlerOf<TakesFlag, Message<102, int>>);
 
 // A family lists each message of its range once, and a table has a row for each.
 static_assert(isFilledBy(RANGE, Unused<100, 106>(), CLEAR, SET_FLAG, SET_NUMBERS, COUNT, FORGET));

@@ -124,7 +124,8 @@ TEST(MessageTest, WhatIsTakenBelongsToTheReceiver) {
         return true;
     };
     EXPECT_TRUE(NUMBERS.post(take, numbers, true));
-    NUMBERS.open(posted.w, posted.l, [](Numbers taken, bool flag) {
+    NUMBERS.open(posted.w, posted.l, [](Numbers&& given, bool flag) {
+        const Numbers taken = std::move(given);
         EXPECT_EQ(taken, Numbers(50, 1));
         EXPECT_TRUE(flag);
     });
