@@ -43,7 +43,7 @@ const Case CASES[] = {
      "must be just </Program>"},
     {"a blank in the bank's end tag", "<Bank>\n</Bank >", 2, "must be just </Bank>"},
     {"a program in a program", "<Bank>\n<Program name=\"a\">\n<Program name=\"b\">\n</Program>\n</Program>\n</Bank>", 3,
-     "no child of the bank"},
+     "not a child of the bank"},
     {"an element whose name begins so",
      "<Bank>\n<Program name=\"a\">\n<Keys>\n<ProgramChange program=\"1\"/>\n</Keys>\n</Program>\n</Bank>", 0},
     {"a program in a comment", "<Bank>\n<!--\n <Program name=\"x\"> -->\n</Bank>", 2, "in a comment"},
