@@ -9,7 +9,7 @@
 namespace Host {
 
 // A desk that lets its host see which events reach the controls.
-class ObservedMirel : public Backend::Mirel, private Backend::MidiEngine::PassingEvents {
+class ObservedMirel : private Backend::MidiEngine::PassingEvents, public Backend::Mirel {
 public:
     // [player, rt, under the engine's lock] Returns whether the controls get the event as well. Must return false for a
     // desk that is not started.
