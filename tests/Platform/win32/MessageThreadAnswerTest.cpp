@@ -29,7 +29,7 @@ TEST(MessageThreadAnswerTest, WindowsAnswerWhileAPostWaitsForRoom) {
             asked += SendMessageA(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>("asked")) != 0;
         }
     });
-    thread.post(ASK, 0, 0);
+    ASSERT_TRUE(thread.post(ASK, 0, 0));
     // The queue is full once the thread has taken its question, so that only the last post waits.
     int posted = 0;
     while (posted < static_cast<int>(MessageThread::CAPACITY))

@@ -13,14 +13,10 @@
 
 namespace Host {
 
-namespace {
-
-enum class Wish { NONE, OPEN, CLOSE, FINISH };
-
-}
-
 // Shared by the line and its thread, so that a thread that hangs keeps what it may still touch.
 struct PortLine::State {
+    enum class Wish { NONE, OPEN, CLOSE, FINISH };
+
     std::mutex mutex;  // Guards the next two; never held while the port is at work.
     Wish wish = Wish::NONE;
     Opener opener;
@@ -61,7 +57,7 @@ void PortLine::State::ask(Wish newest, Opener newOpener) {
     work.notify();
 }
 
-Wish PortLine::State::takeWish(Opener& taken) {
+PortLine::State::Wish PortLine::State::takeWish(Opener& taken) {
     const std::lock_guard lock(mutex);
     taken = std::move(opener);
     opener = nullptr;
@@ -174,7 +170,7 @@ void PortLine::open(Opener opener) {
         return;
     m_state->hasFailed = false;
     m_state->isWanted = true;
-    m_state->ask(Wish::OPEN, std::move(opener));
+    m_state->ask(State::Wish::OPEN, std::move(opener));
     if (!m_thread)
         m_thread.emplace(m_name.c_str(), [state = m_state] { state->run(); });
 }
@@ -182,7 +178,7 @@ void PortLine::open(Opener opener) {
 void PortLine::close() {
     m_state->isWanted = false;
     m_state->isOpen = false;
-    m_state->ask(Wish::CLOSE, nullptr);
+    m_state->ask(State::Wish::CLOSE, nullptr);
 }
 
 void PortLine::endNotes() {
@@ -224,7 +220,7 @@ void PortLine::finish() {
     m_isFinished = true;
     m_state->isWanted = false;
     m_state->isOpen = false;
-    m_state->ask(Wish::FINISH, nullptr);
+    m_state->ask(State::Wish::FINISH, nullptr);
 }
 
 bool PortLine::waitUntilFinished(std::chrono::steady_clock::time_point deadline) {

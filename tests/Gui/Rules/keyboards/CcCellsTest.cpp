@@ -46,8 +46,9 @@ TEST(CcCells, OtherEventsStandBelow) {
 TEST(CcCells, EventsFindTheirCells) {
     for (const WideCase& row : WIDE) {
         EXPECT_EQ(findEvent(row.status, 5), row.cell);
-        if (row.status < 240)
+        if (row.status < 240) {
             EXPECT_EQ(findEvent(row.status + 15, 5), row.cell);
+        }
     }
     for (int controller = 0; controller < 128; ++controller)
         EXPECT_EQ(findEvent(177, controller), controller);

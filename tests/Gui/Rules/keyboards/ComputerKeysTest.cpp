@@ -203,10 +203,13 @@ TEST(ComputerKeys, HaveShortLabels) {
         {"Backslash", "\\"}, {"Up", "5"},       {"Left", "3"},        {"Down", "6"},           {"Right", "4"},
         {"A", "A"},          {"F12", "F12"},    {"Quote", "`"},       {"Tab", "TAB"},          {"Space", " "},
     };
-    for (const auto& [name, label] : cases)
-        for (const KeyPlace& place : getPlaces())
-            if (Key(place.code, false, false, false, false).getName() == name)
+    for (const auto& [name, label] : cases) {
+        for (const KeyPlace& place : getPlaces()) {
+            if (Key(place.code, false, false, false, false).getName() == name) {
                 EXPECT_EQ(getLabel(place.code), label) << name;
+            }
+        }
+    }
     for (const char* const name :
          {"Escape",    "Left Control", "Right Control", "Left Alt",     "Right Alt",   "Right Windows", "Left Windows",
           "Num Lock",  "Numpad Enter", "Scroll Lock",   "Print Screen", "Pause",       "Insert",        "Home",
