@@ -39,7 +39,7 @@ protected:
         desk.open();
         ShowWindow(desk.window(), SW_HIDE);
         panel.emplace(desk.gui());
-        panel->createWnd(GetModuleHandleA(nullptr), desk.host.handle());
+        panel->createWnd(GetModuleHandleA("mirel.dll"), desk.host.handle());
         panel->setupPanels();
         panel->showWnd(true);
         show(panel->getMainPanel());
