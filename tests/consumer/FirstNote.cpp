@@ -45,7 +45,7 @@ int main(int, char** arguments) {
     MidiEngine::MidiOutputPort synth;
     synth.name = "Synth";
     messages.sendSetMidiOutputPorts({synth});
-    messages.postChangeDefaultMidiOutput(SelectType(SelectType::specific, 0));
+    messages.postChangeDefaultMidiOutput(SelectType(SelectType::SPECIFIC, 0));
 
     for (int time = 0; time < 40; time += 10) {
         if (time == 10)
