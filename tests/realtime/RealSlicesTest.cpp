@@ -72,11 +72,10 @@ TEST_F(RealSlicesTest, DeskOnPorts) {
     engine.sendReset();
     engine.sendHardReset();
     EXPECT_TRUE(eventually([&] { return desk.ports().isIdle(); }));
-    const std::size_t slices = SliceGuard::count() - slicesBefore;
+    EXPECT_TRUE(eventually([&] { return SliceGuard::count() > slicesBefore + 1; }));
     EXPECT_TRUE(desk.stop());
 
     EXPECT_GT(system->sent("Synth").size(), 1000u);
-    EXPECT_GT(slices, 1u);
     EXPECT_EQ(SliceGuard::takeBreaches(), Breaches());
 }
 

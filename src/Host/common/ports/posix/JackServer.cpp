@@ -50,7 +50,10 @@ struct Attempt {
     std::shared_ptr<JackServer> place;
 };
 
-enum class Use {
+}
+
+// What a slot of the client is used for.
+enum class JackUse {
     FREE,
     INPUT,
     OUTPUT,
@@ -58,10 +61,8 @@ enum class Use {
     RETIRED,
 };
 
-}
-
 struct JackServer::Slot {
-    std::atomic<Use> use{Use::FREE};
+    std::atomic<JackUse> use{JackUse::FREE};
     std::atomic<bool> isReplaced{false};  // The port that it is connected to has gone and come back as another one.
     // What follows changes only while the slot is free.
     jack_port_t* port = nullptr;
@@ -81,10 +82,10 @@ public:
         while (!m_slot.queue.isEmpty() && m_server->isAlive())
             Platform::sleepMilliseconds(1);
         if (!m_isInput) {
-            m_slot.use = Use::SILENT;
+            m_slot.use = JackUse::SILENT;
             waitForCycles();
         }
-        m_slot.use = Use::RETIRED;
+        m_slot.use = JackUse::RETIRED;
         // Until the server's thread has certainly left the slot.
         waitForCycles();
         if (m_server->isAlive() && !m_server->m_isLeaving)
@@ -93,7 +94,7 @@ public:
         OutputEvent left;
         while (m_slot.queue.pop(left)) {
         }
-        m_slot.use = Use::FREE;
+        m_slot.use = JackUse::FREE;
     }
 
     Port(const Port&) = delete;
@@ -242,11 +243,11 @@ void JackServer::process(std::uint32_t frames) {
         if (!slot)
             break;
         switch (slot->use.load(std::memory_order_acquire)) {
-            case Use::INPUT: processInput(*slot, frames); break;
-            case Use::OUTPUT: processOutput(*slot, frames); break;
-            case Use::SILENT: clearOutput(*slot, frames); break;
-            case Use::FREE:
-            case Use::RETIRED: break;
+            case JackUse::INPUT: processInput(*slot, frames); break;
+            case JackUse::OUTPUT: processOutput(*slot, frames); break;
+            case JackUse::SILENT: clearOutput(*slot, frames); break;
+            case JackUse::FREE:
+            case JackUse::RETIRED: break;
         }
     }
     m_cycles.fetch_add(1, std::memory_order_release);
@@ -365,8 +366,8 @@ void JackServer::findReplaced() {
         Slot* slot = entry.load(std::memory_order_acquire);
         if (!slot)
             break;
-        const Use use = slot->use;
-        if ((use == Use::INPUT || use == Use::OUTPUT) &&
+        const JackUse use = slot->use;
+        if ((use == JackUse::INPUT || use == JackUse::OUTPUT) &&
             std::find(newcomers.begin(), newcomers.end(), slot->other) != newcomers.end() &&
             jack_port_connected_to(slot->port, slot->other.c_str()) == 0)
             slot->isReplaced = true;
@@ -376,7 +377,7 @@ void JackServer::findReplaced() {
 bool JackServer::isReplaced(const std::string& other) const {
     return std::any_of(m_slots.begin(), m_slots.end(), [&other](const auto& entry) {
         const Slot* slot = entry.load(std::memory_order_acquire);
-        return slot && slot->use != Use::FREE && slot->isReplaced && slot->other == other;
+        return slot && slot->use != JackUse::FREE && slot->isReplaced && slot->other == other;
     });
 }
 
@@ -393,7 +394,7 @@ JackServer::Slot* JackServer::takeFreeSlot() {
             slot = new Slot;
             entry.store(slot, std::memory_order_release);
         }
-        if (slot->use == Use::FREE)
+        if (slot->use == JackUse::FREE)
             return slot;
     }
     return nullptr;
@@ -414,7 +415,7 @@ std::unique_ptr<OpenMidiPort> JackServer::open(const std::string& name, const st
     slot->receiver = std::move(receiver);
     slot->other = other;
     slot->isReplaced = false;
-    slot->use = isInput ? Use::INPUT : Use::OUTPUT;
+    slot->use = isInput ? JackUse::INPUT : JackUse::OUTPUT;
     auto port = std::make_unique<Port>(shared_from_this(), *slot, isInput);
     const std::string own = jack_port_name(slot->port);
     const bool isConnected = other.empty() || jack_connect(m_client, isInput ? other.c_str() : own.c_str(),
