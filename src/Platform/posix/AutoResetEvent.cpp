@@ -15,13 +15,15 @@ struct AutoResetEvent::State {
     std::atomic<std::uint32_t> word{UNSET};
 };
 
-AutoResetEvent::AutoResetEvent() : m_state(std::make_unique<State>()) {}
+AutoResetEvent::AutoResetEvent() : m_state(std::make_shared<State>()) {}
 
 AutoResetEvent::~AutoResetEvent() = default;
 
 void AutoResetEvent::set() {
-    if (m_state->word.exchange(State::SET) == State::UNSET)
-        wakeOne(m_state->word);
+    // The waiter may go on and destroy the event before it is woken.
+    const std::shared_ptr<State> state = m_state;
+    if (state->word.exchange(State::SET) == State::UNSET)
+        wakeOne(state->word);
 }
 
 void AutoResetEvent::wait() {
