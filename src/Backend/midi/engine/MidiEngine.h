@@ -50,7 +50,7 @@ public:
     static constexpr std::size_t MAX_PENDING_MESSAGES = 1 << 20;
 
     // The most events that wait to be passed on to the controls.
-    static constexpr std::size_t MAX_WAITING_UPDATES = 1 << 13;
+    static constexpr std::size_t MAX_WAITING_UPDATES = 1 << 16;
 
     // Both must outlive the engine.
     MidiEngine(MirelIF& mirel, MidiPlayer& midiPlayer);
