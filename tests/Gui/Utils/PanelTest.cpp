@@ -46,7 +46,6 @@ LONG_PTR styleOf(const Panel& panel) {
     return GetWindowLongPtrA(panel.getWindowHandle(), GWL_STYLE);
 }
 
-// A window with a root panel, and three dialogs below it of 100, 50 and 70 pixels.
 // Where a panel is in its parent.
 struct Place {
     long y;
@@ -62,6 +61,7 @@ void PrintTo(const Place& place, std::ostream* stream) {
     *stream << "{y " << place.y << ", window " << place.windowHeight << ", height " << place.height << "}";
 }
 
+// A window with a root panel, and three dialogs below it of 100, 50 and 70 pixels.
 class PanelTest : public testing::Test {
 protected:
     PanelTest() {

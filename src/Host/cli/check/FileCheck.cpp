@@ -52,7 +52,7 @@ std::string quote(std::string_view text) {
     if (text.size() <= MAX_LENGTH)
         return "\"" + std::string(text) + "\"";
     std::size_t length = MAX_LENGTH;
-    while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80)
+    while (length > 0 && Text::isInsideCharacter(text[length]))
         --length;  // Not in the middle of a character.
     return "\"" + std::string(text.substr(0, length)) + "...\"";
 }
